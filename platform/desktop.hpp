@@ -1,0 +1,39 @@
+#pragma once
+
+#include "platform/forms/form.hpp"
+
+namespace quittika {
+
+/// The desktop's windows. Implemented with real windows and by the script runner.
+class Desktop {
+public:
+    Desktop() = default;
+    Desktop(const Desktop&) = delete;
+    Desktop& operator=(const Desktop&) = delete;
+    virtual ~Desktop() = default;
+
+    /// Makes a form known; from then on it can be shown. The form tells when it goes (`release`).
+    virtual void adopt(Form& form) = 0;
+    virtual void release(Form& form) = 0;
+
+    /// Shows a form. A modal one keeps the caller here until it is hidden or closed.
+    virtual void show(Form& form, Modality modality) = 0;
+    virtual void hide(Form& form) = 0;
+    virtual void raise(Form& form) = 0;
+    virtual void set_focus(Control& control) = 0;
+
+    /// Size of the screen in twips.
+    virtual int screen_width() const = 0;
+    virtual int screen_height() const = 0;
+
+    /// Sounds the desktop's attention signal.
+    virtual void beep() = 0;
+
+    /// Runs `work` once, when the present event has been handled.
+    virtual void later(std::function<void()> work) = 0;
+
+    /// Ends the program's event loop.
+    virtual void end() = 0;
+};
+
+} // namespace quittika

@@ -1,0 +1,53 @@
+#pragma once
+
+#include "platform/forms/property.hpp"
+
+#include <string>
+
+namespace quittika {
+
+enum class Buttons { Ok, YesNo, YesNoCancel };
+enum class Symbol { None, Information, Question, Exclamation, Stop };
+enum class Answer { Ok, Yes, No, Cancel };
+
+struct MessageBox {
+    std::string text;
+    std::string title;
+    Buttons buttons = Buttons::Ok;
+    Symbol symbol = Symbol::None;
+    /// What the Return key answers; by default the first button.
+    Answer preset = Answer::Ok;
+};
+
+struct FileDialog {
+    /// Pairs of text and pattern, all parted by "|": "Bilder (*.bmp)|*.bmp".
+    std::string filter;
+    /// File name that stands in the dialog at first; empty for none.
+    std::string proposed_name;
+    /// Empty for the desktop's own title.
+    std::string title;
+};
+
+/// Message boxes and the desktop's common dialogs.
+/// A dialog that the user cancels throws `Laufzeitfehler` 32755.
+class Dialogs {
+public:
+    Dialogs() = default;
+    Dialogs(const Dialogs&) = delete;
+    Dialogs& operator=(const Dialogs&) = delete;
+    virtual ~Dialogs() = default;
+
+    virtual Answer message(const MessageBox& box) = 0;
+    /// Path of the chosen file, in the system's form (UTF-8).
+    virtual std::string open_file(const FileDialog& dialog) = 0;
+    virtual std::string save_file(const FileDialog& dialog) = 0;
+    /// The colour chosen, beginning with `start`.
+    virtual Color choose_color(Color start) = 0;
+    /// Name of the font family chosen, beginning with `start`.
+    virtual std::string choose_font(const std::string& start) = 0;
+    /// Lets the user choose a printer and returns the number of copies, beginning with `copies`.
+    /// The printer chosen is the one that `Printing::printer` prints on.
+    virtual int choose_printer(int copies) = 0;
+};
+
+} // namespace quittika

@@ -1,0 +1,228 @@
+#include "platform/forms/controls.hpp"
+
+#include "platform/laufzeitfehler.hpp"
+#include "platform/text.hpp"
+
+namespace quittika {
+
+namespace {
+
+const std::string kNothing;
+
+void require(bool condition, int error) {
+    if (!condition) {
+        throw Laufzeitfehler(error);
+    }
+}
+
+const std::string& item(const std::vector<std::string>& items, int index) {
+    return index >= 0 && index < static_cast<int>(items.size()) ? items[static_cast<std::size_t>(index)] : kNothing;
+}
+
+constexpr int kInvalidCall = 5;
+constexpr int kInvalidProperty = 380;
+
+} // namespace
+
+TextBox::TextBox(Container& container, std::string_view name, std::string text)
+    : Control(container, name), Text(*this, PropertyId::Text, std::move(text)) {
+    BackColor.adopt(color::kWindow);
+}
+
+TextBox::TextBox(Container& container, ArrayIndex place, std::string text)
+    : Control(container, place), Text(*this, PropertyId::Text, std::move(text)) {
+    BackColor.adopt(color::kWindow);
+}
+
+void TextBox::select_all() {
+    SelStart.adopt(0);
+    SelLength.adopt(static_cast<int>(zeichenzahl(Text())));
+    changed(PropertyId::SelLength);
+}
+
+void TextBox::fire_for(PropertyId id) {
+    if (id == PropertyId::Text) {
+        fire(Change);
+    }
+}
+
+void CheckBox::check(PropertyId id, std::int64_t value) const {
+    require(id != PropertyId::Value || (value >= 0 && value <= 2), kInvalidProperty);
+}
+
+void CheckBox::fire_for(PropertyId id) {
+    if (id == PropertyId::Value) {
+        fire(Click);
+    }
+}
+
+void OptionButton::changed(PropertyId id) {
+    if (id == PropertyId::Value && Value()) {
+        switch_siblings_off();
+    }
+    Control::changed(id);
+}
+
+void OptionButton::switch_siblings_off() {
+    for (Control* control : form().controls()) {
+        auto* sibling = dynamic_cast<OptionButton*>(control);
+        if (sibling == nullptr || sibling == this || &sibling->container() != &container() || !sibling->Value()) {
+            continue;
+        }
+        sibling->Value.adopt(false);
+        if (sibling->view() != nullptr) {
+            sibling->view()->property_changed(PropertyId::Value);
+        }
+    }
+}
+
+void OptionButton::fire_for(PropertyId id) {
+    if (id == PropertyId::Value) {
+        fire(Click);
+    }
+}
+
+const std::string& ListBox::List(int index) const { return item(items_, index); }
+
+void ListBox::AddItem(std::string text) {
+    items_.push_back(std::move(text));
+    notify_items();
+}
+
+void ListBox::AddItem(std::string text, int index) {
+    require(index >= 0 && index <= ListCount(), kInvalidCall);
+    items_.insert(items_.begin() + index, std::move(text));
+    if (index <= ListIndex()) {
+        ListIndex.adopt(ListIndex() + 1);
+    }
+    notify_items();
+}
+
+void ListBox::RemoveItem(int index) {
+    require(index >= 0 && index < ListCount(), kInvalidCall);
+    items_.erase(items_.begin() + index);
+    if (index == ListIndex()) {
+        ListIndex.adopt(-1);
+    } else if (index < ListIndex()) {
+        ListIndex.adopt(ListIndex() - 1);
+    }
+    notify_items();
+}
+
+void ListBox::Clear() {
+    items_.clear();
+    ListIndex.adopt(-1);
+    notify_items();
+}
+
+void ListBox::assign(std::vector<std::string> items) {
+    items_ = std::move(items);
+    if (ListIndex() >= ListCount()) {
+        ListIndex.adopt(-1);
+    }
+    notify_items();
+}
+
+void ListBox::user_select(int index) {
+    if (index == ListIndex()) {
+        fire(Click);
+    } else {
+        ListIndex = index;
+    }
+}
+
+void ListBox::check(PropertyId id, std::int64_t value) const {
+    require(id != PropertyId::ListIndex || (value >= -1 && value < ListCount()), kInvalidProperty);
+}
+
+void ListBox::fire_for(PropertyId id) {
+    if (id == PropertyId::ListIndex) {
+        fire(Click);
+    }
+}
+
+ComboBox::ComboBox(Container& container, std::string_view name, std::vector<std::string> items, bool editable)
+    : Control(container, name), items_(std::move(items)), editable_(editable) {
+    BackColor.adopt(color::kWindow);
+}
+
+const std::string& ComboBox::List(int index) const { return item(items_, index); }
+
+void ComboBox::AddItem(std::string text) {
+    items_.push_back(std::move(text));
+    notify_items();
+}
+
+void ComboBox::Clear() {
+    items_.clear();
+    ListIndex.adopt(-1);
+    Text.adopt({});
+    notify_items();
+}
+
+void ComboBox::user_select(int index) {
+    if (index == ListIndex()) {
+        fire(Click);
+    } else {
+        ListIndex = index;
+    }
+}
+
+void ComboBox::check(PropertyId id, std::int64_t value) const {
+    require(id != PropertyId::ListIndex || (value >= -1 && value < ListCount()), kInvalidProperty);
+}
+
+void ComboBox::fire_for(PropertyId id) {
+    if (id == PropertyId::ListIndex) {
+        Text.adopt(List(ListIndex()));
+        fire(Click);
+    } else if (id == PropertyId::Text) {
+        fire(Change);
+    }
+}
+
+RangeControl::RangeControl(Container& container, std::string_view name, int min, int max, int value)
+    : Control(container, name), Min(*this, PropertyId::Min, min), Max(*this, PropertyId::Max, max),
+      Value(*this, PropertyId::Value, value) {}
+
+void RangeControl::check(PropertyId id, std::int64_t value) const {
+    require(id != PropertyId::Value || (value >= Min() && value <= Max()), kInvalidProperty);
+}
+
+void RangeControl::fire_for(PropertyId id) {
+    if (id == PropertyId::Value) {
+        fire(Change);
+    }
+}
+
+void Slider::fire_for(PropertyId id) {
+    RangeControl::fire_for(id);
+    if (id == PropertyId::Value) {
+        fire(Click);
+    }
+}
+
+Timer::Timer(Container& container, std::string_view name, int interval_ms, bool enabled)
+    : Control(container, name), Interval(*this, PropertyId::Interval, interval_ms) {
+    Enabled.adopt(enabled);
+}
+
+void SSTab::fire_for(PropertyId id) {
+    if (id == PropertyId::Tab) {
+        fire(Click);
+    }
+}
+
+void DriveListBox::fire_for(PropertyId id) {
+    if (id == PropertyId::Path) {
+        fire(Change);
+    }
+}
+
+void DirListBox::fire_for(PropertyId id) {
+    if (id == PropertyId::Path) {
+        fire(Change);
+    }
+}
+
+} // namespace quittika

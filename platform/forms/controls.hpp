@@ -1,0 +1,286 @@
+#pragma once
+
+#include "platform/forms/form.hpp"
+
+#include <cstdint>
+#include <vector>
+
+namespace quittika {
+
+class Label final : public Control {
+public:
+    using Control::Control;
+    std::string_view kind() const override { return "Label"; }
+};
+
+class CommandButton final : public Control {
+public:
+    using Control::Control;
+    std::string_view kind() const override { return "CommandButton"; }
+};
+
+/// A frame groups the controls that name it as their container.
+class Frame final : public Control, public Container {
+public:
+    using Control::Control;
+    std::string_view kind() const override { return "Frame"; }
+    Form& form() override { return Control::form(); }
+    Control* container_control() override { return this; }
+};
+
+/// A picture loaded from a file; the empty path is no picture.
+class PictureBox final : public Control {
+public:
+    using Control::Control;
+    std::string_view kind() const override { return "PictureBox"; }
+    Property<std::string> Picture{*this, PropertyId::Picture}; ///< path of a bmp, gif, jpg or png file
+};
+
+class Image final : public Control {
+public:
+    using Control::Control;
+    std::string_view kind() const override { return "Image"; }
+    Property<std::string> Picture{*this, PropertyId::Picture}; ///< path of a bmp, gif, jpg or png file
+};
+
+/// A coloured shape or line that the program moves about.
+class Shape final : public Control {
+public:
+    using Control::Control;
+    std::string_view kind() const override { return "Shape"; }
+};
+
+class Line final : public Control {
+public:
+    using Control::Control;
+    std::string_view kind() const override { return "Line"; }
+};
+
+/// A text field. Line ends inside the text are CR LF.
+class TextBox final : public Control {
+public:
+    TextBox(Container& container, std::string_view name, std::string text = {});
+    TextBox(Container& container, ArrayIndex place, std::string text = {});
+    std::string_view kind() const override { return "TextBox"; }
+    std::string main_value() const override { return Text(); }
+
+    Property<std::string> Text;
+    Property<bool> Locked{*this, PropertyId::Locked, false}; ///< shown and selectable, but not to be edited
+    Property<int> SelStart{*this, PropertyId::SelStart, 0};   ///< characters
+    Property<int> SelLength{*this, PropertyId::SelLength, 0}; ///< characters
+
+    /// Marks the whole text.
+    void select_all();
+
+    Event Change;
+
+protected:
+    void fire_for(PropertyId id) override;
+};
+
+/// Value 0 off, 1 on, 2 greyed.
+class CheckBox final : public Control {
+public:
+    using Control::Control;
+    std::string_view kind() const override { return "CheckBox"; }
+    std::string main_value() const override { return Value.as_text(); }
+    void user_click() override { Value = Value() == 1 ? 0 : 1; }
+
+    bool ticked() const { return Value() == 1; }
+    Property<int> Value{*this, PropertyId::Value, 0};
+
+protected:
+    void check(PropertyId id, std::int64_t value) const override;
+    void fire_for(PropertyId id) override;
+};
+
+/// One of several in a container: switching it on switches its siblings off, without an event of theirs.
+class OptionButton final : public Control {
+public:
+    using Control::Control;
+    std::string_view kind() const override { return "OptionButton"; }
+    std::string main_value() const override { return Value.as_text(); }
+    void user_click() override { Value = true; }
+
+    Property<bool> Value{*this, PropertyId::Value, false};
+
+protected:
+    void changed(PropertyId id) override;
+    void fire_for(PropertyId id) override;
+
+private:
+    void switch_siblings_off();
+};
+
+/// A list of texts, at most one of them selected.
+class ListBox final : public Control {
+public:
+    using Control::Control;
+    std::string_view kind() const override { return "ListBox"; }
+    std::string main_value() const override { return Text(); }
+
+    Property<int> ListIndex{*this, PropertyId::ListIndex, -1}; ///< selected item, -1 for none
+
+    int ListCount() const { return static_cast<int>(items_.size()); }
+    const std::vector<std::string>& items() const { return items_; }
+    /// Text of item `index`; empty if there is none.
+    const std::string& List(int index) const;
+    /// Text of the selected item, empty if none is selected.
+    const std::string& Text() const { return List(ListIndex()); }
+    void AddItem(std::string text);
+    /// Puts an item at `index`, 0 to the count; a selection moves along. Throws `Laufzeitfehler` 5.
+    void AddItem(std::string text, int index);
+    /// Takes an item away. A selected one leaves nothing selected. Throws `Laufzeitfehler` 5.
+    void RemoveItem(int index);
+    void Clear();
+    /// Replaces all items and leaves the selection where it was, if there is still an item.
+    void assign(std::vector<std::string> items);
+
+    /// A user's click on an item: fires `Click` even where it was selected already.
+    void user_select(int index);
+
+protected:
+    void check(PropertyId id, std::int64_t value) const override;
+    void fire_for(PropertyId id) override;
+
+private:
+    std::vector<std::string> items_;
+};
+
+/// A drop-down list; with `editable` the text can be typed, too.
+class ComboBox final : public Control {
+public:
+    ComboBox(Container& container, std::string_view name, std::vector<std::string> items = {}, bool editable = false);
+    std::string_view kind() const override { return "ComboBox"; }
+    std::string main_value() const override { return Text(); }
+
+    Property<std::string> Text{*this, PropertyId::Text};
+    Property<int> ListIndex{*this, PropertyId::ListIndex, -1};
+
+    bool editable() const { return editable_; }
+    int ListCount() const { return static_cast<int>(items_.size()); }
+    const std::vector<std::string>& items() const { return items_; }
+    const std::string& List(int index) const;
+    void AddItem(std::string text);
+    void Clear();
+    void user_select(int index);
+
+    Event Change;
+
+protected:
+    void check(PropertyId id, std::int64_t value) const override;
+    void fire_for(PropertyId id) override;
+
+private:
+    std::vector<std::string> items_;
+    bool editable_;
+};
+
+/// What scroll bars, sliders and progress bars share: a value within bounds.
+class RangeControl : public Control {
+public:
+    RangeControl(Container& container, std::string_view name, int min, int max, int value);
+    std::string main_value() const override { return Value.as_text(); }
+
+    Property<int> Min;
+    Property<int> Max;
+    Property<int> Value;
+
+    Event Change;
+
+protected:
+    void check(PropertyId id, std::int64_t value) const override;
+    void fire_for(PropertyId id) override;
+};
+
+class HScrollBar final : public RangeControl {
+public:
+    using RangeControl::RangeControl;
+    std::string_view kind() const override { return "HScrollBar"; }
+};
+
+class VScrollBar final : public RangeControl {
+public:
+    using RangeControl::RangeControl;
+    std::string_view kind() const override { return "VScrollBar"; }
+};
+
+/// A slider; `Click` follows each change.
+class Slider final : public RangeControl {
+public:
+    using RangeControl::RangeControl;
+    std::string_view kind() const override { return "Slider"; }
+
+protected:
+    void fire_for(PropertyId id) override;
+};
+
+class ProgressBar final : public RangeControl {
+public:
+    using RangeControl::RangeControl;
+    std::string_view kind() const override { return "ProgressBar"; }
+};
+
+/// Fires `Tick` every `Interval` ms while it is enabled and its form is loaded; an interval of 0 stops it.
+class Timer final : public Control {
+public:
+    Timer(Container& container, std::string_view name, int interval_ms, bool enabled = true);
+    std::string_view kind() const override { return "Timer"; }
+    bool running() const { return Enabled() && Interval() > 0 && form().loaded(); }
+
+    Property<int> Interval; ///< ms
+    Event Tick;
+};
+
+class Menu final : public Control {
+public:
+    using Control::Control;
+    std::string_view kind() const override { return "Menu"; }
+};
+
+/// One panel of a status bar; its caption is its text.
+class StatusPanel final : public Control {
+public:
+    using Control::Control;
+    std::string_view kind() const override { return "StatusPanel"; }
+};
+
+/// Pages behind tabs; `Tab` is the page in front, from 0.
+class SSTab final : public Control, public Container {
+public:
+    using Control::Control;
+    std::string_view kind() const override { return "SSTab"; }
+    Form& form() override { return Control::form(); }
+    Control* container_control() override { return this; }
+    Property<int> Tab{*this, PropertyId::Tab, 0};
+
+protected:
+    void fire_for(PropertyId id) override;
+};
+
+/// Drives and directories, chosen by path.
+class DriveListBox final : public Control {
+public:
+    using Control::Control;
+    std::string_view kind() const override { return "DriveListBox"; }
+    std::string main_value() const override { return Path(); }
+    Property<std::string> Path{*this, PropertyId::Path}; ///< root of the chosen drive
+    Event Change;
+
+protected:
+    void fire_for(PropertyId id) override;
+};
+
+class DirListBox final : public Control {
+public:
+    using Control::Control;
+    std::string_view kind() const override { return "DirListBox"; }
+    std::string main_value() const override { return Path(); }
+    Property<std::string> Path{*this, PropertyId::Path}; ///< chosen directory
+    Event Change;
+
+protected:
+    void fire_for(PropertyId id) override;
+};
+
+} // namespace quittika

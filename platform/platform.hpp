@@ -1,0 +1,19 @@
+#pragma once
+
+#include "platform/desktop.hpp"
+#include "platform/dialogs.hpp"
+#include "platform/printing.hpp"
+#include "platform/shell.hpp"
+
+namespace quittika {
+
+/// Everything that the program expects of the place it runs on.
+struct Platform {
+    Desktop& desktop;
+    Dialogs& dialogs;
+    Shell& shell;
+    Clock& clock;
+    Printing& printing;
+};
+
+} // namespace quittika

@@ -1,0 +1,64 @@
+#pragma once
+
+#include "platform/forms/property.hpp"
+
+#include <memory>
+#include <string>
+#include <string_view>
+
+namespace quittika {
+
+/// A font on paper.
+struct PrintFont {
+    std::string name;
+    double size = 10; ///< points
+    bool bold = false;
+    bool operator==(const PrintFont&) const = default;
+};
+
+/// Measures text in millimetres, the same for every device.
+class FontMetrics {
+public:
+    FontMetrics() = default;
+    FontMetrics(const FontMetrics&) = delete;
+    FontMetrics& operator=(const FontMetrics&) = delete;
+    virtual ~FontMetrics() = default;
+
+    virtual double text_width(const PrintFont& font, std::string_view text) const = 0;
+    /// Distance from one line to the next.
+    virtual double line_height(const PrintFont& font) const = 0;
+};
+
+/// What reaches the paper. All lengths are millimetres from the page's left and top edge.
+class PrintDevice {
+public:
+    PrintDevice() = default;
+    PrintDevice(const PrintDevice&) = delete;
+    PrintDevice& operator=(const PrintDevice&) = delete;
+    virtual ~PrintDevice() = default;
+
+    /// Draws a text whose line box begins at `left`, `top`; `width` is the measured one.
+    virtual void text(double left, double top, double width, const PrintFont& font, Color color,
+                      std::string_view text) = 0;
+    virtual void line(double x1, double y1, double x2, double y2, Color color) = 0;
+    /// Draws a picture file stretched to the box. Throws `Laufzeitfehler` 481 when it cannot be loaded.
+    virtual void picture(double left, double top, double width, double height, const std::string& path) = 0;
+    virtual void new_page() = 0;
+    /// Ends the document and hands it over. Throws `Laufzeitfehler` 482 when that fails.
+    virtual void end_document() = 0;
+};
+
+/// The places that can be printed on.
+class Printing {
+public:
+    Printing() = default;
+    Printing(const Printing&) = delete;
+    Printing& operator=(const Printing&) = delete;
+    virtual ~Printing() = default;
+
+    virtual const FontMetrics& metrics() const = 0;
+    /// Begins a job on the printer chosen last. Throws `Laufzeitfehler` 482 when it takes none.
+    virtual std::unique_ptr<PrintDevice> printer(const std::string& job_title) = 0;
+};
+
+} // namespace quittika
