@@ -94,7 +94,7 @@ public:
     virtual std::string as_text() const = 0;
 
 protected:
-    ~PropertyBase() = default;
+    virtual ~PropertyBase() = default;
     PropertyHost& host() const { return host_; }
 
 private:
