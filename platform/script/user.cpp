@@ -1,0 +1,154 @@
+#include "platform/script/user.hpp"
+
+#include "platform/forms/controls.hpp"
+#include "platform/script/lookup.hpp"
+#include "platform/script/protocol.hpp"
+#include "platform/script/user_values.hpp"
+
+#include <algorithm>
+#include <array>
+#include <string_view>
+
+namespace quittika {
+
+namespace {
+
+constexpr std::array<std::string_view, 11> kFocusable{
+    "CommandButton", "CheckBox",   "OptionButton", "TextBox",      "ListBox",   "ComboBox",
+    "HScrollBar",    "VScrollBar", "Slider",       "DriveListBox", "DirListBox"};
+
+bool focusable(const Control &control) {
+    return std::find(kFocusable.begin(), kFocusable.end(), control.kind()) != kFocusable.end();
+}
+
+/// Byte length of the UTF-8 character that begins at `at`; a stray byte counts as one.
+std::size_t character_length(std::string_view text, std::size_t at) {
+    std::size_t length = 1;
+    while (at + length < text.size() && (static_cast<unsigned char>(text[at + length]) & 0xC0U) == 0x80U) {
+        ++length;
+    }
+    return length;
+}
+
+template <class List> void require_item(List &list, int index) {
+    if (index < -1 || index >= list.ListCount()) {
+        throw CommandError(lookup::full_name(list) + " hat keinen Eintrag " + std::to_string(index));
+    }
+}
+
+template <class List> void choose(List &list, int index) {
+    if (index == -1) {
+        list.ListIndex = -1;
+    } else {
+        list.user_select(index);
+    }
+}
+
+} // namespace
+
+void User::require_reachable(const Control &control) const {
+    lookup::require_reachable(desktop_, control);
+}
+
+void User::focus(Control &control) {
+    if (focusable(control)) {
+        desktop_.set_focus(control);
+        require_reachable(control); // leaving the former control may have taken this one away
+    }
+}
+
+void User::set(Control &control, const std::string &value) {
+    require_reachable(control);
+    const std::function<void()> give = user_values::setter(control, value);
+    focus(control);
+    give();
+    if (control.kind() == "TextBox" && desktop_.focus() == &control) {
+        desktop_.drop_focus();
+    }
+}
+
+void User::type(Control &control, const std::string &text) {
+    require_reachable(control);
+    const auto append = user_values::typist(control);
+    focus(control);
+    for (std::size_t at = 0; at < text.size();) {
+        const std::size_t length = character_length(text, at);
+        require_reachable(control); // the characters before may have closed the window
+        append(text.substr(at, length));
+        at += length;
+    }
+}
+
+void User::press(Control &control) {
+    const auto *const list = dynamic_cast<const ListBox *>(&control);
+    const bool nothing_under_the_pointer = list != nullptr && list->ListIndex() < 0;
+    const bool only_drops_down = control.kind() == "ComboBox";
+    if (!nothing_under_the_pointer && !only_drops_down) {
+        control.user_click();
+    }
+}
+
+void User::click(Control &control) {
+    require_reachable(control);
+    focus(control);
+    press(control);
+}
+
+void User::dblclick(Control &control) {
+    click(control);
+    if (control.form().shown()) {
+        fire_event(control.DblClick);
+    }
+}
+
+void User::select(Control &control, int index) {
+    require_reachable(control);
+    if (auto *const list = dynamic_cast<ListBox *>(&control)) {
+        require_item(*list, index);
+        focus(control);
+        choose(*list, index);
+    } else if (auto *const combo = dynamic_cast<ComboBox *>(&control)) {
+        require_item(*combo, index);
+        focus(control);
+        choose(*combo, index);
+    } else {
+        throw CommandError(lookup::full_name(control) + " hat keine Einträge");
+    }
+}
+
+void User::key(Control &control, int code) {
+    require_reachable(control);
+    focus(control);
+    fire_event(control.KeyDown, code);
+}
+
+void User::mouse(Control &control, const std::string &action, const MouseEvent &event) {
+    struct Action {
+        std::string_view name;
+        Control::Mouse Control::*handler;
+        bool needs_button;
+    };
+    static constexpr std::array<Action, 3> kActions{{{"down", &Control::MouseDown, true},
+                                                     {"move", &Control::MouseMove, false},
+                                                     {"up", &Control::MouseUp, true}}};
+    const auto found = std::find_if(kActions.begin(), kActions.end(),
+                                    [&action](const Action &known) { return known.name == action; });
+    if (found == kActions.end()) {
+        throw CommandError("Die Maus kann down, move und up, nicht \"" + action + "\"");
+    }
+    if (found->needs_button && event.button == MouseButton::None) {
+        throw CommandError("Zu " + action + " gehört eine Maustaste");
+    }
+    require_reachable(control);
+    fire_event(control.*(found->handler), event);
+}
+
+void User::drop(Control &control, const std::string &text) {
+    require_reachable(control);
+    if (!control.OLEDragDrop) {
+        throw CommandError(lookup::full_name(control) + " nimmt nichts an");
+    }
+    control.OLEDragDrop(text);
+}
+
+} // namespace quittika

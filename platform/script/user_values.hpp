@@ -1,0 +1,21 @@
+#pragma once
+
+#include "platform/forms/control.hpp"
+
+#include <functional>
+#include <string>
+
+namespace quittika {
+
+/// The values that a user can give to the controls, kind by kind.
+namespace user_values {
+
+/// The deed that gives `control` that value. Throws `CommandError` where a user could not reach it.
+std::function<void()> setter(Control &control, const std::string &value);
+
+/// The deed that puts one character behind the text. Throws `CommandError` where nobody can type.
+std::function<void(const std::string &character)> typist(Control &control);
+
+} // namespace user_values
+
+} // namespace quittika
