@@ -30,6 +30,7 @@ struct Form1 : Form {
     Menu m_oeffnen{*this, "m_oeffnen", "&Öffnen"};
     Menu m_speichern{*this, "m_speichern", "&Speichern unter..."};
     Menu m_speichern_direkt{*this, "m_speichern_direkt", "Änderungen s&peichern"};
+    Menu m_speichern_kurz{*this, "m_speichern_kurz", "Speichern"}; ///< for its shortcut only
     Menu m_Rechnung_txt_export{*this, "m_Rechnung_txt_export", "Rechnung als Textdatei exportieren..."};
     Menu m_Rechnung_bmp_export{*this, "m_Rechnung_bmp_export", "Rechnung als Bilddatei (*.bmp) exportieren..."};
     Menu m_Drucken{*this, "m_Drucken", "&Rechnung drucken..."};

@@ -1,0 +1,118 @@
+#include "app/hauptfenster.hpp"
+
+#include "app/form_ueber_quittika.hpp"
+#include "invoice/programmname.hpp"
+#include "platform/laufzeitfehler.hpp"
+#include "platform/text.hpp"
+
+namespace quittika {
+
+namespace {
+
+constexpr const char* kLieferdatum = "LIEFERDATUM: ";
+
+} // namespace
+
+Hauptfenster::Hauptfenster(Teile teile) : t_(teile) {
+    FensterVerdrahten();
+    MenueVerdrahten();
+    KopfVerdrahten();
+    EingabeVerdrahten();
+    ListenVerdrahten();
+    BetraegeVerdrahten();
+    StatusVerdrahten();
+    RasterVerdrahten();
+    AblegenVerdrahten();
+    SpaeteresSperren();
+}
+
+void Hauptfenster::Form_QueryUnload(bool& abbrechen) {
+    if (!ohne_frage_schliessen_) {
+        abbrechen = !t_.dateibefehle.VorherSpeichern(Buttons::YesNoCancel);
+    }
+}
+
+void Hauptfenster::m_beenden_Click() {
+    if (t_.zustand.geaendert() && !t_.dateibefehle.VorherSpeichern(Buttons::YesNo)) {
+        return;
+    }
+    ohne_frage_schliessen_ = true;
+    t_.form1.Close();
+}
+
+void Hauptfenster::m_speichern_kurz_Click() {
+    if (t_.zustand.AktuellerPfad.empty()) {
+        t_.dateibefehle.m_speichern_Click();
+    } else {
+        t_.dateibefehle.m_speichern_direkt_Click();
+    }
+}
+
+void Hauptfenster::ueber_QUITTIKA_Click() {
+    Form_ueber_QUITTIKA form;
+    form.Label_Version.Caption = t_.werte.VERSIONSTEXT;
+    form.Command_OK.Click = [&form] { form.Close(); };
+    t_.platform.desktop.adopt(form);
+    form.Show(Modality::Modal);
+}
+
+void Hauptfenster::m_Schlagwortsuche_Click() {
+    t_.platform.dialogs.message({"Diese Funktion steht zur Zeit noch nicht zur Verfügung.", kProgrammdatei,
+                                 Buttons::Ok, Symbol::Information});
+}
+
+void Hauptfenster::DOKUMENT_OEFFNEN(const std::string& dokument) {
+    try {
+        t_.platform.shell.open(dokument);
+    } catch (const Laufzeitfehler& fehler) {
+        t_.platform.dialogs.message({"Das Dokument konnte nicht geöffnet werden: " + dokument,
+                                     "Achtung!  Fehlernr.:" + std::to_string(fehler.nummer()), Buttons::Ok,
+                                     Symbol::Exclamation});
+    }
+}
+
+void Hauptfenster::Check_LIEFERDATUM_Click() {
+    if (t_.zustand.gesperrt()) {
+        return;
+    }
+    t_.zustand.aendern();
+    TextBox& feld = t_.form1.Text_LIEFERDATUM;
+    if (t_.form1.Check_LIEFERDATUM.ticked() && !beginnt_mit(feld.Text(), kLieferdatum)) {
+        feld.Text = kLieferdatum + gekuerzt(feld.Text());
+    }
+    LieferdatumFreigeben(t_.form1);
+}
+
+void Hauptfenster::Check_abgemahnt_Click() {
+    if (t_.zustand.gesperrt()) {
+        return;
+    }
+    t_.zustand.aendern();
+    const bool abgemahnt = t_.form1.Check_abgemahnt.ticked();
+    t_.form1.Combo1_mahnung.Enabled = abgemahnt;
+    if (abgemahnt) {
+        t_.form1.Combo1_mahnung.ListIndex = 0;
+    }
+}
+
+void Hauptfenster::Option_anschreiben_Click() {
+    const bool anschreiben = t_.form1.Option_anschreiben.Value();
+    t_.form1.Frame_Bemerkungen[0].Visible = anschreiben;
+    t_.form1.Frame_Bemerkungen[1].Visible = !anschreiben;
+}
+
+void Hauptfenster::Satz_Click(const std::string& satz) {
+    if (!t_.zustand.gesperrt()) {
+        t_.form1.Text_MwSt.Text = satz;
+        geaendert_und_rechnen();
+    }
+}
+
+void Hauptfenster::geaendert_und_rechnen() {
+    if (!t_.zustand.gesperrt()) {
+        t_.zustand.aendern();
+        t_.summen.jetztberechnen_List();
+    }
+}
+
+} // namespace quittika

@@ -1,0 +1,41 @@
+#include "app/programmordner.hpp"
+
+#include <system_error>
+
+#include <unistd.h>
+
+namespace quittika {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+bool mitgeliefert(const fs::path& datei) {
+    const std::string endung = datei.extension().string();
+    for (const char* bekannt : {".bmp", ".png", ".jpg", ".qk8", ".pdf", ".htm", ".html", ".txt"}) {
+        if (endung == bekannt) {
+            return true;
+        }
+    }
+    return false;
+}
+
+} // namespace
+
+fs::path PROGRAMMORDNER(const fs::path& programmdatei, const fs::path& datenordner) {
+    const fs::path ordner = programmdatei.parent_path();
+    if (access(ordner.c_str(), W_OK) == 0) {
+        return ordner;
+    }
+    std::error_code fehler;
+    fs::create_directories(datenordner, fehler);
+    for (const fs::directory_entry& eintrag : fs::directory_iterator(ordner, fehler)) {
+        const fs::path ziel = datenordner / eintrag.path().filename();
+        if (eintrag.is_regular_file(fehler) && mitgeliefert(eintrag.path()) && !fs::exists(ziel, fehler)) {
+            fs::copy_file(eintrag.path(), ziel, fehler);
+        }
+    }
+    return datenordner;
+}
+
+} // namespace quittika

@@ -1,0 +1,176 @@
+#include "invoice/file/dateibefehle.hpp"
+
+#include "invoice/file/dateiname.hpp"
+#include "invoice/programmname.hpp"
+#include "platform/laufzeitfehler.hpp"
+
+namespace quittika {
+
+namespace {
+
+constexpr int kDialogAbgebrochen = 32755;
+constexpr const char* kSpeicherfehler = "FEHLER BEIM SPEICHERN";
+
+} // namespace
+
+Dateibefehle::Dateibefehle(Form1& form1, Rechnungszustand& zustand, Rechnung& rechnung, Summen& summen,
+                           Dialogs& dialogs, Rechnungsschreiber& schreiber, Rechnungsleser& leser,
+                           Rechnungsnummern& nummern, ZuletztGeoeffnet& zuletzt)
+    : form1_(form1), zustand_(zustand), rechnung_(rechnung), summen_(summen), dialogs_(dialogs),
+      schreiber_(schreiber), leser_(leser), nummern_(nummern), zuletzt_(zuletzt) {}
+
+bool Dateibefehle::VorherSpeichern(Buttons tasten) {
+    switch (dialogs_.message({"Möchten Sie Ihre aktuelle Rechnung vorher speichern?", kProgrammname, tasten})) {
+    case Answer::Yes:
+        return m_speichern_Click();
+    case Answer::Cancel:
+        return false;
+    default:
+        return true;
+    }
+}
+
+void Dateibefehle::m_neu_Click() {
+    if (zustand_.geaendert() && !zustand_.OhneRueckfrage && !VorherSpeichern(Buttons::YesNo)) {
+        return;
+    }
+    nummern_.RNNUMMERZUWEISEN();
+    form1_.StatusBar1[2].Caption = "";
+    rechnung_.RechnungLeeren();
+    summen_.jetztberechnen_List();
+    zustand_.als_gespeichert_merken();
+}
+
+bool Dateibefehle::m_speichern_Click() {
+    summen_.jetztberechnen_List();
+    try {
+        return SpeichernNach(SpeicherpfadWaehlen());
+    } catch (const Laufzeitfehler& fehler) {
+        if (fehler.nummer() != kDialogAbgebrochen) {
+            SpeicherfehlerMelden();
+        }
+        return false;
+    }
+}
+
+std::string Dateibefehle::SpeicherpfadWaehlen() {
+    return dialogs_.save_file({"Quittika 2008  Dateien (*.qk8)|*.qk8|", DATEINAME_VORSCHLAGEN(form1_), {}});
+}
+
+bool Dateibefehle::SpeichernNach(const std::string& pfad) {
+    PfadZeigen(pfad);
+    form1_.StatusBar1[2].Caption = "SPEICHERN VON: " + pfad;
+    zuletzt_.ZuletztGeoeffnetMerken(pfad);
+    schreiber_.DateiDatenSammeln();
+    if (!schreiber_.DateiSchreiben(pfad)) {
+        PfadZeigen(zustand_.AktuellerPfad);
+        form1_.StatusBar1[2].Caption = kSpeicherfehler;
+        return false;
+    }
+    zustand_.als_gespeichert_merken();
+    nummern_.NummerVerbrauchen();
+    form1_.StatusBar1[2].Caption = "SPEICHERN ABGESCHLOSSEN";
+    AktuellenPfadSetzen(pfad);
+    return true;
+}
+
+void Dateibefehle::m_speichern_direkt_Click() {
+    const Answer antwort =
+        dialogs_.message({"Möchten sie die aktuellen Änderungen dieser Rechnung speichern?",
+                          "Aktuelle Änderungen speichern...", Buttons::YesNo});
+    if (zustand_.AktuellerPfad.empty()) {
+        return;
+    }
+    if (antwort != Answer::Yes) {
+        form1_.StatusBar1[2].Caption = "SPEICHERN WURDE ABGEBROCHEN";
+        return;
+    }
+    summen_.jetztberechnen_List();
+    schreiber_.DateiDatenSammeln();
+    if (!schreiber_.DateiSchreiben(zustand_.AktuellerPfad)) {
+        form1_.StatusBar1[2].Caption = kSpeicherfehler;
+        return;
+    }
+    zustand_.als_gespeichert_merken();
+    form1_.StatusBar1[2].Caption = "SPEICHERN ERFOLGREICH ABGESCHLOSSEN";
+}
+
+void Dateibefehle::SpeicherfehlerMelden() {
+    form1_.StatusBar1[2].Caption = kSpeicherfehler;
+    dialogs_.message({"Es dürfen keine Sonderzeichen(:;!?\\/!§$%&()@?ß, etc. im Feld >>RECHNUNG,KUNDENNAME und DATUM "
+                      "enthalten sein.",
+                      "Achtung!"});
+}
+
+void Dateibefehle::m_oeffnen_Click() {
+    if (zustand_.geaendert() && !VorherSpeichern(Buttons::YesNo)) {
+        return;
+    }
+    if (oeffneRN("")) {
+        summen_.jetztberechnen_List();
+    }
+}
+
+bool Dateibefehle::oeffneRN(const std::string& pfad) {
+    std::string gewaehlt = pfad;
+    try {
+        if (gewaehlt.empty()) {
+            gewaehlt = dialogs_.open_file({"Quittika 2008  Dateien (*.qk8)|*.qk8", {}, {}});
+            zustand_.ZuletztGeoeffnet = gewaehlt;
+        }
+        zuletzt_.ZuletztGeoeffnetMerken(gewaehlt);
+        leser_.DateiEinlesen(gewaehlt);
+        const bool rechnung = leser_.DateiDatenAnzeigen();
+        PfadZeigen(gewaehlt);
+        Auffrischen();
+        form1_.StatusBar1[2].Caption = "GEÖFFNETE DATEI: " + gewaehlt;
+        CMD_Seite1_Click(0);
+        AktuellenPfadSetzen(rechnung ? gewaehlt : std::string());
+        return true;
+    } catch (const Laufzeitfehler& fehler) {
+        if (fehler.nummer() != kDialogAbgebrochen) {
+            OeffnungsfehlerMelden(gewaehlt);
+        }
+        return false;
+    }
+}
+
+void Dateibefehle::m_R_Click(int n) {
+    const std::string pfad = zuletzt_.Eintrag(n);
+    try {
+        leser_.DateiEinlesen(pfad);
+        AktuellenPfadSetzen(leser_.DateiDatenAnzeigen() ? pfad : std::string());
+        PfadZeigen(pfad);
+        form1_.StatusBar1[2].Caption = "GEÖFFNETE DATEI: " + pfad;
+        Auffrischen();
+    } catch (const Laufzeitfehler&) {
+        OeffnungsfehlerMelden(pfad);
+    }
+}
+
+void Dateibefehle::OeffnungsfehlerMelden(const std::string& pfad) {
+    form1_.StatusBar1[2].Caption = "FEHLER BEIM ÖFFNEN VON DATEI: " + pfad;
+    dialogs_.message({"Fehler beim öffnen dieser Datei.", "Achtung!"});
+}
+
+void Dateibefehle::PfadZeigen(const std::string& pfad) { form1_.Label_Pfad.Caption = pfad; }
+
+void Dateibefehle::AktuellenPfadSetzen(const std::string& pfad) {
+    zustand_.AktuellerPfad = pfad;
+    form1_.m_speichern_direkt.Enabled = !pfad.empty();
+}
+
+void Dateibefehle::Auffrischen() {
+    summen_.jetztberechnen_List();
+    rechnung_.DarstellungAufbauen();
+    zustand_.als_gespeichert_merken();
+}
+
+void Dateibefehle::CMD_Seite1_Click(int seite) {
+    for (int i = 0; i < Form1::kSeiten; ++i) {
+        form1_.Frame_seite1[i].Visible = i == seite;
+        form1_.CMD_Seite1[i].BackColor = i == seite ? color::kYellow : color::kButtonFace;
+    }
+}
+
+} // namespace quittika

@@ -1,0 +1,58 @@
+#pragma once
+
+#include "invoice/file/rechnungsleser.hpp"
+#include "invoice/file/rechnungsnummern.hpp"
+#include "invoice/file/rechnungsschreiber.hpp"
+#include "invoice/file/zuletzt_geoeffnet.hpp"
+#include "invoice/summen.hpp"
+
+#include <string>
+
+namespace quittika {
+
+/// New, open and save: the commands of the file menu.
+class Dateibefehle {
+public:
+    Dateibefehle(Form1& form1, Rechnungszustand& zustand, Rechnung& rechnung, Summen& summen, Dialogs& dialogs,
+                 Rechnungsschreiber& schreiber, Rechnungsleser& leser, Rechnungsnummern& nummern,
+                 ZuletztGeoeffnet& zuletzt);
+
+    /// Starts a new invoice, after asking whether to save the present one.
+    void m_neu_Click();
+    /// Saves under a name that the user chooses. Answers whether the invoice is on disk.
+    bool m_speichern_Click();
+    /// Saves to the current path after a question.
+    void m_speichern_direkt_Click();
+    void m_oeffnen_Click();
+    /// Opens `pfad`, or the file that the user chooses when it is empty. Answers whether anything was read.
+    bool oeffneRN(const std::string& pfad);
+    /// Opens recent file `n`, 1 to 3, without asking.
+    void m_R_Click(int n);
+    /// Shows page `seite` (0 to 3) of the grid.
+    void CMD_Seite1_Click(int seite);
+
+    /// Asks whether to save and does so. Answers false when the caller must stop: cancelled, or saving failed.
+    bool VorherSpeichern(Buttons tasten);
+
+private:
+    std::string SpeicherpfadWaehlen();
+    bool SpeichernNach(const std::string& pfad);
+    void SpeicherfehlerMelden();
+    void OeffnungsfehlerMelden(const std::string& pfad);
+    void PfadZeigen(const std::string& pfad);
+    /// A file that was refused leaves no current path: what stands in the window is not what another file holds.
+    void AktuellenPfadSetzen(const std::string& pfad);
+    void Auffrischen();
+
+    Form1& form1_;
+    Rechnungszustand& zustand_;
+    Rechnung& rechnung_;
+    Summen& summen_;
+    Dialogs& dialogs_;
+    Rechnungsschreiber& schreiber_;
+    Rechnungsleser& leser_;
+    Rechnungsnummern& nummern_;
+    ZuletztGeoeffnet& zuletzt_;
+};
+
+} // namespace quittika

@@ -1,0 +1,81 @@
+#pragma once
+
+#include "invoice/form1.hpp"
+
+#include <array>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace quittika {
+
+/// Numbers of the lines in an invoice file that are not simply one control's text.
+namespace dateizeile {
+constexpr int kKennung = 0;
+constexpr int kMwStText = 38;
+constexpr int kAbgemahnt = 58;
+constexpr int kMahnung = 59;
+constexpr int kMwStSatz = 60;
+constexpr int kSchrift = 61;
+constexpr int kDreistellig = 62;
+constexpr int kRabatt = 72;
+constexpr int kRabattprozent = 73;
+constexpr int kRabattbetrag = 74;
+constexpr int kNachRabatt = 75;
+constexpr int kVersandText = 76;
+constexpr int kVersandEingabe = 77;
+constexpr int kVersand = 78;
+constexpr int kVersandExtra = 79;
+constexpr int kNummer = 80;
+constexpr int kVersandInklusive = 217;
+constexpr int kNotiz = 218;
+constexpr int kVersandMwSt = 219;
+constexpr int kVersandNetto = 220;
+constexpr int kLieferdatumText = 230;
+constexpr int kLieferdatum = 231;
+constexpr int kLetzteFeste = 1000; ///< last of the scalar lines
+constexpr int kGespeichert = 1001;
+constexpr int kGrenze = 32000; ///< last index of the line arrays
+} // namespace dateizeile
+
+inline constexpr const char* kDateikennung = "qk8";
+inline constexpr const char* kNichtGesetzt = "#**#";
+inline constexpr const char* kListenmarke = "#qk8LIST#";
+
+enum class Lesart : std::uint8_t {
+    Nie,             ///< written only
+    Immer,           ///< taken as it stands
+    Wenn_Gesetzt,    ///< unless the line is "#**#"
+    Wenn_Numerisch,  ///< only a numeric line counts
+    Von_Hand,        ///< has a rule of its own
+};
+
+/// One line of the file and the control that it belongs to: a text field, check box, option button or label.
+struct Dateifeld {
+    int zeile;
+    Control* steuerelement;
+    Lesart lesart;
+};
+
+/// All lines that stand for a control, in the order of the file.
+std::vector<Dateifeld> DATEIFELDER(Form1& form1);
+
+/// Text that a control contributes to the file.
+std::string Feldtext(const Control& steuerelement);
+
+/// Lines of an invoice file by number, 0 to 32000; a line never set is empty.
+/// Every access outside throws `Laufzeitfehler` 9.
+class Dateizeilen {
+public:
+    const std::string& operator[](int zeile) const;
+    void setzen(int zeile, std::string text);
+    void leeren() { zeilen_.clear(); }
+    /// The lines up to the highest one set.
+    const std::vector<std::string>& alle() const { return zeilen_; }
+
+private:
+    std::vector<std::string> zeilen_;
+};
+
+} // namespace quittika

@@ -1,0 +1,164 @@
+#include "invoice/file/rechnungsleser.hpp"
+
+#include "platform/laufzeitfehler.hpp"
+#include "platform/text.hpp"
+#include "platform/textdatei.hpp"
+#include "platform/zahlen.hpp"
+
+#include <array>
+#include <cstdint>
+
+namespace quittika {
+
+namespace {
+
+constexpr int kHoechstzeilen = 32001;
+
+std::string mit_komma(const std::string& text) { return ZEICHENERSETZEN(text, ".", ","); }
+
+/// Text to number and back; what is no number becomes 0.
+std::string normalisiert(const std::string& text) { return zahl_text(double_versuch(mit_komma(text)).value_or(0)); }
+
+void text_uebernehmen(Control& steuerelement, const std::string& text) {
+    if (auto* feld = dynamic_cast<TextBox*>(&steuerelement)) {
+        feld->Text = text;
+    } else if (auto* option = dynamic_cast<OptionButton*>(&steuerelement)) {
+        option->Value = wahrheitswert(text).value_or(false);
+    } else {
+        steuerelement.Caption = text;
+    }
+}
+
+} // namespace
+
+Rechnungsleser::Rechnungsleser(Form1& form1, PROGRAMMEINSTELLUNG& einstellung, Rechnungszustand& zustand,
+                               Rechnung& rechnung, Dialogs& dialogs)
+    : form1_(form1), einstellung_(einstellung), zustand_(zustand), rechnung_(rechnung), dialogs_(dialogs),
+      felder_(DATEIFELDER(form1)) {}
+
+void Rechnungsleser::DateiEinlesen(const std::string& pfad) { ZeilenUebernehmen(lesen(pfad, kHoechstzeilen)); }
+
+void Rechnungsleser::ZeilenUebernehmen(const std::vector<std::string>& zeilen) {
+    rechnung_.RechnungLeeren();
+    DatenLesen.leeren();
+    Dateiformat = zeilen.empty() ? std::string() : zeilen.front();
+    int nummer = 0;
+    for (const std::string& zeile : zeilen) {
+        if (beginnt_mit(zeile, kListenmarke)) {
+            PositionUebernehmen(zeile);
+        } else if (Dateiformat == kDateikennung) {
+            DatenLesen.setzen(nummer++, zeile);
+        }
+    }
+}
+
+void Rechnungsleser::PositionUebernehmen(std::string_view zeile) {
+    const std::array<ListBox*, 6> ziele{&form1_.List_pos,      &form1_.List_K,     &form1_.List_Menge,
+                                        &form1_.List_Leistung, &form1_.List_Preis, &form1_.List_Gesamtp};
+    std::size_t ende = zeile.find(';');
+    for (ListBox* ziel : ziele) {
+        if (ende == std::string_view::npos) {
+            ziel->AddItem("ERROR");
+            continue;
+        }
+        const std::size_t anfang = ende + 1;
+        ende = zeile.find(';', anfang);
+        ziel->AddItem(std::string(zeile.substr(anfang, ende == std::string_view::npos ? ende : ende - anfang)));
+    }
+}
+
+bool Rechnungsleser::DateiDatenAnzeigen() {
+    if (Dateiformat != kDateikennung) {
+        dialogs_.message({"Leider können Rechnungsdateien von früheren Versionen nicht geöffnet werden.\r\n"
+                          "Dazu gehören Dateien mit folgender Endkennung: >>*.qk6<< und >>*.qk7<<. Evtl. ist die "
+                          "gesuchte Datei auch nicht mehr am ursprünglichen Speicherort.",
+                          "Fehler...Datei ist keine >>*.qk8<< - Datei..."});
+        return false;
+    }
+    const Rechnungszustand::Sperre still(zustand_);
+    FelderUebernehmen();
+    VersandUebernehmen();
+    BetraegeUebernehmen();
+    UebrigesUebernehmen();
+    return true;
+}
+
+void Rechnungsleser::FelderUebernehmen() {
+    for (const Dateifeld& feld : felder_) {
+        FeldUebernehmen(feld);
+    }
+}
+
+void Rechnungsleser::FeldUebernehmen(const Dateifeld& feld) {
+    const std::string& text = DatenLesen[feld.zeile];
+    switch (feld.lesart) {
+    case Lesart::Nie:
+    case Lesart::Von_Hand:
+        break;
+    case Lesart::Wenn_Numerisch:
+        HaekchenUebernehmen(dynamic_cast<CheckBox&>(*feld.steuerelement), text);
+        break;
+    case Lesart::Wenn_Gesetzt:
+        if (text != kNichtGesetzt) {
+            text_uebernehmen(*feld.steuerelement, text);
+        }
+        break;
+    case Lesart::Immer:
+        text_uebernehmen(*feld.steuerelement, text);
+        break;
+    }
+}
+
+void Rechnungsleser::HaekchenUebernehmen(CheckBox& haekchen, const std::string& text) {
+    const auto wert = double_versuch(text);
+    if (wert && (*wert == 0 || *wert == 1 || *wert == 2)) {
+        haekchen.Value = static_cast<int>(*wert);
+    }
+}
+
+void Rechnungsleser::VersandUebernehmen() {
+    const bool vorhanden = ist_numerisch(DatenLesen[dateizeile::kVersand]);
+    if (vorhanden) {
+        HaekchenUebernehmen(form1_.Check_Versandkosten, DatenLesen[dateizeile::kVersand]);
+        form1_.Text_Versandk.Text = DatenLesen[dateizeile::kVersandText];
+        form1_.Text_PreisVersankostenEingabe.Text = DatenLesen[dateizeile::kVersandEingabe];
+        HaekchenUebernehmen(form1_.Check_VersandMwStEXTRA, DatenLesen[dateizeile::kVersandExtra]);
+        HaekchenUebernehmen(form1_.Check_VersandINKL_MwSt, DatenLesen[dateizeile::kVersandInklusive]);
+    } else {
+        form1_.Check_Versandkosten.Value = 0;
+        form1_.Text_Versandk.Text = "Versandkosten:";
+        form1_.Text_PreisVersankostenEingabe.Text = vorgabe::kBetrag;
+    }
+    form1_.Label_Versandkosten.Caption = form1_.Text_Versandk.Text();
+}
+
+void Rechnungsleser::BetraegeUebernehmen() {
+    form1_.Text_Rabatt.Text = normalisiert(DatenLesen[dateizeile::kRabattprozent]);
+    form1_.Text_summeRabatt.Text = normalisiert(DatenLesen[dateizeile::kRabattbetrag]);
+    form1_.Text_summeNACHRABATT.Text = normalisiert(DatenLesen[dateizeile::kNachRabatt]);
+    if (ist_numerisch(mit_komma(DatenLesen[dateizeile::kMwStSatz]))) {
+        form1_.Text_MwSt.Text = normalisiert(DatenLesen[dateizeile::kMwStSatz]);
+    }
+}
+
+void Rechnungsleser::UebrigesUebernehmen() {
+    const std::string& nummer = DatenLesen[dateizeile::kNummer];
+    form1_.Text_RNnr.Text = nummer == kNichtGesetzt ? std::string() : nummer;
+    form1_.Combo1_mahnung.Enabled = form1_.Check_abgemahnt.ticked();
+    const auto stufe = double_versuch(DatenLesen[dateizeile::kMahnung]);
+    if (stufe && *stufe >= -1 && *stufe < form1_.Combo1_mahnung.ListCount()) {
+        form1_.Combo1_mahnung.ListIndex = static_cast<int>(*stufe);
+    }
+    const std::string& schrift = DatenLesen[dateizeile::kSchrift];
+    if (!schrift.empty() && schrift != kNichtGesetzt) {
+        einstellung_.DRUCKERSCHRIFT = schrift;
+    }
+    const std::string& notiz = DatenLesen[dateizeile::kNotiz];
+    rechnung_.NotizSetzen(notiz == kNichtGesetzt ? std::string(vorgabe::kNotiz) : notiz);
+    form1_.Label_Mengex.Caption = form1_.Label_Menge.Caption();
+    form1_.Label_Leistungx.Caption = form1_.Label_Leistung.Caption();
+    form1_.Label_preisx.Caption = form1_.Label_preis.Caption();
+    LieferdatumFreigeben(form1_);
+}
+
+} // namespace quittika

@@ -1,0 +1,51 @@
+#pragma once
+
+#include "invoice/file/dateifelder.hpp"
+#include "invoice/form1.hpp"
+#include "invoice/rechnung.hpp"
+#include "invoice/rechnungszustand.hpp"
+#include "platform/dialogs.hpp"
+#include "settings/programmeinstellung.hpp"
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace quittika {
+
+/// Reads an invoice file into the window.
+class Rechnungsleser {
+public:
+    Rechnungsleser(Form1& form1, PROGRAMMEINSTELLUNG& einstellung, Rechnungszustand& zustand, Rechnung& rechnung,
+                   Dialogs& dialogs);
+
+    /// Resets the invoice and takes the file's lines into `DatenLesen` and its positions into the lists.
+    /// A file that cannot be read raises its `Laufzeitfehler` and leaves the window as it was.
+    void DateiEinlesen(const std::string& pfad);
+
+    /// Takes lines that were read already.
+    void ZeilenUebernehmen(const std::vector<std::string>& zeilen);
+
+    /// Moves `DatenLesen` to the window. Says so and answers false when the file is no invoice.
+    bool DateiDatenAnzeigen();
+
+private:
+    void PositionUebernehmen(std::string_view zeile);
+    void FelderUebernehmen();
+    void FeldUebernehmen(const Dateifeld& feld);
+    void VersandUebernehmen();
+    void BetraegeUebernehmen();
+    void UebrigesUebernehmen();
+    void HaekchenUebernehmen(CheckBox& haekchen, const std::string& text);
+
+    Form1& form1_;
+    PROGRAMMEINSTELLUNG& einstellung_;
+    Rechnungszustand& zustand_;
+    Rechnung& rechnung_;
+    Dialogs& dialogs_;
+    std::vector<Dateifeld> felder_;
+    Dateizeilen DatenLesen;
+    std::string Dateiformat; ///< first line of the file
+};
+
+} // namespace quittika

@@ -1,0 +1,86 @@
+#include "invoice/file/rechnungsschreiber.hpp"
+
+#include "platform/datum.hpp"
+#include "platform/laufzeitfehler.hpp"
+#include "platform/text.hpp"
+#include "platform/textdatei.hpp"
+#include "platform/zahlen.hpp"
+
+#include <algorithm>
+#include <utility>
+
+namespace quittika {
+
+namespace {
+
+/// A line of the file holds no line end of its own.
+std::string einzeilig(std::string text) {
+    std::replace(text.begin(), text.end(), '\n', ' ');
+    return text;
+}
+
+std::string numerisch_oder_null(const std::string& text) { return ist_numerisch(text) ? text : "0"; }
+
+} // namespace
+
+Rechnungsschreiber::Rechnungsschreiber(Form1& form1, const PROGRAMMEINSTELLUNG& einstellung,
+                                       const Rechnungszustand& zustand, Dialogs& dialogs, const Clock& uhr)
+    : form1_(form1), einstellung_(einstellung), zustand_(zustand), dialogs_(dialogs), uhr_(uhr),
+      felder_(DATEIFELDER(form1)) {}
+
+void Rechnungsschreiber::DateiDatenSammeln() {
+    DatenSchreiben.leeren();
+    for (int zeile = 0; zeile <= dateizeile::kLetzteFeste; ++zeile) {
+        DatenSchreiben.setzen(zeile, kNichtGesetzt);
+    }
+    for (const Dateifeld& feld : felder_) {
+        DatenSchreiben.setzen(feld.zeile, einzeilig(Feldtext(*feld.steuerelement)));
+    }
+    BesondereZeilen();
+}
+
+void Rechnungsschreiber::BesondereZeilen() {
+    const double satz = double_versuch(ZEICHENERSETZEN(form1_.Text_MwSt.Text(), ".", ",")).value_or(0);
+    const std::pair<int, std::string> zeilen[] = {
+        {dateizeile::kKennung, kDateikennung},
+        {dateizeile::kMahnung, std::to_string(form1_.Combo1_mahnung.ListIndex())},
+        {dateizeile::kMwStSatz, zahl_text(satz)},
+        {dateizeile::kSchrift, einstellung_.DRUCKERSCHRIFT},
+        {dateizeile::kNotiz, zustand_.Notiztext},
+        {dateizeile::kVersandMwSt, numerisch_oder_null(form1_.Text_PreisVersankostenMwST.Text())},
+        {dateizeile::kVersandNetto, numerisch_oder_null(form1_.Text_PreisVersankosten.Text())},
+    };
+    for (const auto& [zeile, text] : zeilen) {
+        DatenSchreiben.setzen(zeile, einzeilig(text));
+    }
+}
+
+void Rechnungsschreiber::PositionenAnfuegen(std::vector<std::string>& zeilen) const {
+    const Form1& f = form1_;
+    for (int i = 0; i < f.List_Gesamtp.ListCount(); ++i) {
+        std::string zeile = kListenmarke;
+        for (const ListBox* liste :
+             {&f.List_pos, &f.List_K, &f.List_Menge, &f.List_Leistung, &f.List_Preis, &f.List_Gesamtp}) {
+            zeile.append(";").append(liste->List(i));
+        }
+        zeilen.push_back(einzeilig(std::move(zeile)));
+    }
+}
+
+bool Rechnungsschreiber::DateiSchreiben(const std::string& pfad) {
+    std::vector<std::string> zeilen = DatenSchreiben.alle();
+    zeilen.push_back("Gespeichert am: " + datum_zeit_text(uhr_.now()));
+    PositionenAnfuegen(zeilen);
+    try {
+        const std::size_t ersetzt = schreiben(pfad, zeilen);
+        form1_.StatusBar1[3].Caption =
+            ersetzt == 0 ? std::string()
+                         : "Achtung: " + std::to_string(ersetzt) + " Zeichen kennt die Datei nicht, sie wurden ersetzt.";
+        return true;
+    } catch (const Laufzeitfehler&) {
+        dialogs_.message({"Fehler beim speichern", "FEHLER BEIM SPEICHERN"});
+        return false;
+    }
+}
+
+} // namespace quittika

@@ -1,0 +1,10 @@
+#pragma once
+
+namespace quittika {
+
+/// The program's name, title of its questions.
+inline constexpr const char* kProgrammname = "Quittika 2008";
+/// Name of the executable file.
+inline constexpr const char* kProgrammdatei = "quittika";
+
+} // namespace quittika

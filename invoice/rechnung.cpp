@@ -1,0 +1,100 @@
+#include "invoice/rechnung.hpp"
+
+#include "invoice/compressor.hpp"
+#include "platform/datum.hpp"
+#include "platform/text.hpp"
+
+#include <utility>
+#include <vector>
+
+namespace quittika {
+
+namespace {
+
+constexpr const char* kZeilenwechsel = "#$§$#";
+
+std::string Darstellungszeile(const Form1& form1, int zeile) {
+    return COMPRESSOR(1, form1.List_pos.List(zeile)) + COMPRESSOR(2, form1.List_Menge.List(zeile)) +
+           COMPRESSOR(3, form1.List_Leistung.List(zeile)) + COMPRESSOR(4, form1.List_Preis.List(zeile)) +
+           COMPRESSOR(5, form1.List_Gesamtp.List(zeile));
+}
+
+} // namespace
+
+void LieferdatumFreigeben(Form1& form1) {
+    const bool frei = form1.Check_LIEFERDATUM.ticked();
+    form1.Text_LIEFERDATUM.Enabled = frei;
+    form1.Text_LIEFERDATUM.BackColor = frei ? color::kWhite : color::kGrey;
+}
+
+Rechnung::Rechnung(Form1& form1, Rechnungszustand& zustand, const Clock& uhr)
+    : form1_(form1), zustand_(zustand), uhr_(uhr) {}
+
+void Rechnung::RechnungLeeren() {
+    const Rechnungszustand::Sperre still(zustand_);
+    KopfLeeren();
+    for (TextBox* betrag : {&form1_.Text_summe, &form1_.Text_summemwst, &form1_.Text_gesamtbetrag,
+                            &form1_.Text_summeRabatt, &form1_.Text_summeNACHRABATT}) {
+        betrag->Text = vorgabe::kBetrag;
+    }
+    StatusLeeren();
+    EingabezeileLeeren();
+    for (ListBox* liste : form1_.Positionslisten()) {
+        liste->Clear();
+    }
+    form1_.List_DARSTELLUNG.Clear();
+    NotizSetzen(vorgabe::kNotiz);
+    LieferdatumFreigeben(form1_);
+    DarstellungAufbauen();
+}
+
+void Rechnung::KopfLeeren() {
+    form1_.Option_RECHNUNG.Value = true;
+    form1_.Text_rechnung.Text = vorgabe::kTitel;
+    form1_.Check_LIEFERDATUM.Value = 0;
+    form1_.Text_LIEFERDATUM.Text = " ";
+    form1_.Text_Datum.Text = datum_text(uhr_.now());
+    form1_.Text_Kunde_1.Text = vorgabe::kKunde1;
+    form1_.Text_Kunde_2.Text = vorgabe::kKunde2;
+    form1_.Text_Kunde_3.Text = vorgabe::kKunde3;
+    form1_.Text_Kunde_4.Text = vorgabe::kKunde4;
+    form1_.Text_KundennrK.Text = vorgabe::kKundennr;
+}
+
+void Rechnung::StatusLeeren() {
+    form1_.Check_versendet.Value = 0;
+    form1_.Check_bezahlt.Value = 0;
+    form1_.Check_abgemahnt.Value = 0;
+    form1_.Combo1_mahnung.Enabled = form1_.Check_abgemahnt.ticked();
+}
+
+void Rechnung::EingabezeileLeeren() {
+    form1_.Text_Menge.Text = vorgabe::kMenge;
+    form1_.Text_leistung.Text = vorgabe::kLeistung;
+    form1_.Text_preis.Text = vorgabe::kBetrag;
+    form1_.Text_gesamtp.Text = vorgabe::kBetrag;
+    form1_.Check_K.Value = 0;
+    form1_.Command_AENDERN.Enabled = false;
+}
+
+void Rechnung::NotizSetzen(const std::string& notiz) {
+    zustand_.Notiztext = notiz;
+    form1_.Text_Notiz.Text = ersetzen(notiz, kZeilenwechsel, "\r\n");
+}
+
+void Rechnung::DarstellungAufbauen() {
+    const Rechnungszustand::Sperre still(zustand_);
+    const int zeilen = form1_.List_Gesamtp.ListCount();
+    std::vector<std::string> darstellung;
+    darstellung.reserve(static_cast<std::size_t>(zeilen));
+    for (int zeile = 0; zeile < zeilen; ++zeile) {
+        darstellung.push_back(Darstellungszeile(form1_, zeile));
+    }
+    for (ListBox* liste : form1_.Positionslisten()) {
+        liste->ListIndex = zeilen - 1;
+    }
+    form1_.List_DARSTELLUNG.ListIndex.adopt(-1);
+    form1_.List_DARSTELLUNG.assign(std::move(darstellung));
+}
+
+} // namespace quittika

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "invoice/form1.hpp"
+#include "invoice/rechnungszustand.hpp"
+#include "platform/shell.hpp"
+
+#include <string>
+
+namespace quittika {
+
+/// The invoice in hand as a whole: reset, and the visible list.
+class Rechnung {
+public:
+    Rechnung(Form1& form1, Rechnungszustand& zustand, const Clock& uhr);
+
+    /// Puts the values of an empty invoice into the controls; the number stays.
+    void RechnungLeeren();
+    /// Puts the input line back to its start values.
+    void EingabezeileLeeren();
+    /// Rebuilds `List_DARSTELLUNG` from the six lists. Afterwards nothing is selected in it,
+    /// and the last row in the six.
+    void DarstellungAufbauen();
+
+    /// The note, with its line breaks as "#$§$#".
+    void NotizSetzen(const std::string& notiz);
+
+private:
+    void KopfLeeren();
+    void StatusLeeren();
+
+    Form1& form1_;
+    Rechnungszustand& zustand_;
+    const Clock& uhr_;
+};
+
+/// Enables the delivery date and its colour by `Check_LIEFERDATUM`.
+void LieferdatumFreigeben(Form1& form1);
+
+} // namespace quittika

@@ -1,0 +1,50 @@
+#pragma once
+
+#include <cstddef>
+#include <functional>
+#include <limits>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace quittika {
+
+// Text files are lines in Windows-1252 with CR LF. A line read ends with CR LF, LF or the end of the file;
+// a lone CR and every other byte stay in it. Text in memory is UTF-8.
+// Errors are `Laufzeitfehler` with the path: 53 file, 76 folder missing, 70 not permitted, 75 no file,
+// 61 disk full, 57 anything else.
+
+/// At most `hoechstens` lines of a file's content.
+std::vector<std::string> zeilen_aus(std::string_view bytes,
+                                    std::size_t hoechstens = std::numeric_limits<std::size_t>::max());
+
+/// At most `hoechstens` lines of a file.
+std::vector<std::string> lesen(const std::string& pfad, std::size_t hoechstens = std::numeric_limits<std::size_t>::max());
+
+/// Hands over line after line until `weiter` answers false.
+void lesen(const std::string& pfad, const std::function<bool(std::string_view zeile)>& weiter);
+
+/// Replaces a file by these lines. They are written beside it first and take its place when they are completely on
+/// disk, so that the old content is there until then. Returns how many characters the code page lacks.
+std::size_t schreiben(const std::string& pfad, const std::vector<std::string>& zeilen);
+
+/// First line of a file; "FEHLER" if it is missing, unreadable or empty.
+std::string DATEI_ERSTE_ZEILE(const std::string& pfad);
+
+/// Replaces a file by one line.
+void DATEI_SCHREIBEN(const std::string& pfad, const std::string& text);
+
+/// How a file operation ended.
+struct Dateiergebnis {
+    bool gelungen = true;
+    int fehlernummer = 0;
+    explicit operator bool() const { return gelungen; }
+};
+
+/// Appends one line; a file that does not exist is created. A line that could not be written whole is taken back.
+Dateiergebnis ZEILE_ANHAENGEN(const std::string& pfad, const std::string& zeile);
+
+/// Field `index`, counted from 0, of a line split at `trenner`; "ERROR" if there is none, and for an empty line.
+std::string FELD_AUS_ZEILE(std::string_view zeile, std::string_view trenner, int index);
+
+} // namespace quittika
