@@ -47,7 +47,7 @@ struct Commands::Entry {
     bool takes_arguments;
 };
 
-Commands::Commands(ScriptPlatform &platform, std::ostream &out)
+Commands::Commands(ScriptPlatform& platform, std::ostream& out)
     : platform_(platform), out_(out), user_(platform.desktop) {}
 
 void Commands::run(std::string_view name, std::string_view arguments) {
@@ -67,7 +67,7 @@ void Commands::run(std::string_view name, std::string_view arguments) {
         {"printto", &Commands::printto, true}, {"clock", &Commands::clock, true},
     }};
     const auto found = std::find_if(kCommands.begin(), kCommands.end(),
-                                    [name](const Entry &entry) { return entry.name == name; });
+                                    [name](const Entry& entry) { return entry.name == name; });
     if (found == kCommands.end()) {
         throw CommandError("Unbekannter Befehl " + std::string(name));
     }
@@ -77,16 +77,16 @@ void Commands::run(std::string_view name, std::string_view arguments) {
     (this->*(found->handler))(arguments);
 }
 
-Control &Commands::control(std::string_view name) const {
+Control& Commands::control(std::string_view name) const {
     return lookup::control(platform_.desktop, name);
 }
 
-void Commands::line(const std::string &text) {
+void Commands::line(const std::string& text) {
     out_ << text << '\n';
 }
 
-void Commands::lines(const std::vector<std::string> &all) {
-    for (const std::string &text : all) {
+void Commands::lines(const std::vector<std::string>& all) {
+    for (const std::string& text : all) {
         line(text);
     }
 }
@@ -96,20 +96,20 @@ void Commands::get(std::string_view arguments) {
 }
 
 void Commands::items(std::string_view arguments) {
-    for (const std::string &item : lookup::items(platform_.desktop, arguments)) {
+    for (const std::string& item : lookup::items(platform_.desktop, arguments)) {
         line(protocol::encode(item));
     }
 }
 
 void Commands::forms(std::string_view /*arguments*/) {
-    for (const Form *form : platform_.desktop.windows()) {
-        const char *const modality = platform_.desktop.is_modal(*form) ? "modal" : "";
+    for (const Form* form : platform_.desktop.windows()) {
+        const char* const modality = platform_.desktop.is_modal(*form) ? "modal" : "";
         line(protocol::field(form->name()) + '|' + protocol::field(form->Caption()) + '|' + modality);
     }
 }
 
 void Commands::controls(std::string_view arguments) {
-    for (const Control *control : lookup::form(platform_.desktop, arguments).controls()) {
+    for (const Control* control : lookup::form(platform_.desktop, arguments).controls()) {
         line(protocol::field(control->name()) + '|' + std::string(control->kind()));
     }
 }
@@ -123,13 +123,13 @@ void Commands::dialogs(std::string_view /*arguments*/) {
 }
 
 void Commands::opened(std::string_view /*arguments*/) {
-    for (const std::string &document : platform_.shell.take_opened()) {
+    for (const std::string& document : platform_.shell.take_opened()) {
         line(protocol::encode(document));
     }
 }
 
 void Commands::pages(std::string_view /*arguments*/) {
-    for (const auto &job : platform_.printing.jobs()) {
+    for (const auto& job : platform_.printing.jobs()) {
         lines(listing(*job));
     }
 }
@@ -174,7 +174,7 @@ void Commands::drop(std::string_view arguments) {
 }
 
 void Commands::close(std::string_view arguments) {
-    Form &form = lookup::form(platform_.desktop, arguments);
+    Form& form = lookup::form(platform_.desktop, arguments);
     lookup::require_reachable(platform_.desktop, form);
     form.Close();
 }

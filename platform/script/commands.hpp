@@ -13,7 +13,7 @@ namespace quittika {
 /// The commands that need no more than the platform: reading, acting on controls, queues and logs.
 class Commands {
 public:
-    Commands(ScriptPlatform &platform, std::ostream &out);
+    Commands(ScriptPlatform& platform, std::ostream& out);
 
     /// Carries the command out and writes its data lines. Throws `CommandError`, and whatever
     /// the program's own code lets through.
@@ -50,12 +50,12 @@ private:
     void printto(std::string_view arguments);
     void clock(std::string_view arguments);
 
-    Control &control(std::string_view name) const;
-    void line(const std::string &text);
-    void lines(const std::vector<std::string> &all);
+    Control& control(std::string_view name) const;
+    void line(const std::string& text);
+    void lines(const std::vector<std::string>& all);
 
-    ScriptPlatform &platform_;
-    std::ostream &out_;
+    ScriptPlatform& platform_;
+    std::ostream& out_;
     User user_;
 };
 

@@ -24,30 +24,30 @@ Dotted split(std::string_view name, std::size_t dot) {
     throw CommandError("Es gibt kein Steuerelement " + std::string(name));
 }
 
-std::optional<std::string> property_text(const PropertyHost &host, std::string_view name) {
+std::optional<std::string> property_text(const PropertyHost& host, std::string_view name) {
     const auto id = property_id(name);
-    const PropertyBase *const property = id ? host.property(*id) : nullptr;
+    const PropertyBase* const property = id ? host.property(*id) : nullptr;
     return property != nullptr ? std::optional(property->as_text()) : std::nullopt;
 }
 
-std::optional<std::string> form_property(const Form &form, std::string_view name) {
+std::optional<std::string> form_property(const Form& form, std::string_view name) {
     if (name == property_name(PropertyId::Visible)) {
         return form.shown() ? "-1" : "0";
     }
     return property_text(form, name);
 }
 
-const std::vector<std::string> *items_of(const Control &control) {
-    if (const auto *list = dynamic_cast<const ListBox *>(&control)) {
+const std::vector<std::string>* items_of(const Control& control) {
+    if (const auto* list = dynamic_cast<const ListBox*>(&control)) {
         return &list->items();
     }
-    const auto *combo = dynamic_cast<const ComboBox *>(&control);
+    const auto* combo = dynamic_cast<const ComboBox*>(&control);
     return combo != nullptr ? &combo->items() : nullptr;
 }
 
 /// Properties of lists that are calculated, not kept.
-std::optional<std::string> list_property(const Control &control, std::string_view name) {
-    const std::vector<std::string> *const items = items_of(control);
+std::optional<std::string> list_property(const Control& control, std::string_view name) {
+    const std::vector<std::string>* const items = items_of(control);
     if (items != nullptr && name == property_name(PropertyId::ListCount)) {
         return std::to_string(items->size());
     }
@@ -59,32 +59,32 @@ std::optional<std::string> list_property(const Control &control, std::string_vie
 
 } // namespace
 
-Form &form(const ScriptDesktop &desktop, std::string_view name) {
+Form& form(const ScriptDesktop& desktop, std::string_view name) {
     if (desktop.forms().empty()) {
         throw CommandError("Es läuft kein Programm");
     }
-    if (Form *const found = desktop.find(name)) {
+    if (Form* const found = desktop.find(name)) {
         return *found;
     }
     throw CommandError("Es gibt kein Fenster " + std::string(name));
 }
 
-Control &control(const ScriptDesktop &desktop, std::string_view name) {
+Control& control(const ScriptDesktop& desktop, std::string_view name) {
     const Dotted parts = split(name, name.find('.'));
-    if (Control *const found = form(desktop, parts.head).find(parts.tail)) {
+    if (Control* const found = form(desktop, parts.head).find(parts.tail)) {
         return *found;
     }
     no_control(name);
 }
 
-std::string value(const ScriptDesktop &desktop, std::string_view name) {
+std::string value(const ScriptDesktop& desktop, std::string_view name) {
     const Dotted parts = split(name, name.find('.'));
-    const Form &owner = form(desktop, parts.head);
-    if (const Control *const whole = owner.find(parts.tail)) {
+    const Form& owner = form(desktop, parts.head);
+    if (const Control* const whole = owner.find(parts.tail)) {
         return whole->main_value();
     }
     const Dotted deeper = split(parts.tail, parts.tail.rfind('.'));
-    const Control *const found = owner.find(deeper.head);
+    const Control* const found = owner.find(deeper.head);
     auto text = found == nullptr ? form_property(owner, parts.tail) : list_property(*found, deeper.tail);
     if (found != nullptr && !text) {
         text = property_text(*found, deeper.tail);
@@ -98,24 +98,24 @@ std::string value(const ScriptDesktop &desktop, std::string_view name) {
     throw CommandError(full_name(*found) + " hat keine Eigenschaft " + std::string(deeper.tail));
 }
 
-const std::vector<std::string> &items(const ScriptDesktop &desktop, std::string_view name) {
-    const Control &owner = control(desktop, name);
-    if (const auto *const found = items_of(owner)) {
+const std::vector<std::string>& items(const ScriptDesktop& desktop, std::string_view name) {
+    const Control& owner = control(desktop, name);
+    if (const auto* const found = items_of(owner)) {
         return *found;
     }
     throw CommandError(full_name(owner) + " hat keine Einträge");
 }
 
-void require_reachable(const ScriptDesktop &desktop, const Form &form) {
+void require_reachable(const ScriptDesktop& desktop, const Form& form) {
     if (!form.shown()) {
         throw CommandError("Das Fenster " + form.name() + " ist nicht offen");
     }
-    if (const Form *const blocker = desktop.blocker(form)) {
+    if (const Form* const blocker = desktop.blocker(form)) {
         throw CommandError("Vor dem Fenster " + form.name() + " steht " + blocker->name());
     }
 }
 
-void require_reachable(const ScriptDesktop &desktop, const Control &control) {
+void require_reachable(const ScriptDesktop& desktop, const Control& control) {
     require_reachable(desktop, control.form());
     if (!control.effectively_visible()) {
         throw CommandError(full_name(control) + " ist nicht sichtbar");
@@ -125,7 +125,7 @@ void require_reachable(const ScriptDesktop &desktop, const Control &control) {
     }
 }
 
-std::string full_name(const Control &control) {
+std::string full_name(const Control& control) {
     return control.form().name() + "." + control.name();
 }
 

@@ -11,21 +11,21 @@ namespace quittika {
 /// Finding windows and controls by the names that scripts use. All throw `CommandError`.
 namespace lookup {
 
-Form &form(const ScriptDesktop &desktop, std::string_view name);
+Form& form(const ScriptDesktop& desktop, std::string_view name);
 /// `<form>.<control>`, with the index in parentheses for an element of a control array.
-Control &control(const ScriptDesktop &desktop, std::string_view name);
+Control& control(const ScriptDesktop& desktop, std::string_view name);
 /// The value of `<form>.<control>`, `<form>.<control>.<Property>` or `<form>.<Property>`.
-std::string value(const ScriptDesktop &desktop, std::string_view name);
+std::string value(const ScriptDesktop& desktop, std::string_view name);
 /// The items of a list or combo box.
-const std::vector<std::string> &items(const ScriptDesktop &desktop, std::string_view name);
+const std::vector<std::string>& items(const ScriptDesktop& desktop, std::string_view name);
 
 /// Throws unless a user could get at the window.
-void require_reachable(const ScriptDesktop &desktop, const Form &form);
+void require_reachable(const ScriptDesktop& desktop, const Form& form);
 /// Throws unless a user could get at the control.
-void require_reachable(const ScriptDesktop &desktop, const Control &control);
+void require_reachable(const ScriptDesktop& desktop, const Control& control);
 
 /// The name under which scripts know a control.
-std::string full_name(const Control &control);
+std::string full_name(const Control& control);
 
 } // namespace lookup
 

@@ -2,7 +2,6 @@
 
 #include <array>
 #include <charconv>
-#include <chrono>
 #include <system_error>
 
 namespace quittika::protocol {
@@ -15,8 +14,8 @@ struct Escape {
 };
 constexpr std::array<Escape, 4> kEscapes{{{'n', '\n'}, {'r', '\r'}, {'t', '\t'}, {'\\', '\\'}}};
 
-bool append_escaped(std::string &out, char c) {
-    for (const Escape &escape : kEscapes) {
+bool append_escaped(std::string& out, char c) {
+    for (const Escape& escape : kEscapes) {
         if (escape.meaning == c) {
             out += '\\';
             out += escape.letter;
@@ -27,7 +26,7 @@ bool append_escaped(std::string &out, char c) {
 }
 
 char meaning_of(std::string_view rest) {
-    for (const Escape &escape : kEscapes) {
+    for (const Escape& escape : kEscapes) {
         if (!rest.empty() && escape.letter == rest.front()) {
             return escape.meaning;
         }
@@ -50,7 +49,7 @@ bool matches(std::string_view text, std::string_view pattern) {
 
 std::string decimal(double value, std::optional<int> decimals) {
     std::array<char, 400> buffer; // the longest double has 309 digits before the point
-    char *const end = buffer.data() + buffer.size();
+    char* const end = buffer.data() + buffer.size();
     const auto result = decimals
                             ? std::to_chars(buffer.data(), end, value, std::chars_format::fixed, *decimals)
                             : std::to_chars(buffer.data(), end, value, std::chars_format::fixed);
@@ -111,7 +110,7 @@ std::string field(std::string_view text) {
 
 std::int64_t integer(std::string_view text, std::int64_t min, std::int64_t max) {
     std::int64_t value = 0;
-    const char *const end = text.data() + text.size();
+    const char* const end = text.data() + text.size();
     const auto result = std::from_chars(text.data(), end, value);
     if (text.empty() || result.ec == std::errc::invalid_argument || result.ptr != end) {
         throw CommandError("\"" + std::string(text) + "\" ist keine ganze Zahl");
@@ -127,22 +126,11 @@ std::optional<Zeitpunkt> time_stamp(std::string_view text) {
     if (!matches(text, "0000-00-00T00:00:00")) {
         return std::nullopt;
     }
-    const auto number = [text](std::size_t at, std::size_t count) {
-        return static_cast<int>(integer(text.substr(at, count), 0, 9999));
-    };
-    const int year = number(0, 4);
-    const int month = number(5, 2);
-    const int day = number(8, 2);
-    const int hour = number(11, 2);
-    const int minute = number(14, 2);
-    const int second = number(17, 2);
-    const std::chrono::year_month_day date{std::chrono::year(year),
-                                           std::chrono::month(static_cast<unsigned>(month)),
-                                           std::chrono::day(static_cast<unsigned>(day))};
-    if (year < 100 || !date.ok() || hour > 23 || minute > 59 || second > 59) {
+    const auto time = iso_lesen(text);
+    if (!time) {
         throw CommandError(std::string(text) + " gibt es im Kalender nicht");
     }
-    return Zeitpunkt{year, month, day, hour, minute, second};
+    return time;
 }
 
 std::string length(double millimetres) {

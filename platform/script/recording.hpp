@@ -46,13 +46,13 @@ struct RecordedJob {
 };
 
 /// The job as lines of the protocol.
-std::vector<std::string> listing(const RecordedJob &job);
+std::vector<std::string> listing(const RecordedJob& job);
 
 /// Draws the pages of a job once more, without ending the document.
-void replay(const RecordedJob &job, PrintDevice &device);
+void replay(const RecordedJob& job, PrintDevice& device);
 
 /// Tells whether a picture file can be drawn.
-using PictureTest = std::function<bool(const std::string &path)>;
+using PictureTest = std::function<bool(const std::string& path)>;
 
 /// Writes down what is drawn on it.
 class RecordingDevice final : public PrintDevice {
@@ -61,10 +61,10 @@ public:
     RecordingDevice(std::shared_ptr<RecordedJob> job, PictureTest picture_test,
                     std::function<void()> at_end = {});
 
-    void text(double left, double top, double width, const PrintFont &font, Color color,
+    void text(double left, double top, double width, const PrintFont& font, Color color,
               std::string_view text) override;
     void line(double x1, double y1, double x2, double y2, Color color) override;
-    void picture(double left, double top, double width, double height, const std::string &path) override;
+    void picture(double left, double top, double width, double height, const std::string& path) override;
     void new_page() override;
     void end_document() override;
 

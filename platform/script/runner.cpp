@@ -17,7 +17,7 @@ namespace {
 /// Leaves all modal windows at once. Not a std::exception, so that no handler of the program stops it.
 struct Unwinding {};
 
-constexpr const char *kSplash = "Form_START";
+constexpr const char* kSplash = "Form_START";
 /// Rounds after which something that should come to rest counts as endless.
 constexpr std::size_t kPatience = 100000;
 constexpr std::int64_t kLongestWait = std::int64_t{366} * 24 * 3600 * 1000;
@@ -42,13 +42,13 @@ StartArguments start_arguments(std::string_view arguments) {
 
 } // namespace
 
-Runner::Runner(RunnerParts parts, std::istream &in, std::ostream &out)
+Runner::Runner(RunnerParts parts, std::istream& in, std::ostream& out)
     : factory_(std::move(parts.program)),
       in_(in),
       out_(out),
       platform_(parts.metrics, std::move(parts.pdf), std::move(parts.picture)),
       commands_(platform_, out) {
-    platform_.desktop.on_modal([this](const std::function<bool()> &open) { modal_loop(open); });
+    platform_.desktop.on_modal([this](const std::function<bool()>& open) { modal_loop(open); });
 }
 
 Runner::~Runner() {
@@ -60,7 +60,7 @@ int Runner::run() {
         modal_depth_ = 0;
         try {
             serve_outermost();
-        } catch (const Unwinding &) {
+        } catch (const Unwinding&) {
             // The program's code has left the stack; what it left for is in finished_ or restart_.
         }
     }
@@ -97,7 +97,7 @@ void Runner::serve_line() {
     perform(line);
 }
 
-void Runner::perform(const std::string &line) {
+void Runner::perform(const std::string& line) {
     awaits_answer_ = true;
     failure_.reset();
     platform_.printing.begin_command();
@@ -105,7 +105,7 @@ void Runner::perform(const std::string &line) {
     settle();
 }
 
-void Runner::dispatch(const std::string &line) {
+void Runner::dispatch(const std::string& line) {
     const auto [name, arguments] = protocol::part(line);
     if (name == "start") {
         start(line, arguments);
@@ -127,7 +127,7 @@ void Runner::answer() {
     failure_.reset();
 }
 
-void Runner::modal_loop(const std::function<bool()> &open) {
+void Runner::modal_loop(const std::function<bool()>& open) {
     ++modal_depth_;
     settle();
     while (open()) {
@@ -141,17 +141,17 @@ void Runner::modal_loop(const std::function<bool()> &open) {
     --modal_depth_;
 }
 
-void Runner::guarded(const std::function<void()> &work) {
-    const auto failed = [this](const std::string &why) {
+void Runner::guarded(const std::function<void()>& work) {
+    const auto failed = [this](const std::string& why) {
         if (!failure_) {
             failure_ = why;
         }
     };
     try {
         work();
-    } catch (const Unwinding &) {
+    } catch (const Unwinding&) {
         throw;
-    } catch (const std::exception &error) {
+    } catch (const std::exception& error) {
         failed(error.what());
     } catch (...) {
         failed("Unbekannter Fehler");
@@ -172,7 +172,7 @@ void Runner::settle() {
     platform_.desktop.timers().update();
 }
 
-void Runner::start(const std::string &line, std::string_view arguments) {
+void Runner::start(const std::string& line, std::string_view arguments) {
     const StartArguments given = start_arguments(arguments);
     if (modal_depth_ > 0) {
         restart_ = line;
@@ -191,7 +191,7 @@ void Runner::start(const std::string &line, std::string_view arguments) {
 
 void Runner::play_splash() {
     for (std::size_t round = 0; !platform_.desktop.ended(); ++round) {
-        const Form *const splash = platform_.desktop.find(kSplash);
+        const Form* const splash = platform_.desktop.find(kSplash);
         if (splash == nullptr || !splash->shown()) {
             return;
         }
@@ -205,10 +205,10 @@ void Runner::play_splash() {
 
 void Runner::wait(std::string_view arguments) {
     const std::int64_t duration = protocol::integer(arguments, 0, kLongestWait);
-    platform_.desktop.timers().advance(duration, [this](Timer &timer) { tick(timer); });
+    platform_.desktop.timers().advance(duration, [this](Timer& timer) { tick(timer); });
 }
 
-void Runner::tick(Timer &timer) {
+void Runner::tick(Timer& timer) {
     if (!platform_.desktop.ended()) {
         guarded([&] { platform_.desktop.timers().tick(timer); });
         settle();

@@ -14,12 +14,12 @@
 namespace quittika {
 
 /// Builds the program on a platform, starts it and returns what keeps it alive.
-using ProgramFactory = std::function<std::shared_ptr<void>(Platform platform, const std::string &directory)>;
+using ProgramFactory = std::function<std::shared_ptr<void>(Platform platform, const std::string& directory)>;
 
 /// What the script runner drives, and what it cannot make itself.
 struct RunnerParts {
     ProgramFactory program;
-    const FontMetrics &metrics; ///< must outlive the runner
+    const FontMetrics& metrics; ///< must outlive the runner
     PdfFactory pdf = {};        ///< empty: `printto` is refused
     PictureTest picture = {};   ///< empty: every file counts as a picture
 };
@@ -27,37 +27,37 @@ struct RunnerParts {
 /// Drives a program line by line.
 class Runner {
 public:
-    Runner(RunnerParts parts, std::istream &in, std::ostream &out);
-    Runner(const Runner &) = delete;
-    Runner &operator=(const Runner &) = delete;
+    Runner(RunnerParts parts, std::istream& in, std::ostream& out);
+    Runner(const Runner&) = delete;
+    Runner& operator=(const Runner&) = delete;
     ~Runner();
 
     /// Serves commands until the input ends. Returns the exit status: 0, or 1 if a command failed.
     int run();
 
     /// The platform that the program runs on.
-    ScriptPlatform &platform() { return platform_; }
+    ScriptPlatform& platform() { return platform_; }
 
 private:
     void serve_outermost();
     void serve_line();
-    void perform(const std::string &line);
-    void dispatch(const std::string &line);
+    void perform(const std::string& line);
+    void dispatch(const std::string& line);
     void answer();
-    void modal_loop(const std::function<bool()> &open);
-    void guarded(const std::function<void()> &work);
+    void modal_loop(const std::function<bool()>& open);
+    void guarded(const std::function<void()>& work);
     void settle();
 
-    void start(const std::string &line, std::string_view arguments);
+    void start(const std::string& line, std::string_view arguments);
     void play_splash();
     void wait(std::string_view arguments);
-    void tick(Timer &timer);
+    void tick(Timer& timer);
     void quit(std::string_view arguments);
     void end_program();
 
     ProgramFactory factory_;
-    std::istream &in_;
-    std::ostream &out_;
+    std::istream& in_;
+    std::ostream& out_;
     ScriptPlatform platform_;
     Commands commands_;
     std::shared_ptr<void> program_; ///< goes before the platform

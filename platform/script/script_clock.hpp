@@ -11,7 +11,7 @@ class ScriptClock final : public Clock {
 public:
     Zeitpunkt now() const override;
 
-    void set(const Zeitpunkt &time);
+    void set(const Zeitpunkt& time);
     void set_to_real_time();
 
     /// Milliseconds that the clock was moved on altogether; setting it does not count.

@@ -7,8 +7,8 @@ namespace quittika {
 
 namespace {
 
-template <class Windows> auto position(Windows &windows, const Form &form) {
-    return std::find_if(windows.begin(), windows.end(), [&form](const auto &w) { return w.form == &form; });
+template <class Windows> auto position(Windows& windows, const Form& form) {
+    return std::find_if(windows.begin(), windows.end(), [&form](const auto& w) { return w.form == &form; });
 }
 
 } // namespace
@@ -17,7 +17,7 @@ ScriptDesktop::~ScriptDesktop() {
     reset();
 }
 
-void ScriptDesktop::adopt(Form &form) {
+void ScriptDesktop::adopt(Form& form) {
     if (std::find(forms_.begin(), forms_.end(), &form) != forms_.end()) {
         return;
     }
@@ -26,7 +26,7 @@ void ScriptDesktop::adopt(Form &form) {
     timers_.watch(form);
 }
 
-void ScriptDesktop::release(Form &form) {
+void ScriptDesktop::release(Form& form) {
     // The form's controls are gone by now; nothing of them may be touched.
     if (focus_form_ == &form) {
         focus_ = nullptr;
@@ -38,7 +38,7 @@ void ScriptDesktop::release(Form &form) {
 }
 
 void ScriptDesktop::reset() {
-    for (Form *form : std::exchange(forms_, {})) {
+    for (Form* form : std::exchange(forms_, {})) {
         timers_.forget(*form);
         form->detach();
     }
@@ -50,8 +50,7 @@ void ScriptDesktop::reset() {
     ended_ = false;
 }
 
-void ScriptDesktop::show(Form &form, Modality modality) {
-    timers_.update();
+void ScriptDesktop::show(Form& form, Modality modality) {
     const std::uint64_t serial = ++opened_;
     if (position(windows_, form) == windows_.end()) {
         windows_.push_back({&form, serial});
@@ -64,12 +63,12 @@ void ScriptDesktop::show(Form &form, Modality modality) {
     modals_.push_back({&form, serial});
     modal_loop_([this, serial] {
         return !ended_ && std::any_of(modals_.begin(), modals_.end(),
-                                      [serial](const Window &modal) { return modal.opened == serial; });
+                                      [serial](const Window& modal) { return modal.opened == serial; });
     });
-    std::erase_if(modals_, [serial](const Window &modal) { return modal.opened == serial; });
+    std::erase_if(modals_, [serial](const Window& modal) { return modal.opened == serial; });
 }
 
-void ScriptDesktop::hide(Form &form) {
+void ScriptDesktop::hide(Form& form) {
     forget_window(form);
     timers_.update();
     if (focus_form_ == &form) {
@@ -77,24 +76,24 @@ void ScriptDesktop::hide(Form &form) {
     }
 }
 
-void ScriptDesktop::forget_window(const Form &form) {
-    const auto of_form = [&form](const Window &window) { return window.form == &form; };
+void ScriptDesktop::forget_window(const Form& form) {
+    const auto of_form = [&form](const Window& window) { return window.form == &form; };
     std::erase_if(windows_, of_form);
     std::erase_if(modals_, of_form);
 }
 
-void ScriptDesktop::raise(Form &form) {
+void ScriptDesktop::raise(Form& form) {
     const auto found = position(windows_, form);
     if (found != windows_.end()) {
         std::rotate(found, found + 1, windows_.end());
     }
 }
 
-bool ScriptDesktop::takes_focus(const Control &control) const {
+bool ScriptDesktop::takes_focus(const Control& control) const {
     return control.form().shown() && control.effectively_visible() && control.effectively_enabled();
 }
 
-void ScriptDesktop::set_focus(Control &control) {
+void ScriptDesktop::set_focus(Control& control) {
     if (focus_ == &control || !takes_focus(control)) {
         return;
     }
@@ -108,37 +107,37 @@ void ScriptDesktop::set_focus(Control &control) {
 }
 
 void ScriptDesktop::drop_focus() {
-    Control *const former = std::exchange(focus_, nullptr);
+    Control* const former = std::exchange(focus_, nullptr);
     focus_form_ = nullptr;
     if (former != nullptr) {
         fire_event(former->LostFocus);
     }
 }
 
-Form *ScriptDesktop::find(std::string_view name) const {
+Form* ScriptDesktop::find(std::string_view name) const {
     const auto found =
-        std::find_if(forms_.begin(), forms_.end(), [name](const Form *form) { return form->name() == name; });
+        std::find_if(forms_.begin(), forms_.end(), [name](const Form* form) { return form->name() == name; });
     return found == forms_.end() ? nullptr : *found;
 }
 
-std::vector<Form *> ScriptDesktop::windows() const {
-    std::vector<Form *> open;
-    for (const Window &window : windows_) {
+std::vector<Form*> ScriptDesktop::windows() const {
+    std::vector<Form*> open;
+    for (const Window& window : windows_) {
         open.push_back(window.form);
     }
     return open;
 }
 
-bool ScriptDesktop::is_modal(const Form &form) const {
+bool ScriptDesktop::is_modal(const Form& form) const {
     return position(modals_, form) != modals_.end();
 }
 
-const Form *ScriptDesktop::blocker(const Form &form) const {
+const Form* ScriptDesktop::blocker(const Form& form) const {
     const auto window = position(windows_, form);
     if (window == windows_.end()) {
         return nullptr;
     }
-    const auto above = std::find_if(modals_.rbegin(), modals_.rend(), [&](const Window &modal) {
+    const auto above = std::find_if(modals_.rbegin(), modals_.rend(), [&](const Window& modal) {
         return modal.form != &form && modal.opened > window->opened;
     });
     // A window that was made modal later than the others opened is itself in front of them.

@@ -15,18 +15,18 @@ namespace quittika {
 class ScriptDesktop final : public Desktop {
 public:
     /// Serves the user until `open` tells that the modal window is gone.
-    using ModalLoop = std::function<void(const std::function<bool()> &open)>;
+    using ModalLoop = std::function<void(const std::function<bool()>& open)>;
 
-    explicit ScriptDesktop(ScriptClock &clock) : timers_(clock) {}
+    explicit ScriptDesktop(ScriptClock& clock) : timers_(clock) {}
     ~ScriptDesktop() override;
 
-    void adopt(Form &form) override;
-    void release(Form &form) override;
-    void show(Form &form, Modality modality) override;
-    void hide(Form &form) override;
-    void raise(Form &form) override;
+    void adopt(Form& form) override;
+    void release(Form& form) override;
+    void show(Form& form, Modality modality) override;
+    void hide(Form& form) override;
+    void raise(Form& form) override;
     /// Fires `LostFocus` and `GotFocus`. A control that cannot be reached on an open window takes no focus.
-    void set_focus(Control &control) override;
+    void set_focus(Control& control) override;
     int screen_width() const override { return 15360; }
     int screen_height() const override { return 11520; }
     void beep() override {}
@@ -36,20 +36,20 @@ public:
     void on_modal(ModalLoop loop) { modal_loop_ = std::move(loop); }
 
     /// All known forms, open or not, in the order of their adoption.
-    const std::vector<Form *> &forms() const { return forms_; }
+    const std::vector<Form*>& forms() const { return forms_; }
     /// The known form of that name, or null.
-    Form *find(std::string_view name) const;
+    Form* find(std::string_view name) const;
     /// The open windows, the one in front last.
-    std::vector<Form *> windows() const;
-    bool is_modal(const Form &form) const;
+    std::vector<Form*> windows() const;
+    bool is_modal(const Form& form) const;
     /// The modal window that keeps the user away from an open one, or null.
-    const Form *blocker(const Form &form) const;
+    const Form* blocker(const Form& form) const;
 
-    const Control *focus() const { return focus_; }
+    const Control* focus() const { return focus_; }
     /// Takes the focus away from where it is.
     void drop_focus();
 
-    ScriptTimers &timers() { return timers_; }
+    ScriptTimers& timers() { return timers_; }
     /// Takes the next work that was put off; an empty function if there is none.
     std::function<void()> take_work();
     bool ended() const { return ended_; }
@@ -59,20 +59,20 @@ public:
 
 private:
     struct Window {
-        Form *form;
+        Form* form;
         std::uint64_t opened; ///< count of the windows opened before
     };
-    void forget_window(const Form &form);
-    bool takes_focus(const Control &control) const;
+    void forget_window(const Form& form);
+    bool takes_focus(const Control& control) const;
 
     ScriptTimers timers_;
     ModalLoop modal_loop_;
-    std::vector<Form *> forms_;
+    std::vector<Form*> forms_;
     std::vector<Window> windows_; ///< back to front
     std::vector<Window> modals_;  ///< the modal ones, in the order of their opening
     std::deque<std::function<void()>> work_;
-    Control *focus_ = nullptr;
-    const Form *focus_form_ = nullptr; ///< the form of `focus_`, which may be gone already
+    Control* focus_ = nullptr;
+    const Form* focus_form_ = nullptr; ///< the form of `focus_`, which may be gone already
     std::uint64_t opened_ = 0;
     bool ended_ = false;
 };

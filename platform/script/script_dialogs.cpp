@@ -12,9 +12,9 @@ namespace quittika {
 namespace {
 
 // In the order of the enumerations.
-constexpr std::array<const char *, 3> kButtons{"ok", "yesno", "yesnocancel"};
-constexpr std::array<const char *, 5> kSymbols{"none", "information", "question", "exclamation", "stop"};
-constexpr std::array<const char *, 4> kAnswers{"ok", "yes", "no", "cancel"};
+constexpr std::array<const char*, 3> kButtons{"ok", "yesno", "yesnocancel"};
+constexpr std::array<const char*, 5> kSymbols{"none", "information", "question", "exclamation", "stop"};
+constexpr std::array<const char*, 4> kAnswers{"ok", "yes", "no", "cancel"};
 
 bool has_button(Buttons buttons, Answer answer) {
     switch (answer) {
@@ -31,38 +31,38 @@ bool has_button(Buttons buttons, Answer answer) {
 
 std::string line_of(std::initializer_list<std::string> fields) {
     std::string line;
-    for (const std::string &text : fields) {
+    for (const std::string& text : fields) {
         line += (line.empty() ? "" : "|") + protocol::field(text);
     }
     return line;
 }
 
-std::string text_of(const choice::File &file) {
+std::string text_of(const choice::File& file) {
     return file.path;
 }
-std::string text_of(const choice::Colour &colour) {
+std::string text_of(const choice::Colour& colour) {
     return std::to_string(colour.color);
 }
-std::string text_of(const choice::Font &font) {
+std::string text_of(const choice::Font& font) {
     return font.name;
 }
-std::string text_of(const choice::Printer &printer) {
+std::string text_of(const choice::Printer& printer) {
     return std::to_string(printer.copies);
 }
-std::string text_of(const choice::Cancel &) {
+std::string text_of(const choice::Cancel&) {
     return "cancel";
 }
-std::string text_of(const choice::Failure &failure) {
+std::string text_of(const choice::Failure& failure) {
     return "fail " + std::to_string(failure.error);
 }
 
 } // namespace
 
-const char *answer_name(Answer answer) {
+const char* answer_name(Answer answer) {
     return kAnswers.at(static_cast<std::size_t>(answer));
 }
 
-Answer ScriptDialogs::message(const MessageBox &box) {
+Answer ScriptDialogs::message(const MessageBox& box) {
     Answer answer = box.buttons == Buttons::Ok ? Answer::Ok : Answer::No;
     if (!answers_.empty() && has_button(box.buttons, answers_.front())) {
         answer = answers_.front();
@@ -75,7 +75,7 @@ Answer ScriptDialogs::message(const MessageBox &box) {
 }
 
 template <class Wanted> Choice ScriptDialogs::take() {
-    const auto fits = [](const Choice &entry) {
+    const auto fits = [](const Choice& entry) {
         return std::holds_alternative<Wanted>(entry) || std::holds_alternative<choice::Cancel>(entry) ||
                std::holds_alternative<choice::Failure>(entry);
     };
@@ -88,11 +88,11 @@ template <class Wanted> Choice ScriptDialogs::take() {
     return entry;
 }
 
-template <class Wanted> Wanted ScriptDialogs::run(const char *kind, const FileDialog &dialog) {
+template <class Wanted> Wanted ScriptDialogs::run(const char* kind, const FileDialog& dialog) {
     const Choice entry = take<Wanted>();
-    const std::string answer = std::visit([](const auto &chosen) { return text_of(chosen); }, entry);
+    const std::string answer = std::visit([](const auto& chosen) { return text_of(chosen); }, entry);
     dialogs_.push_back(line_of({"dialog", kind, dialog.filter, dialog.proposed_name, dialog.title, answer}));
-    if (const auto *failure = std::get_if<choice::Failure>(&entry)) {
+    if (const auto* failure = std::get_if<choice::Failure>(&entry)) {
         throw Laufzeitfehler(failure->error);
     }
     if (std::holds_alternative<choice::Cancel>(entry)) {
@@ -101,16 +101,16 @@ template <class Wanted> Wanted ScriptDialogs::run(const char *kind, const FileDi
     return std::get<Wanted>(entry);
 }
 
-std::string ScriptDialogs::open_file(const FileDialog &dialog) {
+std::string ScriptDialogs::open_file(const FileDialog& dialog) {
     return run<choice::File>("open", dialog).path;
 }
-std::string ScriptDialogs::save_file(const FileDialog &dialog) {
+std::string ScriptDialogs::save_file(const FileDialog& dialog) {
     return run<choice::File>("save", dialog).path;
 }
 Color ScriptDialogs::choose_color(Color /*start*/) {
     return run<choice::Colour>("color", {}).color;
 }
-std::string ScriptDialogs::choose_font(const std::string & /*start*/) {
+std::string ScriptDialogs::choose_font(const std::string& /*start*/) {
     return run<choice::Font>("font", {}).name;
 }
 int ScriptDialogs::choose_printer(int /*copies*/) {

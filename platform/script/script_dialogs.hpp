@@ -35,12 +35,12 @@ using Choice = std::variant<choice::File, choice::Colour, choice::Font, choice::
 class ScriptDialogs final : public Dialogs {
 public:
     /// The first queued answer is taken if the box has that button; else it waits for a later box.
-    Answer message(const MessageBox &box) override;
+    Answer message(const MessageBox& box) override;
     /// The dialogs take the first queued choice of their kind, a cancel or a failure.
-    std::string open_file(const FileDialog &dialog) override;
-    std::string save_file(const FileDialog &dialog) override;
+    std::string open_file(const FileDialog& dialog) override;
+    std::string save_file(const FileDialog& dialog) override;
     Color choose_color(Color start) override;
-    std::string choose_font(const std::string &start) override;
+    std::string choose_font(const std::string& start) override;
     int choose_printer(int copies) override;
 
     void queue(Answer answer) { answers_.push_back(answer); }
@@ -52,7 +52,7 @@ public:
     std::vector<std::string> take_dialogs();
 
 private:
-    template <class Wanted> Wanted run(const char *kind, const FileDialog &dialog);
+    template <class Wanted> Wanted run(const char* kind, const FileDialog& dialog);
     template <class Wanted> Choice take();
 
     std::deque<Answer> answers_;
@@ -62,6 +62,6 @@ private:
 };
 
 /// Spelling of an answer in commands and data ("yes").
-const char *answer_name(Answer answer);
+const char* answer_name(Answer answer);
 
 } // namespace quittika

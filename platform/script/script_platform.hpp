@@ -13,7 +13,7 @@ namespace quittika {
 
 /// All parts of the scripted platform. It must outlive the program that runs on it.
 struct ScriptPlatform {
-    ScriptPlatform(const FontMetrics &metrics, PdfFactory pdf, PictureTest picture_test)
+    ScriptPlatform(const FontMetrics& metrics, PdfFactory pdf, PictureTest picture_test)
         : printing(metrics, std::move(pdf), std::move(picture_test)) {}
 
     ScriptClock clock;

@@ -10,19 +10,19 @@ namespace quittika {
 
 namespace {
 
-bool is_file(const std::string &path) {
+bool is_file(const std::string& path) {
     std::error_code error;
     return std::filesystem::is_regular_file(std::filesystem::path(path), error);
 }
 
 } // namespace
 
-ScriptPrinting::ScriptPrinting(const FontMetrics &metrics, PdfFactory pdf, PictureTest picture_test)
+ScriptPrinting::ScriptPrinting(const FontMetrics& metrics, PdfFactory pdf, PictureTest picture_test)
     : metrics_(metrics),
       pdf_(std::move(pdf)),
       picture_test_(picture_test ? std::move(picture_test) : is_file) {}
 
-std::shared_ptr<RecordedJob> ScriptPrinting::new_job(const std::string &title) {
+std::shared_ptr<RecordedJob> ScriptPrinting::new_job(const std::string& title) {
     if (std::exchange(fresh_, false)) {
         jobs_.clear();
     }
@@ -30,7 +30,7 @@ std::shared_ptr<RecordedJob> ScriptPrinting::new_job(const std::string &title) {
     return jobs_.back();
 }
 
-std::unique_ptr<PrintDevice> ScriptPrinting::printer(const std::string &job_title) {
+std::unique_ptr<PrintDevice> ScriptPrinting::printer(const std::string& job_title) {
     const auto job = new_job(job_title);
     return std::make_unique<RecordingDevice>(job, picture_test_, [this, job] {
         if (!pdf_path_.empty()) {
@@ -40,7 +40,7 @@ std::unique_ptr<PrintDevice> ScriptPrinting::printer(const std::string &job_titl
     });
 }
 
-std::unique_ptr<PrintDevice> ScriptPrinting::record(const std::string &title) {
+std::unique_ptr<PrintDevice> ScriptPrinting::record(const std::string& title) {
     return std::make_unique<RecordingDevice>(new_job(title), picture_test_);
 }
 
@@ -55,7 +55,7 @@ void ScriptPrinting::print_to(std::string path) {
 void ScriptPrinting::write_pdf() const {
     const auto device = pdf_(pdf_path_, pdf_jobs_.front()->title);
     bool first = true;
-    for (const auto &job : pdf_jobs_) {
+    for (const auto& job : pdf_jobs_) {
         if (!std::exchange(first, false)) {
             device->new_page();
         }

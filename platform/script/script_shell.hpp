@@ -11,7 +11,7 @@ namespace quittika {
 /// Notes down what would be opened.
 class ScriptShell final : public Shell {
 public:
-    void open(const std::string &document) override { opened_.push_back(document); }
+    void open(const std::string& document) override { opened_.push_back(document); }
     /// What was opened since the last call.
     std::vector<std::string> take_opened() { return std::exchange(opened_, {}); }
 

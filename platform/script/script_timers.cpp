@@ -6,8 +6,8 @@
 namespace quittika {
 
 struct ScriptTimers::Entry {
-    Timer *timer;
-    const Form *form;
+    Timer* timer;
+    const Form* form;
     std::optional<std::int64_t> due; ///< as `ScriptClock::elapsed` counts; empty while it stands
     bool ticking = false;
 };
@@ -26,9 +26,9 @@ private:
     std::shared_ptr<Entry> entry_;
 };
 
-void ScriptTimers::watch(Form &form) {
-    for (Control *control : form.controls()) {
-        if (auto *timer = dynamic_cast<Timer *>(control)) {
+void ScriptTimers::watch(Form& form) {
+    for (Control* control : form.controls()) {
+        if (auto* timer = dynamic_cast<Timer*>(control)) {
             const auto entry = std::make_shared<Entry>(Entry{timer, &form, std::nullopt});
             timer->attach(std::make_unique<View>(entry));
             entries_.push_back(entry);
@@ -37,12 +37,12 @@ void ScriptTimers::watch(Form &form) {
     update();
 }
 
-void ScriptTimers::forget(const Form &form) {
-    std::erase_if(entries_, [&form](const auto &entry) { return entry->form == &form; });
+void ScriptTimers::forget(const Form& form) {
+    std::erase_if(entries_, [&form](const auto& entry) { return entry->form == &form; });
 }
 
 void ScriptTimers::update() {
-    for (const auto &entry : entries_) {
+    for (const auto& entry : entries_) {
         if (!entry->timer->running()) {
             entry->due.reset();
         } else if (!entry->due) {
@@ -53,7 +53,7 @@ void ScriptTimers::update() {
 
 std::shared_ptr<ScriptTimers::Entry> ScriptTimers::next_due(std::int64_t until) const {
     std::shared_ptr<Entry> next;
-    for (const auto &entry : entries_) {
+    for (const auto& entry : entries_) {
         const bool waits = entry->due && !entry->ticking && *entry->due <= until;
         if (waits && (!next || *entry->due < *next->due)) {
             next = entry;
@@ -62,7 +62,7 @@ std::shared_ptr<ScriptTimers::Entry> ScriptTimers::next_due(std::int64_t until) 
     return next;
 }
 
-void ScriptTimers::advance(std::int64_t milliseconds, const std::function<void(Timer &)> &fire) {
+void ScriptTimers::advance(std::int64_t milliseconds, const std::function<void(Timer&)>& fire) {
     const std::int64_t until = clock_.elapsed() + milliseconds;
     update();
     while (const auto entry = next_due(until)) {
@@ -75,9 +75,9 @@ void ScriptTimers::advance(std::int64_t milliseconds, const std::function<void(T
     clock_.advance_to(until);
 }
 
-std::vector<Timer *> ScriptTimers::running(const Form &form) const {
-    std::vector<Timer *> found;
-    for (const auto &entry : entries_) {
+std::vector<Timer*> ScriptTimers::running(const Form& form) const {
+    std::vector<Timer*> found;
+    for (const auto& entry : entries_) {
         if (entry->form == &form && entry->timer->running()) {
             found.push_back(entry->timer);
         }
@@ -85,23 +85,23 @@ std::vector<Timer *> ScriptTimers::running(const Form &form) const {
     return found;
 }
 
-std::shared_ptr<ScriptTimers::Entry> ScriptTimers::entry_of(const Timer &timer) const {
+std::shared_ptr<ScriptTimers::Entry> ScriptTimers::entry_of(const Timer& timer) const {
     const auto found = std::find_if(entries_.begin(), entries_.end(),
-                                    [&timer](const auto &entry) { return entry->timer == &timer; });
+                                    [&timer](const auto& entry) { return entry->timer == &timer; });
     return found == entries_.end() ? nullptr : *found;
 }
 
-void ScriptTimers::tick(Timer &timer) {
+void ScriptTimers::tick(Timer& timer) {
     const auto entry = entry_of(timer);
     if (!entry || entry->ticking) {
         return;
     }
     struct Ticking {
-        explicit Ticking(bool &flag) : flag_(flag) { flag_ = true; }
-        Ticking(const Ticking &) = delete;
-        Ticking &operator=(const Ticking &) = delete;
+        explicit Ticking(bool& flag) : flag_(flag) { flag_ = true; }
+        Ticking(const Ticking&) = delete;
+        Ticking& operator=(const Ticking&) = delete;
         ~Ticking() { flag_ = false; }
-        bool &flag_;
+        bool& flag_;
     } const under_way(entry->ticking);
     fire_event(timer.Tick);
 }

@@ -17,7 +17,7 @@ constexpr std::array<std::string_view, 11> kFocusable{
     "CommandButton", "CheckBox",   "OptionButton", "TextBox",      "ListBox",   "ComboBox",
     "HScrollBar",    "VScrollBar", "Slider",       "DriveListBox", "DirListBox"};
 
-bool focusable(const Control &control) {
+bool focusable(const Control& control) {
     return std::find(kFocusable.begin(), kFocusable.end(), control.kind()) != kFocusable.end();
 }
 
@@ -30,13 +30,13 @@ std::size_t character_length(std::string_view text, std::size_t at) {
     return length;
 }
 
-template <class List> void require_item(List &list, int index) {
+template <class List> void require_item(List& list, int index) {
     if (index < -1 || index >= list.ListCount()) {
         throw CommandError(lookup::full_name(list) + " hat keinen Eintrag " + std::to_string(index));
     }
 }
 
-template <class List> void choose(List &list, int index) {
+template <class List> void choose(List& list, int index) {
     if (index == -1) {
         list.ListIndex = -1;
     } else {
@@ -46,18 +46,18 @@ template <class List> void choose(List &list, int index) {
 
 } // namespace
 
-void User::require_reachable(const Control &control) const {
+void User::require_reachable(const Control& control) const {
     lookup::require_reachable(desktop_, control);
 }
 
-void User::focus(Control &control) {
+void User::focus(Control& control) {
     if (focusable(control)) {
         desktop_.set_focus(control);
         require_reachable(control); // leaving the former control may have taken this one away
     }
 }
 
-void User::set(Control &control, const std::string &value) {
+void User::set(Control& control, const std::string& value) {
     require_reachable(control);
     const std::function<void()> give = user_values::setter(control, value);
     focus(control);
@@ -67,7 +67,7 @@ void User::set(Control &control, const std::string &value) {
     }
 }
 
-void User::type(Control &control, const std::string &text) {
+void User::type(Control& control, const std::string& text) {
     require_reachable(control);
     const auto append = user_values::typist(control);
     focus(control);
@@ -79,8 +79,8 @@ void User::type(Control &control, const std::string &text) {
     }
 }
 
-void User::press(Control &control) {
-    const auto *const list = dynamic_cast<const ListBox *>(&control);
+void User::press(Control& control) {
+    const auto* const list = dynamic_cast<const ListBox*>(&control);
     const bool nothing_under_the_pointer = list != nullptr && list->ListIndex() < 0;
     const bool only_drops_down = control.kind() == "ComboBox";
     if (!nothing_under_the_pointer && !only_drops_down) {
@@ -88,26 +88,26 @@ void User::press(Control &control) {
     }
 }
 
-void User::click(Control &control) {
+void User::click(Control& control) {
     require_reachable(control);
     focus(control);
     press(control);
 }
 
-void User::dblclick(Control &control) {
+void User::dblclick(Control& control) {
     click(control);
     if (control.form().shown()) {
         fire_event(control.DblClick);
     }
 }
 
-void User::select(Control &control, int index) {
+void User::select(Control& control, int index) {
     require_reachable(control);
-    if (auto *const list = dynamic_cast<ListBox *>(&control)) {
+    if (auto* const list = dynamic_cast<ListBox*>(&control)) {
         require_item(*list, index);
         focus(control);
         choose(*list, index);
-    } else if (auto *const combo = dynamic_cast<ComboBox *>(&control)) {
+    } else if (auto* const combo = dynamic_cast<ComboBox*>(&control)) {
         require_item(*combo, index);
         focus(control);
         choose(*combo, index);
@@ -116,13 +116,13 @@ void User::select(Control &control, int index) {
     }
 }
 
-void User::key(Control &control, int code) {
+void User::key(Control& control, int code) {
     require_reachable(control);
     focus(control);
     fire_event(control.KeyDown, code);
 }
 
-void User::mouse(Control &control, const std::string &action, const MouseEvent &event) {
+void User::mouse(Control& control, const std::string& action, const MouseEvent& event) {
     struct Action {
         std::string_view name;
         Control::Mouse Control::*handler;
@@ -132,7 +132,7 @@ void User::mouse(Control &control, const std::string &action, const MouseEvent &
                                                      {"move", &Control::MouseMove, false},
                                                      {"up", &Control::MouseUp, true}}};
     const auto found = std::find_if(kActions.begin(), kActions.end(),
-                                    [&action](const Action &known) { return known.name == action; });
+                                    [&action](const Action& known) { return known.name == action; });
     if (found == kActions.end()) {
         throw CommandError("Die Maus kann down, move und up, nicht \"" + action + "\"");
     }
@@ -143,7 +143,7 @@ void User::mouse(Control &control, const std::string &action, const MouseEvent &
     fire_event(control.*(found->handler), event);
 }
 
-void User::drop(Control &control, const std::string &text) {
+void User::drop(Control& control, const std::string& text) {
     require_reachable(control);
     if (!control.OLEDragDrop) {
         throw CommandError(lookup::full_name(control) + " nimmt nichts an");

@@ -11,26 +11,26 @@ namespace quittika {
 /// where a user could not do it.
 class User {
 public:
-    explicit User(ScriptDesktop &desktop) : desktop_(desktop) {}
+    explicit User(ScriptDesktop& desktop) : desktop_(desktop) {}
 
     /// Gives a control a value by hand; a text field is left again.
-    void set(Control &control, const std::string &value);
+    void set(Control& control, const std::string& value);
     /// Types behind the text that stands in the field, and stays there.
-    void type(Control &control, const std::string &text);
-    void click(Control &control);
-    void dblclick(Control &control);
+    void type(Control& control, const std::string& text);
+    void click(Control& control);
+    void dblclick(Control& control);
     /// Clicks an item of a list or combo box; -1 takes the selection away.
-    void select(Control &control, int index);
-    void key(Control &control, int code);
-    void mouse(Control &control, const std::string &action, const MouseEvent &event);
-    void drop(Control &control, const std::string &text);
+    void select(Control& control, int index);
+    void key(Control& control, int code);
+    void mouse(Control& control, const std::string& action, const MouseEvent& event);
+    void drop(Control& control, const std::string& text);
 
 private:
-    void require_reachable(const Control &control) const;
-    void focus(Control &control);
-    void press(Control &control);
+    void require_reachable(const Control& control) const;
+    void focus(Control& control);
+    void press(Control& control);
 
-    ScriptDesktop &desktop_;
+    ScriptDesktop& desktop_;
 };
 
 } // namespace quittika

@@ -15,27 +15,27 @@ namespace {
 
 using Deed = std::function<void()>;
 
-[[noreturn]] void refuse(const Control &control, const std::string &why) {
+[[noreturn]] void refuse(const Control& control, const std::string& why) {
     throw CommandError(lookup::full_name(control) + " " + why);
 }
 
-[[noreturn]] void refuse_value(const Control &control, const std::string &value) {
+[[noreturn]] void refuse_value(const Control& control, const std::string& value) {
     refuse(control, "kann nicht \"" + value + "\" werden");
 }
 
-int number(const std::string &value) {
+int number(const std::string& value) {
     return static_cast<int>(
         protocol::integer(value, std::numeric_limits<int>::min(), std::numeric_limits<int>::max()));
 }
 
-Deed set_text_box(TextBox &box, const std::string &value) {
+Deed set_text_box(TextBox& box, const std::string& value) {
     if (box.Locked()) {
         refuse(box, "ist schreibgeschützt");
     }
     return [&box, value] { box.Text = value; };
 }
 
-Deed set_check_box(CheckBox &box, const std::string &value) {
+Deed set_check_box(CheckBox& box, const std::string& value) {
     const int wanted = number(value);
     const bool reachable = wanted == 0 || wanted == 1 || wanted == box.Value();
     if (!reachable) {
@@ -50,7 +50,7 @@ Deed set_check_box(CheckBox &box, const std::string &value) {
     };
 }
 
-Deed set_option_button(OptionButton &button, const std::string &value) {
+Deed set_option_button(OptionButton& button, const std::string& value) {
     const int wanted = number(value);
     if (wanted < -1 || wanted > 1 || (wanted == 0 && button.Value())) {
         refuse_value(button, value);
@@ -62,7 +62,7 @@ Deed set_option_button(OptionButton &button, const std::string &value) {
     };
 }
 
-Deed set_combo_box(ComboBox &box, const std::string &value) {
+Deed set_combo_box(ComboBox& box, const std::string& value) {
     if (box.editable()) {
         return [&box, value] { box.Text = value; };
     }
@@ -75,7 +75,7 @@ Deed set_combo_box(ComboBox &box, const std::string &value) {
     return [&box, index] { box.user_select(index); };
 }
 
-Deed set_range(RangeControl &range, const std::string &value) {
+Deed set_range(RangeControl& range, const std::string& value) {
     const int wanted = number(value);
     if (wanted < range.Min() || wanted > range.Max()) {
         refuse_value(range, value);
@@ -83,7 +83,7 @@ Deed set_range(RangeControl &range, const std::string &value) {
     return [&range, wanted] { range.Value = wanted; };
 }
 
-template <class List> Deed set_path(List &list, const std::string &value) {
+template <class List> Deed set_path(List& list, const std::string& value) {
     std::error_code error;
     if (!std::filesystem::is_directory(std::filesystem::path(value), error)) {
         refuse_value(list, value);
@@ -93,38 +93,38 @@ template <class List> Deed set_path(List &list, const std::string &value) {
 
 } // namespace
 
-std::function<void()> setter(Control &control, const std::string &value) {
-    if (auto *const text = dynamic_cast<TextBox *>(&control)) {
+std::function<void()> setter(Control& control, const std::string& value) {
+    if (auto* const text = dynamic_cast<TextBox*>(&control)) {
         return set_text_box(*text, value);
     }
-    if (auto *const check = dynamic_cast<CheckBox *>(&control)) {
+    if (auto* const check = dynamic_cast<CheckBox*>(&control)) {
         return set_check_box(*check, value);
     }
-    if (auto *const option = dynamic_cast<OptionButton *>(&control)) {
+    if (auto* const option = dynamic_cast<OptionButton*>(&control)) {
         return set_option_button(*option, value);
     }
-    if (auto *const combo = dynamic_cast<ComboBox *>(&control)) {
+    if (auto* const combo = dynamic_cast<ComboBox*>(&control)) {
         return set_combo_box(*combo, value);
     }
-    if (auto *const drives = dynamic_cast<DriveListBox *>(&control)) {
+    if (auto* const drives = dynamic_cast<DriveListBox*>(&control)) {
         return set_path(*drives, value);
     }
-    if (auto *const directories = dynamic_cast<DirListBox *>(&control)) {
+    if (auto* const directories = dynamic_cast<DirListBox*>(&control)) {
         return set_path(*directories, value);
     }
-    auto *const range = dynamic_cast<RangeControl *>(&control);
+    auto* const range = dynamic_cast<RangeControl*>(&control);
     if (range != nullptr && control.kind() != "ProgressBar") {
         return set_range(*range, value);
     }
     refuse(control, "nimmt keinen Wert an");
 }
 
-std::function<void(const std::string &character)> typist(Control &control) {
-    if (auto *const text = dynamic_cast<TextBox *>(&control); text != nullptr && !text->Locked()) {
-        return [text](const std::string &character) { text->Text = text->Text() + character; };
+std::function<void(const std::string& character)> typist(Control& control) {
+    if (auto* const text = dynamic_cast<TextBox*>(&control); text != nullptr && !text->Locked()) {
+        return [text](const std::string& character) { text->Text = text->Text() + character; };
     }
-    if (auto *const combo = dynamic_cast<ComboBox *>(&control); combo != nullptr && combo->editable()) {
-        return [combo](const std::string &character) { combo->Text = combo->Text() + character; };
+    if (auto* const combo = dynamic_cast<ComboBox*>(&control); combo != nullptr && combo->editable()) {
+        return [combo](const std::string& character) { combo->Text = combo->Text() + character; };
     }
     refuse(control, "nimmt keine Eingabe an");
 }

@@ -11,10 +11,10 @@ namespace quittika {
 namespace user_values {
 
 /// The deed that gives `control` that value. Throws `CommandError` where a user could not reach it.
-std::function<void()> setter(Control &control, const std::string &value);
+std::function<void()> setter(Control& control, const std::string& value);
 
 /// The deed that puts one character behind the text. Throws `CommandError` where nobody can type.
-std::function<void(const std::string &character)> typist(Control &control);
+std::function<void(const std::string& character)> typist(Control& control);
 
 } // namespace user_values
 

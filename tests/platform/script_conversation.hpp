@@ -15,7 +15,7 @@ namespace quittika::script_test {
 /// Hands out one line at a time and notes in the transcript when it was asked for.
 class NotedInput final : public std::streambuf {
 public:
-    NotedInput(std::vector<std::string> lines, std::ostream &transcript)
+    NotedInput(std::vector<std::string> lines, std::ostream& transcript)
         : lines_(std::move(lines)), transcript_(transcript) {}
 
 protected:
@@ -23,7 +23,7 @@ protected:
         if (next_ == lines_.size()) {
             return traits_type::eof();
         }
-        std::string &line = lines_[next_++];
+        std::string& line = lines_[next_++];
         transcript_ << "> " << line << '\n';
         line += '\n';
         setg(line.data(), line.data(), line.data() + line.size());
@@ -33,7 +33,7 @@ protected:
 private:
     std::vector<std::string> lines_;
     std::size_t next_ = 0;
-    std::ostream &transcript_;
+    std::ostream& transcript_;
 };
 
 /// Commands of a conversation: its lines that begin with "> ".

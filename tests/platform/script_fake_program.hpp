@@ -14,10 +14,10 @@ namespace quittika::script_test {
 /// Every byte is two millimetres wide, every line five high.
 class FakeMetrics final : public FontMetrics {
 public:
-    double text_width(const PrintFont &, std::string_view text) const override {
+    double text_width(const PrintFont&, std::string_view text) const override {
         return 2.0 * static_cast<double>(text.size());
     }
-    double line_height(const PrintFont &) const override { return 5; }
+    double line_height(const PrintFont&) const override { return 5; }
 };
 
 struct Splash : Form {
@@ -70,10 +70,10 @@ struct Haupt : Form {
 /// A program small enough to be read, with every kind of thing that the runner has to deal with.
 class FakeProgram {
 public:
-    FakeProgram(const Platform &platform, std::string directory)
+    FakeProgram(const Platform& platform, std::string directory)
         : platform_(platform), directory_(std::move(directory)) {
-        for (Form *form : {static_cast<Form *>(&splash_), static_cast<Form *>(&haupt_),
-                           static_cast<Form *>(&notiz_), static_cast<Form *>(&zweite_)}) {
+        for (Form* form : {static_cast<Form*>(&splash_), static_cast<Form*>(&haupt_),
+                           static_cast<Form*>(&notiz_), static_cast<Form*>(&zweite_)}) {
             platform_.desktop.adopt(*form);
         }
         wire_windows();
@@ -85,7 +85,7 @@ public:
     }
 
 private:
-    void log(const std::string &text) { haupt_.Log.AddItem(text); }
+    void log(const std::string& text) { haupt_.Log.AddItem(text); }
 
     void wire_windows() {
         splash_.Timer1.Tick = [this] {
@@ -95,12 +95,12 @@ private:
                 log("Start " + directory_);
             }
         };
-        haupt_.QueryUnload = [this](bool &cancel) { cancel = haupt_.Haken.ticked(); };
+        haupt_.QueryUnload = [this](bool& cancel) { cancel = haupt_.Haken.ticked(); };
         haupt_.Unload = [this] { platform_.desktop.end(); };
         haupt_.Modal.Click = [this] {
             try {
                 notiz_.Show(Modality::Modal);
-            } catch (const std::exception &) {
+            } catch (const std::exception&) {
                 platform_.shell.open("aufgehalten");
             }
             log("zurück: " + notiz_.Text.Text());
@@ -110,12 +110,20 @@ private:
         };
         notiz_.Schliessen.Click = [this] { notiz_.Hide(); };
         notiz_.Weiter.Click = [this] { zweite_.Show(Modality::Modal); };
+        notiz_.Text.LostFocus = [this] { log("Notiz raus"); };
+        notiz_.Text.Change = [this] {
+            if (notiz_.Text.Text() == "zu") {
+                notiz_.Hide();
+            } else if (notiz_.Text.Text() == "ende") {
+                platform_.desktop.end();
+            }
+        };
         notiz_.Unload = [this] { log("Notiz entladen"); };
         zweite_.Fehler.Click = [] { throw std::runtime_error("oben\nunten"); };
     }
 
     void wire_events() {
-        for (TextBox *box : {&haupt_.Text1, &haupt_.Text2}) {
+        for (TextBox* box : {&haupt_.Text1, &haupt_.Text2}) {
             box->GotFocus = [this, box] { log(box->name() + " rein"); };
             box->LostFocus = [this, box] { log(box->name() + " raus"); };
             box->Change = [this, box] { log(box->name() + "=" + box->Text()); };
@@ -134,16 +142,19 @@ private:
         haupt_.Liste.KeyDown = [this](int code) { log("Taste " + std::to_string(code)); };
         haupt_.Wahl.Click = [this] { log("Wahl " + haupt_.Wahl.Text()); };
         haupt_.Rolle.Change = [this] { log("Rolle " + haupt_.Rolle.main_value()); };
-        haupt_.Ziel.MouseDown = [this](const MouseEvent &e) {
+        haupt_.Ziel.MouseDown = [this](const MouseEvent& e) {
             log("Maus " + std::to_string(e.x + 1000 * e.y));
         };
-        haupt_.Ziel.OLEDragDrop = [this](const std::string &text) { log("Fund " + text); };
+        haupt_.Ziel.OLEDragDrop = [this](const std::string& text) { log("Fund " + text); };
         haupt_.Schnell.Tick = [this] { log("schnell " + std::to_string(platform_.clock.now().sekunde)); };
         haupt_.Langsam.Tick = [this] {
             log("langsam " + std::to_string(platform_.clock.now().sekunde));
             notiz_.Show(Modality::Modal);
         };
-        haupt_.Feld[0].Change = [this] { haupt_.Schnell.Enabled = haupt_.Feld[0].Text() == "an"; };
+        haupt_.Feld[0].Change = [this] {
+            haupt_.Schnell.Enabled = haupt_.Feld[0].Text() != "aus";
+            haupt_.Schnell.Interval = haupt_.Feld[0].Text() == "lang" ? 600 : 400;
+        };
         haupt_.Feld[1].Change = [this] { haupt_.Langsam.Enabled = haupt_.Feld[1].Text() == "an"; };
     }
 
@@ -176,15 +187,15 @@ private:
         };
     }
 
-    template <class Ask> void attempt(const Ask &ask) {
+    template <class Ask> void attempt(const Ask& ask) {
         try {
             log("gewählt " + ask());
-        } catch (const Laufzeitfehler &) {
+        } catch (const Laufzeitfehler&) {
             log("nichts");
         }
     }
 
-    void print(const std::string &title, int copies) {
+    void print(const std::string& title, int copies) {
         for (int copy = 1; copy <= copies; ++copy) {
             const auto device = platform_.printing.printer(title);
             PrintSurface surface(*device, platform_.printing.metrics());
@@ -209,7 +220,7 @@ private:
     Zweite zweite_;
 };
 
-inline std::shared_ptr<void> fake_program(const Platform &platform, const std::string &directory) {
+inline std::shared_ptr<void> fake_program(const Platform& platform, const std::string& directory) {
     if (directory == "kaputt") {
         throw Laufzeitfehler(76);
     }

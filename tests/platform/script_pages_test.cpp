@@ -9,7 +9,7 @@
 namespace quittika::script_test {
 namespace {
 
-constexpr const char *kTwoCopies = R"(job Blatt\t1
+constexpr const char* kTwoCopies = R"(job Blatt\t1
 page 1
 text 0.00 12.35 10.00 9.5 1 255 Nr. 1
 page 2
@@ -68,23 +68,23 @@ TEST(ScriptPages, PictureNeedsItsFile) {
 /// Stands for the PDF surface: the whole document as text, kept when it is ended.
 class PdfStand final : public PrintDevice {
 public:
-    PdfStand(std::string head, std::vector<std::string> &files) : document_(std::move(head)), files_(files) {}
-    void text(double, double, double, const PrintFont &, Color, std::string_view text) override {
+    PdfStand(std::string head, std::vector<std::string>& files) : document_(std::move(head)), files_(files) {}
+    void text(double, double, double, const PrintFont&, Color, std::string_view text) override {
         document_ += "[" + std::string(text) + "]";
     }
     void line(double, double, double, double, Color) override { document_ += "-"; }
-    void picture(double, double, double, double, const std::string &) override { document_ += "#"; }
+    void picture(double, double, double, double, const std::string&) override { document_ += "#"; }
     void new_page() override { document_ += "/"; }
     void end_document() override { files_.push_back(document_); }
 
 private:
     std::string document_;
-    std::vector<std::string> &files_;
+    std::vector<std::string>& files_;
 };
 
 TEST(ScriptPages, PrintToWritesAllJobsSinceIntoOneFile) {
     std::vector<std::string> files;
-    const PdfFactory pdf = [&files](const std::string &path, const std::string &title) {
+    const PdfFactory pdf = [&files](const std::string& path, const std::string& title) {
         return std::make_unique<PdfStand>(path + " " + title + ":", files);
     };
     play("> start d\n> click form1.Drucken\n> printto a b.pdf\n> click form1.Drucken\n> click form1.Modal\n"
@@ -97,7 +97,7 @@ TEST(ScriptPages, PrintToWritesAllJobsSinceIntoOneFile) {
 }
 
 TEST(ScriptPages, WithoutPdfSurfacePrintToIsRefused) {
-    const char *const expected = "> printto x.pdf\nerror: Es gibt keine Ausgabe in PDF-Dateien\n";
+    const char* const expected = "> printto x.pdf\nerror: Es gibt keine Ausgabe in PDF-Dateien\n";
     EXPECT_EQ(play(expected).transcript, expected);
 }
 
@@ -106,7 +106,7 @@ TEST(ScriptPages, PreviewIsRecordedButNotPrinted) {
     std::vector<std::string> files;
     ScriptPrinting printing(
         metrics,
-        [&files](const std::string &, const std::string &) { return std::make_unique<PdfStand>("", files); },
+        [&files](const std::string&, const std::string&) { return std::make_unique<PdfStand>("", files); },
         {});
     printing.print_to("x.pdf");
     printing.begin_command();

@@ -6,19 +6,19 @@ namespace quittika::script_test {
 namespace {
 
 struct Conversation {
-    const char *name;
-    const char *text; ///< what follows the first start; commands begin with "> "
+    const char* name;
+    const char* text; ///< what follows the first start; commands begin with "> "
 };
 
-void PrintTo(const Conversation &conversation, std::ostream *out) {
+void PrintTo(const Conversation& conversation, std::ostream* out) {
     *out << conversation.name;
 }
 
-constexpr const char *kStart = "> start dir 2008-05-17T09:30:58\nok\n";
+constexpr const char* kStart = "> start dir 2008-05-17T09:30:58\nok\n";
 
-class Talk : public testing::TestWithParam<Conversation> {};
+class ScriptTalk : public testing::TestWithParam<Conversation> {};
 
-TEST_P(Talk, GoesAsWritten) {
+TEST_P(ScriptTalk, GoesAsWritten) {
     const std::string expected = std::string(kStart) + GetParam().text;
     const Outcome outcome = play(expected);
     EXPECT_EQ(outcome.transcript, expected);
@@ -52,12 +52,13 @@ error: Vor dem Fenster form1 steht Form_Notiz
 > set Form_Notiz.Text offen
 ok
 > get form1.Log.ListCount
-1
+2
 ok
 > click Form_Notiz.Schliessen
 ok
 > items form1.Log
 Start dir
+Notiz raus
 zurück: offen
 ok
 > click Form_Notiz.Schliessen
@@ -127,6 +128,13 @@ box|Frage|yesno|question|a\pb\nc|yes
 box|Frage|yesnocancel|exclamation|Ende?|no
 ok
 )"},
+    {"program_ends_out_of_a_modal_window", R"(> click form1.Modal
+ok
+> set Form_Notiz.Text ende
+ok
+> get Form_Notiz.Text
+error: Es läuft kein Programm
+)"},
     {"closing_the_main_window_ends_the_program", R"(> set form1.Haken 1
 ok
 > close form1
@@ -151,8 +159,8 @@ Start neu
 ok
 )"},
 };
-INSTANTIATE_TEST_SUITE_P(Windows, Talk, testing::ValuesIn(kWindows),
-                         [](const auto &p) { return p.param.name; });
+INSTANTIATE_TEST_SUITE_P(Windows, ScriptTalk, testing::ValuesIn(kWindows),
+                         [](const auto& p) { return p.param.name; });
 
 const Conversation kTimers[] = {
     {"ticks_in_order_on_the_moved_clock", R"(> set form1.Feld(0) an
@@ -186,6 +194,23 @@ ok
 > set form1.Feld(0) an
 ok
 > wait 399
+ok
+> get form1.Log.ListCount
+1
+ok
+> wait 1
+ok
+> get form1.Log.ListCount
+2
+ok
+)"},
+    {"another_interval_counts_anew", R"(> set form1.Feld(0) an
+ok
+> wait 300
+ok
+> set form1.Feld(0) lang
+ok
+> wait 599
 ok
 > get form1.Log.ListCount
 1
@@ -258,8 +283,8 @@ danach
 ok
 )"},
 };
-INSTANTIATE_TEST_SUITE_P(Timers, Talk, testing::ValuesIn(kTimers),
-                         [](const auto &p) { return p.param.name; });
+INSTANTIATE_TEST_SUITE_P(Timers, ScriptTalk, testing::ValuesIn(kTimers),
+                         [](const auto& p) { return p.param.name; });
 
 const Conversation kQueues[] = {
     {"boxes_by_queue_and_by_default", R"(> answer cancel
@@ -349,11 +374,11 @@ ok
                   "> forms jetzt\nerror: Der Befehl forms steht allein\n> click form1.Spaeter\r\nok\n"
                   "> get form1.Log.ListCount\n3\nok\n"},
 };
-INSTANTIATE_TEST_SUITE_P(Queues, Talk, testing::ValuesIn(kQueues),
-                         [](const auto &p) { return p.param.name; });
+INSTANTIATE_TEST_SUITE_P(Queues, ScriptTalk, testing::ValuesIn(kQueues),
+                         [](const auto& p) { return p.param.name; });
 
-TEST(Runner, WithoutAProgramOnlyControlsAreMissing) {
-    const char *const expected = R"(> get form1.Text1
+TEST(ScriptRunner, WithoutAProgramOnlyControlsAreMissing) {
+    const char* const expected = R"(> get form1.Text1
 error: Es läuft kein Programm
 > forms
 ok

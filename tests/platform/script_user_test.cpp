@@ -7,19 +7,19 @@ namespace {
 
 /// Acts on a fresh main window, and what the program noticed of them.
 struct Acts {
-    const char *name;
-    const char *commands; ///< one a line
-    const char *answers;  ///< what the runner wrote
-    const char *log;      ///< the items of form1.Log behind the first
+    const char* name;
+    const char* commands; ///< one a line
+    const char* answers;  ///< what the runner wrote
+    const char* log;      ///< the items of form1.Log behind the first
 };
 
-void PrintTo(const Acts &acts, std::ostream *out) {
+void PrintTo(const Acts& acts, std::ostream* out) {
     *out << acts.name;
 }
 
-class Hands : public testing::TestWithParam<Acts> {};
+class ScriptHands : public testing::TestWithParam<Acts> {};
 
-TEST_P(Hands, DoAsUsersDo) {
+TEST_P(ScriptHands, DoAsUsersDo) {
     const FakeMetrics metrics;
     std::istringstream in("start x 2008-05-17T09:30:00\n" + std::string(GetParam().commands) +
                           "items form1.Log\n");
@@ -47,10 +47,11 @@ const Acts kActs[] = {
      "Code 47\\r\\n\n"},
     {"focus_moves", "type form1.Text1\nclick form1.Text2\nclick form1.Spaeter\n", "ok\nok\nok\n",
      "Text1 rein\nText1 raus\nText2 rein\nText2 raus\ndavor\ndanach\n"},
-    {"hidden_window_loses_focus",
-     "click form1.Modal\ntype Form_Notiz.Text x\nclick Form_Notiz.Schliessen\n"
-     "click form1.Text1\n",
-     "ok\nok\nok\nok\n", "zurück: x\nText1 rein\n"},
+    {"closed_window_loses_focus",
+     "click form1.Modal\ntype Form_Notiz.Text x\nclose Form_Notiz\nclick form1.Text1\n", "ok\nok\nok\nok\n",
+     "Notiz entladen\nNotiz raus\nzurück: x\nText1 rein\n"},
+    {"typing_closes_the_window", "click form1.Modal\ntype Form_Notiz.Text zuletzt\nget Form_Notiz.Text\n",
+     "ok\nerror: Das Fenster Form_Notiz ist nicht offen\nzu\nok\n", "Notiz raus\nzurück: zu\n"},
     {"check_box",
      "set form1.Haken 1\nset form1.Haken 1\nset form1.Haken 2\nset form1.Haken ja\nclick form1.Haken\n",
      "ok\nok\nerror: form1.Haken kann nicht \"2\" werden\nerror: \"ja\" ist keine ganze Zahl\nok\n",
@@ -106,7 +107,8 @@ const Acts kActs[] = {
      "error: Es gibt kein Fenster Foo\n",
      ""},
 };
-INSTANTIATE_TEST_SUITE_P(Acts, Hands, testing::ValuesIn(kActs), [](const auto &p) { return p.param.name; });
+INSTANTIATE_TEST_SUITE_P(Acts, ScriptHands, testing::ValuesIn(kActs),
+                         [](const auto& p) { return p.param.name; });
 
 } // namespace
 } // namespace quittika::script_test
