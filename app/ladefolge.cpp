@@ -171,14 +171,8 @@ void Ladefolge::SchriftgroessenPruefen() {
 }
 
 void Ladefolge::FarbenSetzen() {
-    Form1& f = z_.form1;
-    f.Text_LIEFERDATUM.Text = " ";
-    const Color rahmen = color::kGrey;
-    for (TextBox* feld : {&f.Text_LIEFERDATUM, &f.Text_summe, &f.Text_summeRabatt, &f.Text_summeNACHRABATT,
-                          &f.Text_summemwst, &f.Text_gesamtbetrag, &f.Text_PreisVersankosten,
-                          &f.Text_PreisVersankostenMwST}) {
-        feld->BackColor = rahmen;
-    }
+    z_.form1.Text_LIEFERDATUM.Text = " ";
+    z_.form1.Text_LIEFERDATUM.BackColor = color::kGrey;
 }
 
 } // namespace quittika

@@ -62,4 +62,8 @@ Programm::~Programm() = default;
 
 void Programm::starten() { teile_->form_start.Show(); }
 
+void Programm::hauptfenster_zeigen() { teile_->form1.Show(); }
+
+Form& Programm::hauptfenster() { return teile_->form1; }
+
 } // namespace quittika

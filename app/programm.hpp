@@ -18,6 +18,9 @@ public:
 
     /// Shows the splash window; its timer leads to the main window.
     void starten();
+    /// Shows the main window at once.
+    void hauptfenster_zeigen();
+    Form& hauptfenster();
 
 private:
     struct Teile;

@@ -22,6 +22,16 @@ bool mitgeliefert(const fs::path& datei) {
 
 } // namespace
 
+void MITGELIEFERTES_KOPIEREN(const fs::path& von, const fs::path& nach) {
+    std::error_code fehler;
+    for (const fs::directory_entry& eintrag : fs::directory_iterator(von, fehler)) {
+        const fs::path ziel = nach / eintrag.path().filename();
+        if (eintrag.is_regular_file(fehler) && mitgeliefert(eintrag.path()) && !fs::exists(ziel, fehler)) {
+            fs::copy_file(eintrag.path(), ziel, fehler);
+        }
+    }
+}
+
 fs::path PROGRAMMORDNER(const fs::path& programmdatei, const fs::path& datenordner) {
     const fs::path ordner = programmdatei.parent_path();
     if (access(ordner.c_str(), W_OK) == 0) {
@@ -29,12 +39,7 @@ fs::path PROGRAMMORDNER(const fs::path& programmdatei, const fs::path& datenordn
     }
     std::error_code fehler;
     fs::create_directories(datenordner, fehler);
-    for (const fs::directory_entry& eintrag : fs::directory_iterator(ordner, fehler)) {
-        const fs::path ziel = datenordner / eintrag.path().filename();
-        if (eintrag.is_regular_file(fehler) && mitgeliefert(eintrag.path()) && !fs::exists(ziel, fehler)) {
-            fs::copy_file(eintrag.path(), ziel, fehler);
-        }
-    }
+    MITGELIEFERTES_KOPIEREN(ordner, datenordner);
     return datenordner;
 }
 

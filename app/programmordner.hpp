@@ -9,4 +9,7 @@ namespace quittika {
 std::filesystem::path PROGRAMMORDNER(const std::filesystem::path& programmdatei,
                                      const std::filesystem::path& datenordner);
 
+/// Copies the shipped pictures, invoices and documents of one directory into another, where they are missing.
+void MITGELIEFERTES_KOPIEREN(const std::filesystem::path& von, const std::filesystem::path& nach);
+
 } // namespace quittika

@@ -133,6 +133,11 @@ void Rechnungsleser::VersandUebernehmen() {
 }
 
 void Rechnungsleser::BetraegeUebernehmen() {
+    for (TextBox* betrag : {&form1_.Text_summe, &form1_.Text_summemwst, &form1_.Text_gesamtbetrag}) {
+        if (!ist_numerisch(betrag->Text())) {
+            betrag->Text = vorgabe::kBetrag;
+        }
+    }
     form1_.Text_Rabatt.Text = normalisiert(DatenLesen[dateizeile::kRabattprozent]);
     form1_.Text_summeRabatt.Text = normalisiert(DatenLesen[dateizeile::kRabattbetrag]);
     form1_.Text_summeNACHRABATT.Text = normalisiert(DatenLesen[dateizeile::kNachRabatt]);

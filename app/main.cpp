@@ -1,0 +1,23 @@
+#include "app/programm.hpp"
+#include "app/programmordner.hpp"
+#include "platform/qt/application.hpp"
+#include "platform/qt/qt_platform.hpp"
+
+#include <QStandardPaths>
+
+#include <csignal>
+#include <filesystem>
+
+int main(int argc, char** argv) {
+    using namespace quittika;
+    std::signal(SIGXFSZ, SIG_IGN); // a file that grows too big is an error of its own, not the end
+    const QtApplication anwendung(argc, argv);
+    QtPlatform plattform;
+    const std::filesystem::path daten =
+        std::filesystem::path(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation).toStdString()) /
+        "quittika2008";
+    const std::filesystem::path ordner =
+        PROGRAMMORDNER(std::filesystem::path(QtApplication::program_directory()) / "quittika", daten);
+    Programm programm(plattform.platform(), ordner.string());
+    return plattform.desktop().run([&programm] { programm.starten(); });
+}

@@ -1,0 +1,158 @@
+#include "invoice/compressor.hpp"
+#include "invoice/summen.hpp"
+
+#include "platform/text.hpp"
+#include "tests/pruefstand.hpp"
+
+#include <gtest/gtest.h>
+
+namespace quittika {
+namespace {
+
+TEST(Mengen, WerdenNachIhrerArtGelesenUndGeschrieben) {
+    struct Fall {
+        const char* name;
+        bool dezimal;
+        const char* getippt;
+        const char* danach;
+        int meldungen;
+    };
+    const Fall faelle[] = {
+        {"ganze Zahl", false, "3", "3", 0},
+        {"halb zur geraden", false, "2,5", "2", 0},
+        {"halb zur geraden aufwärts", false, "3.5", "4", 0},
+        {"größte ganze", false, "32767", "32767", 0},
+        {"zu groß", false, "32768", "32768", 1},
+        {"eine Stelle", true, "1,5", "1,5", 0},
+        {"zwei Stellen mit Punkt", true, "1.25", "1,25", 0},
+        {"vier Stellen", true, "0,1234", "0,1234", 0},
+        {"fünf Stellen nehmen zwei", true, "0,12345", "0,12", 0},
+        {"ohne Komma", true, "7", "7,00", 0},
+        {"keine Zahl", false, "zwei", "zwei", 1},
+        {"leer", true, "", "", 1},
+        {"Leerzeichen einer Kommentarzeile", false, " ", " ", 0},
+        {"Punkt und Komma", true, "1.234,5", "1,234,5", 1},
+        {"unendlich", true, "inf", "inf", 1},
+    };
+    for (const Fall& f : faelle) {
+        SCOPED_TRACE(f.name);
+        Pruefstand p;
+        p.form1.Check_mengenartDECIMAL.Value = f.dezimal ? 1 : 0;
+        p.form1.Text_Menge.Text = f.getippt;
+        p.summen.jetztberechnen_List();
+        EXPECT_EQ(p.form1.Text_Menge.Text(), f.danach);
+        ASSERT_EQ(static_cast<int>(p.dialoge.boxen.size()), f.meldungen);
+        if (f.meldungen > 0) {
+            EXPECT_EQ(p.dialoge.boxen[0].title, "Achtung Fehler!");
+            EXPECT_EQ(p.dialoge.boxen[0].text, "Ihre Eingabe ist nicht gültig!");
+        }
+    }
+}
+
+TEST(Summen, SaetzeBehaltenBeiFalscherEingabeIhrenWert) {
+    Pruefstand p;
+    p.form1.Text_Rabatt.Text = "12.5";
+    p.summen.jetztberechnen_List();
+    EXPECT_EQ(p.form1.Text_Rabatt.Text(), "12,50");
+    p.form1.Text_Rabatt.Text = "viel";
+    p.summen.jetztberechnen_List();
+    EXPECT_EQ(p.form1.Text_Rabatt.Text(), "12,50");
+}
+
+TEST(Summen, NurZahlenAusserhalbVonKommentarenZaehlen) {
+    Pruefstand p;
+    for (const auto& [art, betrag] : {std::pair{"-", "10,50"}, {"K", "99,00"}, {"T", " "}, {"-", "kaputt"}, {"X", "1,00"}}) {
+        p.form1.List_K.AddItem(art);
+        p.form1.List_pos.AddItem("?");
+        p.form1.List_Gesamtp.AddItem(betrag);
+    }
+    p.form1.List_Gesamtp.ListIndex = 2;
+    p.form1.List_pos.ListIndex = 3;
+    p.summen.jetztberechnen_List();
+    EXPECT_EQ(p.form1.Text_summe.Text(), "11,50");
+    EXPECT_EQ(p.form1.List_pos.items(), (std::vector<std::string>{"1", " ", " ", "2", " "}));
+    EXPECT_EQ(p.form1.List_Gesamtp.ListIndex(), 2) << "calculating keeps the selection";
+    EXPECT_EQ(p.form1.List_pos.ListIndex(), 3);
+}
+
+TEST(Summen, DezimaleStoerungenVerschwinden) {
+    Pruefstand p;
+    for (int i = 0; i < 10; ++i) {
+        p.form1.List_K.AddItem("-");
+        p.form1.List_Gesamtp.AddItem("0,10");
+    }
+    p.form1.Check_mwst.Value = 1;
+    p.form1.Option_inkl_MwSt.Value = true;
+    p.summen.jetztberechnen_List();
+    EXPECT_EQ(p.form1.Text_summe.Text(), "1,00");
+    EXPECT_EQ(p.form1.Text_summemwst.Text(), "0,16");
+}
+
+TEST(Summen, DivisionDurchNullLaesstDieBetraegeStehen) {
+    Pruefstand p;
+    p.zeile("1", "Posten", "119");
+    p.form1.Check_mwst.Value = 1;
+    p.form1.Option_mwst_minus.Value = true;
+    p.summen.jetztberechnen_List();
+    EXPECT_EQ(p.form1.Text_gesamtbetrag.Text(), "100,00");
+    p.form1.Text_MwSt.Text = "-100";
+    p.summen.jetztberechnen_List();
+    EXPECT_EQ(p.form1.Text_gesamtbetrag.Text(), "100,00");
+    EXPECT_TRUE(p.dialoge.boxen.empty());
+}
+
+TEST(Summen, VersandBeschriftungenFolgenDerArt) {
+    Pruefstand p;
+    Form1& f = p.form1;
+    f.Text_Versandk.Text = "Porto:";
+    f.Text_PreisVersankostenEingabe.Text = "11,90";
+    f.Check_VersandMwStEXTRA.Value = 1;
+    p.summen.jetztberechnen_List();
+    EXPECT_EQ(f.Label_Versandkosten.Caption(), "Porto: (Netto)") << "also without shipping";
+    EXPECT_EQ(f.Label_VersandkostenMWST.Caption(), "Versandk.-MwSt.: (19%)");
+    EXPECT_EQ(f.Text_PreisVersankosten.Text(), "0,00");
+    f.Check_Versandkosten.Value = 1;
+    f.Text_PreisVersankostenEingabe.Text = "11,90";
+    p.summen.jetztberechnen_List();
+    EXPECT_EQ(f.Text_PreisVersankosten.Text(), "10,00");
+    f.Check_VersandMwStEXTRA.Value = 0;
+    f.Check_VersandINKL_MwSt.Value = 1;
+    f.Text_MwSt.Text = "7";
+    p.summen.jetztberechnen_List();
+    EXPECT_EQ(f.Label_Versandkosten.Caption(), "Porto:");
+    EXPECT_EQ(f.Label_VersandkostenMWST.Caption(), "Enthaltene MwSt. 7,00 %:") << "names the invoice's rate";
+    EXPECT_EQ(f.Text_PreisVersankosten.Text(), "11,90");
+    EXPECT_EQ(f.Text_PreisVersankostenMwST.Text(), "1,90") << "amount by the rate of the settings";
+    f.Check_VersandMwStEXTRA.Value = 1;
+    f.Text_PreisVersankostenEingabe.Text = "23,80";
+    p.summen.jetztberechnen_List();
+    EXPECT_EQ(f.Text_PreisVersankostenMwST.Text(), "1,90") << "both ticks keep the former split";
+}
+
+TEST(Compressor, SpaltenHabenIhreBreite) {
+    struct Fall {
+        int art;
+        const char* text;
+        std::string erwartet;
+    };
+    const Fall faelle[] = {
+        {1, "7", "007"},
+        {1, "1234", "1234"},
+        {1, " ", "   "},
+        {2, "12", "       12"},
+        {2, "1234567890", "1234567890"},
+        {3, "ab", std::string(37, ' ') + "ab" + std::string(37, ' ')},
+        {3, "für", std::string(36, ' ') + "für " + std::string(36, ' ')},
+        {3, "", std::string(76, ' ')},
+        {4, "1,00", "  1,00"},
+        {5, "1,00", "      1,00"},
+        {6, "1", ""},
+    };
+    for (const Fall& f : faelle) {
+        EXPECT_EQ(COMPRESSOR(f.art, f.text), f.erwartet) << f.art << " " << f.text;
+    }
+    EXPECT_EQ(zeichenzahl(COMPRESSOR(3, std::string(80, 'x'))), 80U) << "a longer text is not cut";
+}
+
+} // namespace
+} // namespace quittika

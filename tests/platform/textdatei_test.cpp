@@ -1,0 +1,144 @@
+#include "platform/textdatei.hpp"
+
+#include "platform/verzeichnis.hpp"
+#include "tests/pruefstand.hpp"
+
+#include <gtest/gtest.h>
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace quittika {
+namespace {
+
+int lesefehler(const std::string& pfad) {
+    try {
+        lesen(pfad);
+    } catch (const Laufzeitfehler& f) {
+        return f.nummer();
+    }
+    return 0;
+}
+
+int schreibfehler(const std::string& pfad) {
+    try {
+        schreiben(pfad, {"neu"});
+    } catch (const Laufzeitfehler& f) {
+        return f.nummer();
+    }
+    return 0;
+}
+
+TEST(Textdatei, JedesZeilenendeWirdGelesen) {
+    const Probenordner o;
+    o.schreiben("a.txt", "eins\r\nzwei\nd\rei\n\r\n" + std::string("vier\0f\xFCnf", 9));
+    const auto zeilen = lesen(o.pfad("a.txt"));
+    ASSERT_EQ(zeilen.size(), 5U);
+    EXPECT_EQ(zeilen[2], "d\rei");
+    EXPECT_EQ(zeilen[3], "");
+    EXPECT_EQ(zeilen[4], std::string("vier\0fünf", 10));
+    EXPECT_EQ(lesen(o.pfad("a.txt"), 2).size(), 2U);
+    int gezaehlt = 0;
+    lesen(o.pfad("a.txt"), [&](std::string_view) { return ++gezaehlt < 3; });
+    EXPECT_EQ(gezaehlt, 3);
+    schreiben(o.pfad("b.txt"), zeilen);
+    EXPECT_EQ(lesen(o.pfad("b.txt")), zeilen);
+}
+
+TEST(Textdatei, FehlerHabenIhreNummer) {
+    const Probenordner o;
+    std::filesystem::create_directory(o.pfad("ordner"));
+    EXPECT_EQ(lesefehler(o.pfad("fehlt")), fehler::kDateiFehlt);
+    EXPECT_EQ(lesefehler(o.pfad("kein/ordner")), fehler::kPfadFehlt);
+    EXPECT_EQ(lesefehler(o.pfad("ordner")), fehler::kPfadZugriff);
+    EXPECT_EQ(schreibfehler(o.pfad("ordner")), fehler::kPfadZugriff);
+    EXPECT_EQ(schreibfehler(o.pfad("kein/ordner")), fehler::kPfadFehlt);
+    EXPECT_EQ(schreibfehler("/dev/full"), fehler::kDatentraegerVoll);
+    EXPECT_EQ(ZEILE_ANHAENGEN("/dev/full", "x").fehlernummer, fehler::kDatentraegerVoll);
+}
+
+/// Acts as a user who may not write everywhere, for its lifetime.
+class OhneVorrechte {
+public:
+    explicit OhneVorrechte(const std::string& ordner) : war_root_(geteuid() == 0) {
+        constexpr uid_t kNiemand = 65534;
+        if (war_root_ && (chown(ordner.c_str(), kNiemand, kNiemand) != 0 || seteuid(kNiemand) != 0)) {
+            ADD_FAILURE() << "cannot give up the rights of root";
+        }
+    }
+    OhneVorrechte(const OhneVorrechte&) = delete;
+    OhneVorrechte& operator=(const OhneVorrechte&) = delete;
+    ~OhneVorrechte() {
+        if (war_root_ && seteuid(0) != 0) {
+            ADD_FAILURE() << "cannot take back the rights of root";
+        }
+    }
+
+private:
+    bool war_root_;
+};
+
+TEST(Textdatei, GesperrterOrdnerLaesstDasAlteStehen) {
+    const Probenordner o;
+    o.schreiben("a.txt", "alt\r\n");
+    {
+        const OhneVorrechte niemand(o.ordner());
+        chmod(o.ordner().c_str(), 0500);
+        EXPECT_EQ(schreibfehler(o.pfad("a.txt")), fehler::kZugriffVerweigert);
+        EXPECT_EQ(schreibfehler(o.pfad("b.txt")), fehler::kZugriffVerweigert);
+        chmod(o.ordner().c_str(), 0700);
+    }
+    EXPECT_EQ(o.lesen("a.txt"), "alt\r\n");
+    EXPECT_FALSE(std::filesystem::exists(o.pfad("a.txt.neu")));
+}
+
+TEST(Textdatei, ErsetzenBehaeltRechteUndFolgtVerweisen) {
+    const Probenordner o;
+    o.schreiben("echt.txt", "alt");
+    chmod(o.pfad("echt.txt").c_str(), 0640);
+    std::filesystem::create_symlink(o.pfad("echt.txt"), o.pfad("verweis.txt"));
+    EXPECT_EQ(schreiben(o.pfad("verweis.txt"), {"neu"}), 0U);
+    EXPECT_TRUE(std::filesystem::is_symlink(o.pfad("verweis.txt")));
+    EXPECT_EQ(o.lesen("echt.txt"), "neu\r\n");
+    struct stat auskunft {};
+    ASSERT_EQ(stat(o.pfad("echt.txt").c_str(), &auskunft), 0);
+    EXPECT_EQ(auskunft.st_mode & 0777U, 0640U);
+}
+
+TEST(Textdatei, ErsteZeileIstDieFrageNachDerDatei) {
+    const Probenordner o;
+    o.schreiben("leer", "");
+    o.schreiben("zeile", "\r\nzwei");
+    EXPECT_EQ(DATEI_ERSTE_ZEILE(o.pfad("fehlt")), "FEHLER");
+    EXPECT_EQ(DATEI_ERSTE_ZEILE(o.ordner()), "FEHLER");
+    EXPECT_EQ(DATEI_ERSTE_ZEILE(o.pfad("leer")), "FEHLER");
+    EXPECT_EQ(DATEI_ERSTE_ZEILE(o.pfad("zeile")), "");
+    DATEI_SCHREIBEN(Programmverzeichnis(o.ordner()).pfad("\\RN.txt"), "17");
+    EXPECT_EQ(o.lesen("RN.txt"), "17\r\n");
+    EXPECT_EQ(DATEI_ERSTE_ZEILE(o.ordner() + "\\RN.txt"), "17");
+}
+
+TEST(Textdatei, AnhaengenBeginntAufEinerNeuenZeile) {
+    const Probenordner o;
+    EXPECT_TRUE(ZEILE_ANHAENGEN(o.pfad("k.txt"), "Müller"));
+    EXPECT_TRUE(ZEILE_ANHAENGEN(o.pfad("k.txt"), "Meier"));
+    EXPECT_EQ(o.lesen("k.txt"), "M\xFCller\r\nMeier\r\n");
+    o.schreiben("k.txt", "ohne Ende");
+    EXPECT_TRUE(ZEILE_ANHAENGEN(o.pfad("k.txt"), "Meier"));
+    EXPECT_EQ(o.lesen("k.txt"), "ohne Ende\r\nMeier\r\n");
+    EXPECT_FALSE(ZEILE_ANHAENGEN(o.ordner(), "x"));
+}
+
+TEST(Textdatei, FelderEinerZeile) {
+    EXPECT_EQ(FELD_AUS_ZEILE("a...b......", "...", 0), "a");
+    EXPECT_EQ(FELD_AUS_ZEILE("a...b......", "...", 2), "");
+    EXPECT_EQ(FELD_AUS_ZEILE("a...b......", "...", 3), "");
+    EXPECT_EQ(FELD_AUS_ZEILE("a...b......", "...", 4), "ERROR");
+    EXPECT_EQ(FELD_AUS_ZEILE("", "...", 0), "ERROR");
+    EXPECT_EQ(FELD_AUS_ZEILE("abc", ";", 0), "abc");
+    EXPECT_EQ(FELD_AUS_ZEILE("abc", ";", -1), "ERROR");
+    EXPECT_EQ(FELD_AUS_ZEILE("abc", "", 0), "ERROR");
+}
+
+} // namespace
+} // namespace quittika

@@ -1,0 +1,125 @@
+#pragma once
+
+#include "invoice/file/dateibefehle.hpp"
+#include "invoice/positionen.hpp"
+#include "platform/laufzeitfehler.hpp"
+
+#include <deque>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <string>
+#include <vector>
+
+#include <stdlib.h>
+
+namespace quittika {
+
+/// Dialogs that answer from queues and keep what they were asked.
+class FalscheDialoge : public Dialogs {
+public:
+    std::deque<Answer> antworten;
+    std::deque<std::string> dateien;
+    std::vector<MessageBox> boxen;
+
+    Answer message(const MessageBox& box) override {
+        boxen.push_back(box);
+        if (antworten.empty() || box.buttons == Buttons::Ok) {
+            return box.buttons == Buttons::Ok ? Answer::Ok : Answer::No;
+        }
+        const Answer antwort = antworten.front();
+        antworten.pop_front();
+        return antwort;
+    }
+    std::string open_file(const FileDialog&) override { return naechste_datei(); }
+    std::string save_file(const FileDialog&) override { return naechste_datei(); }
+    Color choose_color(Color) override { throw Laufzeitfehler(fehler::kDialogAbgebrochen); }
+    std::string choose_font(const std::string&) override { throw Laufzeitfehler(fehler::kDialogAbgebrochen); }
+    int choose_printer(int) override { throw Laufzeitfehler(fehler::kDialogAbgebrochen); }
+
+private:
+    std::string naechste_datei() {
+        if (dateien.empty()) {
+            throw Laufzeitfehler(fehler::kDialogAbgebrochen);
+        }
+        std::string datei = dateien.front();
+        dateien.pop_front();
+        return datei;
+    }
+};
+
+struct StehendeUhr : Clock {
+    Zeitpunkt zeit{2008, 3, 5, 10, 20, 30};
+    Zeitpunkt now() const override { return zeit; }
+};
+
+/// A folder of its own, gone at the end.
+class Probenordner {
+public:
+    Probenordner() {
+        std::string muster = (std::filesystem::temp_directory_path() / "quittika-XXXXXX").string();
+        ordner_ = mkdtemp(muster.data());
+    }
+    Probenordner(const Probenordner&) = delete;
+    Probenordner& operator=(const Probenordner&) = delete;
+    ~Probenordner() {
+        std::error_code egal;
+        std::filesystem::remove_all(ordner_, egal);
+    }
+    std::string pfad(const std::string& name) const { return (std::filesystem::path(ordner_) / name).string(); }
+    const std::string& ordner() const { return ordner_; }
+    std::string schreiben(const std::string& name, const std::string& bytes) const {
+        std::ofstream(pfad(name), std::ios::binary) << bytes;
+        return pfad(name);
+    }
+    std::string lesen(const std::string& name) const {
+        std::ifstream datei(pfad(name), std::ios::binary);
+        return {std::istreambuf_iterator<char>(datei), {}};
+    }
+
+private:
+    std::string ordner_;
+};
+
+/// The invoice with all its modules, without a window.
+struct Pruefstand {
+    FalscheDialoge dialoge;
+    StehendeUhr uhr;
+    Probenordner ordner;
+    Programmverzeichnis verzeichnis{ordner.ordner()};
+    PROGRAMMEINSTELLUNG werte;
+    Rechnungszustand zustand;
+    Form1 form1;
+    frm_einstellungen einstellungen;
+    Rechnung rechnung{form1, zustand, uhr};
+    Summen summen{form1, einstellungen, zustand, dialoge, uhr, [] { return 1; }};
+    Positionen positionen{form1, zustand, rechnung, summen, dialoge};
+    Rechnungsnummern nummern{form1, einstellungen, zustand, verzeichnis, dialoge};
+    ZuletztGeoeffnet zuletzt{form1, werte};
+    Rechnungsschreiber schreiber{form1, werte, zustand, dialoge, uhr};
+    Rechnungsleser leser{form1, werte, zustand, rechnung, dialoge};
+    Dateibefehle befehle{form1, zustand, rechnung, summen, dialoge, schreiber, leser, nummern, zuletzt};
+
+    Pruefstand() {
+        rechnung.RechnungLeeren();
+        summen.jetztberechnen_List();
+    }
+
+    void zeile(const std::string& menge, const std::string& leistung, const std::string& preis) {
+        form1.Text_Menge.Text = menge;
+        form1.Text_leistung.Text = leistung;
+        form1.Text_preis.Text = preis;
+        positionen.Cmd_Add_To_list_Click();
+    }
+    bool speichern(const std::string& name) {
+        dialoge.dateien.push_back(ordner.pfad(name));
+        return befehle.m_speichern_Click();
+    }
+    bool oeffnen(const std::string& name) {
+        const bool gelesen = befehle.oeffneRN(ordner.pfad(name));
+        summen.jetztberechnen_List();
+        return gelesen;
+    }
+};
+
+} // namespace quittika
