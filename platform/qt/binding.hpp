@@ -1,0 +1,23 @@
+#pragma once
+
+#include "platform/forms/form.hpp"
+
+#include <string>
+#include <vector>
+
+class QWidget;
+
+namespace quittika {
+
+/// Ties every control of the form to the widget or action of the same object name in `window`. A control
+/// without one stays data, see `check_binding`. The window must outlive the form's controls or be unbound.
+void bind(Form& form, QWidget& window);
+
+/// Takes the views of all controls away.
+void unbind(Form& form);
+
+/// What is wrong between a form and its window: a control without a widget of its kind, or a named widget
+/// without a control. Empty when all is right. Names that begin with "ui_", "qt_" or "_q_" are helpers.
+std::vector<std::string> check_binding(Form& form, QWidget& window);
+
+} // namespace quittika

@@ -1,0 +1,98 @@
+#include "platform/qt/colors.hpp"
+
+#include "platform/qt/widgets/card.hpp"
+#include "platform/qt/widgets/theme.hpp"
+
+#include <QAbstractScrollArea>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QToolButton>
+#include <QWidget>
+
+#include <vector>
+
+namespace quittika {
+
+namespace {
+
+constexpr double kDisabledShare = 0.55; ///< how much of the text's colour is left on a disabled control
+
+struct Roles {
+    std::vector<QPalette::ColorRole> back;
+    std::vector<QPalette::ColorRole> fore;
+    bool fill; ///< the widget has no ground of its own that it paints
+};
+
+Roles roles_of(const QWidget& widget) {
+    if (qobject_cast<const QLineEdit*>(&widget) != nullptr ||
+        qobject_cast<const QAbstractScrollArea*>(&widget) != nullptr) {
+        return {{QPalette::Base}, {QPalette::Text}, false};
+    }
+    if (qobject_cast<const QComboBox*>(&widget) != nullptr) {
+        return {{QPalette::Base, QPalette::Button}, {QPalette::Text, QPalette::ButtonText}, false};
+    }
+    if (qobject_cast<const QPushButton*>(&widget) != nullptr ||
+        qobject_cast<const QToolButton*>(&widget) != nullptr) {
+        return {{QPalette::Button}, {QPalette::ButtonText}, false};
+    }
+    const bool paints_itself = qobject_cast<const Card*>(&widget) != nullptr;
+    return {{QPalette::Window}, {QPalette::WindowText}, !paints_itself};
+}
+
+QColor readable_on(const QColor& ground) {
+    constexpr int kMiddle = 128;
+    return qGray(ground.rgb()) < kMiddle ? QColor(Qt::white) : QColor(Qt::black);
+}
+
+} // namespace
+
+QColor to_qt(Color color) {
+    return QColor(color & 0xFF, (color >> 8) & 0xFF, (color >> 16) & 0xFF);
+}
+
+Color from_qt(const QColor& color) {
+    return color::rgb(color.red(), color.green(), color.blue());
+}
+
+void WidgetColors::remember(const QWidget& widget) {
+    if (!given_) {
+        given_ = true;
+        had_palette_ = widget.testAttribute(Qt::WA_SetPalette);
+        before_ = had_palette_ ? widget.palette() : QPalette();
+        had_fill_ = widget.autoFillBackground();
+    }
+}
+
+void WidgetColors::restore(QWidget& widget) const {
+    widget.setPalette(before_);
+    widget.setAutoFillBackground(had_fill_);
+}
+
+void WidgetColors::apply(QWidget& widget, Color back, Color fore) {
+    const bool own_fore = fore < 0 || (fore == color::kBlack && back < 0);
+    if (back < 0 && own_fore) {
+        if (given_) {
+            restore(widget);
+        }
+        return;
+    }
+    remember(widget);
+    const Roles roles = roles_of(widget);
+    QPalette palette = before_;
+    const QColor ground = back < 0 ? widget.palette().color(roles.back.front()) : to_qt(back);
+    if (back >= 0) {
+        for (const QPalette::ColorRole role : roles.back) {
+            palette.setColor(role, ground);
+        }
+    }
+    const QColor text = own_fore ? readable_on(ground) : to_qt(fore);
+    for (const QPalette::ColorRole role : roles.fore) {
+        palette.setColor(role, text);
+        palette.setColor(QPalette::Disabled, role, theme::mix(text, ground, kDisabledShare));
+    }
+    widget.setPalette(palette);
+    widget.setAutoFillBackground(had_fill_ || (roles.fill && back >= 0));
+}
+
+} // namespace quittika

@@ -1,0 +1,293 @@
+#include "platform/qt/form_window.hpp"
+
+#include "platform/forms/controls.hpp"
+#include "platform/qt/binding.hpp"
+#include "platform/qt/colors.hpp"
+#include "platform/qt/guard.hpp"
+#include "platform/qt/qt_desktop.hpp"
+#include "platform/qt/qt_text.hpp"
+#include "platform/qt/timer_view.hpp"
+#include "platform/qt/twips.hpp"
+#include "platform/qt/widget_view.hpp"
+#include "platform/qt/window_table.hpp"
+
+#include <QCloseEvent>
+#include <QDialog>
+#include <QEventLoop>
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QMainWindow>
+#include <QScreen>
+
+namespace quittika {
+
+namespace {
+
+enum WindowState { kNormal = 0, kMinimised = 1, kMaximised = 2 };
+
+/// A window that is neither main window nor dialog greets the user and has no frame.
+bool is_splash(const QWidget& window) {
+    return qobject_cast<const QMainWindow*>(&window) == nullptr &&
+           qobject_cast<const QDialog*>(&window) == nullptr;
+}
+
+/// Moves a place so that a good part of the title bar can be reached on some screen.
+QPoint reachable(const QPoint& place, const QSize& size) {
+    constexpr int kTitle = 40;
+    const QRect title(place, QSize(size.width(), kTitle));
+    for (const QScreen* screen : QGuiApplication::screens()) {
+        const QRect common = screen->availableGeometry().intersected(title);
+        if (common.width() >= kTitle && common.height() >= kTitle / 2) {
+            return place;
+        }
+    }
+    const QRect room = QGuiApplication::primaryScreen()->availableGeometry();
+    QRect moved(place, size);
+    moved.moveLeft(std::clamp(place.x(), room.left(), std::max(room.left(), room.right() - size.width())));
+    moved.moveTop(std::clamp(place.y(), room.top(), std::max(room.top(), room.bottom() - size.height())));
+    return moved.topLeft();
+}
+
+} // namespace
+
+FormWindow::FormWindow(Form& form, QtDesktop& desktop) : form_(form), desktop_(desktop) {
+    for (Control* control : form.controls()) {
+        if (auto* timer = dynamic_cast<Timer*>(control)) {
+            auto view = std::make_unique<TimerView>(*timer);
+            timers_.push_back(view.get());
+            timer->attach(std::move(view));
+        }
+    }
+}
+
+FormWindow::~FormWindow() {
+    if (waiting_ != nullptr) {
+        waiting_->quit();
+    }
+    desktop_.let_go(window_);
+    delete window_.data();
+}
+
+QWidget* FormWindow::window() {
+    if (!built_) {
+        built_ = true;
+        window_ = build_window(form_.name()).release();
+        if (window_ != nullptr) {
+            start();
+        }
+    }
+    return window_;
+}
+
+void FormWindow::start() {
+    QWidget& window = *window_;
+    window.setAttribute(Qt::WA_QuitOnClose, false);
+    if (is_splash(window)) {
+        window.setWindowFlags(Qt::SplashScreen | Qt::FramelessWindowHint);
+    }
+    desktop_.built(window);
+    bind(form_, window);
+    for (const PropertyId id : {PropertyId::Caption, PropertyId::Enabled, PropertyId::BackColor}) {
+        property_changed(id);
+    }
+    const QSize own = window.size();
+    window.resize(form_.Width() > 0 ? pixels(form_.Width()) : own.width(),
+                  form_.Height() > 0 ? pixels(form_.Height()) : own.height());
+    placed_ = form_.Left() != 0 || form_.Top() != 0;
+    if (placed_) {
+        push_place();
+    }
+    take_place();
+    push_state();
+    window.installEventFilter(this);
+    if (first_focus_ != nullptr) {
+        focus(*first_focus_);
+    }
+}
+
+void FormWindow::property_changed(PropertyId id) {
+    if (window_ == nullptr) {
+        return;
+    }
+    switch (id) {
+    case PropertyId::Caption:
+        return window_->setWindowTitle(to_qt(form_.Caption()));
+    case PropertyId::Enabled:
+        return window_->setEnabled(form_.Enabled());
+    case PropertyId::BackColor:
+    case PropertyId::ForeColor:
+        return colors_.apply(*window_, form_.BackColor(), form_.ForeColor());
+    case PropertyId::WindowState:
+        return push_state();
+    case PropertyId::Left:
+    case PropertyId::Top:
+        return push_place();
+    case PropertyId::Width:
+    case PropertyId::Height:
+        return window_->resize(pixels(form_.Width()), pixels(form_.Height()));
+    default:
+        return;
+    }
+}
+
+void FormWindow::push_place() {
+    placed_ = true;
+    window_->move(reachable(QPoint(pixels(form_.Left()), pixels(form_.Top())), window_->size()));
+}
+
+void FormWindow::push_state() {
+    const Qt::WindowStates kept = window_->windowState() & ~(Qt::WindowMinimized | Qt::WindowMaximized);
+    const Qt::WindowStates added = form_.WindowState() == kMinimised   ? Qt::WindowMinimized
+                                   : form_.WindowState() == kMaximised ? Qt::WindowMaximized
+                                                                       : Qt::WindowNoState;
+    if (window_->windowState() != (kept | added)) {
+        window_->setWindowState(kept | added);
+    }
+}
+
+void FormWindow::take_place() {
+    if (window_->windowState() & (Qt::WindowMinimized | Qt::WindowMaximized | Qt::WindowFullScreen)) {
+        return; // the normal place is the one to come back to
+    }
+    form_.Left.adopt(twips(window_->x()));
+    form_.Top.adopt(twips(window_->y()));
+    form_.Width.adopt(twips(window_->width()));
+    form_.Height.adopt(twips(window_->height()));
+}
+
+void FormWindow::take_state() {
+    const Qt::WindowStates state = window_->windowState();
+    form_.WindowState.adopt(state.testFlag(Qt::WindowMinimized)   ? kMinimised
+                            : state.testFlag(Qt::WindowMaximized) ? kMaximised
+                                                                  : kNormal);
+}
+
+void FormWindow::bring_in_front_of(QWidget* parent, bool modal) {
+    if (parent == window_ || is_splash(*window_)) {
+        parent = nullptr;
+    }
+    if (window_->parentWidget() != parent) {
+        const Qt::WindowFlags hints = window_->windowFlags() & ~Qt::WindowType_Mask;
+        const Qt::WindowFlags buttons =
+            qobject_cast<QDialog*>(window_) ? Qt::WindowFlags() : Qt::WindowMinMaxButtonsHint;
+        const QPoint place = window_->pos();
+        window_->setParent(parent, parent == nullptr ? Qt::Window | hints : Qt::Dialog | hints | buttons);
+        if (placed_) {
+            window_->move(place);
+        }
+    }
+    window_->setWindowModality(!modal              ? Qt::NonModal
+                               : parent == nullptr ? Qt::ApplicationModal
+                                                   : Qt::WindowModal);
+}
+
+void FormWindow::show(Modality modality) {
+    update_timers();
+    if (window() == nullptr) {
+        return;
+    }
+    const bool modal = modality == Modality::Modal;
+    if (!window_->isVisible()) {
+        bring_in_front_of(modal ? desktop_.active_window() : desktop_.main_window(), modal);
+        if (is_splash(*window_) && !placed_) {
+            window_->move(QGuiApplication::primaryScreen()->availableGeometry().center() -
+                          window_->rect().center());
+        }
+        window_->show();
+    }
+    raise();
+    if (modal && waiting_ == nullptr) {
+        wait();
+    }
+}
+
+void FormWindow::wait() {
+    const QPointer<FormWindow> here(this);
+    QEventLoop loop;
+    waiting_ = &loop;
+    if (window_->isVisible()) {
+        loop.exec();
+    }
+    if (here != nullptr) {
+        waiting_ = nullptr;
+    }
+}
+
+void FormWindow::hide() {
+    if (window_ != nullptr) {
+        window_->hide();
+    }
+    update_timers();
+    if (waiting_ != nullptr) {
+        waiting_->quit();
+    }
+}
+
+void FormWindow::raise() {
+    if (window_ != nullptr && window_->isVisible()) {
+        if (window_->isMinimized() && form_.WindowState() != kMinimised) {
+            window_->setWindowState(window_->windowState() & ~Qt::WindowMinimized);
+        }
+        window_->raise();
+        window_->activateWindow();
+    }
+}
+
+void FormWindow::focus(Control& control) {
+    if (window_ == nullptr) {
+        first_focus_ = &control;
+        return;
+    }
+    first_focus_ = nullptr;
+    if (auto* view = dynamic_cast<WidgetView*>(control.view())) {
+        view->focus();
+        if (window_->isVisible() && !window_->isActiveWindow()) {
+            window_->activateWindow();
+        }
+    }
+}
+
+void FormWindow::update_timers() {
+    for (TimerView* timer : timers_) {
+        timer->update();
+    }
+}
+
+bool FormWindow::asked_to_close() {
+    bool closed = false;
+    guarded([&] { closed = form_.Close(); });
+    update_timers();
+    if (closed) {
+        desktop_.window_closed();
+    }
+    return closed;
+}
+
+bool FormWindow::eventFilter(QObject* /*watched*/, QEvent* event) {
+    switch (event->type()) {
+    case QEvent::Close:
+        event->setAccepted(asked_to_close());
+        return true;
+    case QEvent::KeyPress:
+        if (static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape &&
+            qobject_cast<QDialog*>(window_) != nullptr) {
+            window_->close();
+            return true;
+        }
+        return false;
+    case QEvent::Move:
+    case QEvent::Resize:
+        take_place();
+        if (event->type() == QEvent::Resize && form_.shown() && form_.Resize) {
+            guarded(form_.Resize);
+        }
+        return false;
+    case QEvent::WindowStateChange:
+        take_state();
+        return false;
+    default:
+        return false;
+    }
+}
+
+} // namespace quittika

@@ -1,0 +1,66 @@
+#pragma once
+
+#include "platform/forms/form.hpp"
+
+#include "platform/qt/colors.hpp"
+
+#include <QObject>
+#include <QPointer>
+
+#include <vector>
+
+class QEventLoop;
+class QWidget;
+
+namespace quittika {
+
+class QtDesktop;
+class TimerView;
+
+/// A form's window. It is built when it is first needed; a form without a design has none.
+class FormWindow final : public QObject, public ControlView {
+public:
+    FormWindow(Form& form, QtDesktop& desktop);
+    ~FormWindow() override;
+
+    void property_changed(PropertyId id) override;
+
+    Form& form() const { return form_; }
+    /// The window, built if need be; null without a design.
+    QWidget* window();
+    /// The window if it is built, else null.
+    QWidget* built() const { return window_; }
+
+    void show(Modality modality);
+    /// Takes the window away and ends a modal wait for it.
+    void hide();
+    void raise();
+    void focus(Control& control);
+    /// Starts and stops the form's timers as they should run.
+    void update_timers();
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void start();
+    void push_place();
+    void push_state();
+    void bring_in_front_of(QWidget* parent, bool modal);
+    void wait();
+    bool asked_to_close();
+    void take_place();
+    void take_state();
+
+    Form& form_;
+    QtDesktop& desktop_;
+    WidgetColors colors_;
+    QPointer<QWidget> window_;       ///< a parent window may take it along
+    std::vector<TimerView*> timers_; ///< owned by their controls
+    QEventLoop* waiting_ = nullptr;
+    Control* first_focus_ = nullptr; ///< asked for before the window was there
+    bool built_ = false;
+    bool placed_ = false;
+};
+
+} // namespace quittika

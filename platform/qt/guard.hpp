@@ -1,0 +1,12 @@
+#pragma once
+
+#include <functional>
+
+namespace quittika {
+
+/// Runs what an event of the toolkit leads to. An error that nobody has caught is shown in a message box
+/// with its number and text; it never reaches the toolkit's event loop.
+/// Returns whether `work` came to its end.
+bool guarded(const std::function<void()>& work);
+
+} // namespace quittika

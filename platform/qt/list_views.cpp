@@ -1,0 +1,198 @@
+#include "platform/qt/list_views.hpp"
+
+#include "platform/qt/guard.hpp"
+#include "platform/qt/qt_text.hpp"
+
+#include <QEvent>
+#include <QItemSelectionModel>
+#include <QScrollBar>
+
+#include <memory>
+
+namespace quittika {
+
+ListBoxView::ListBoxView(ListBox& control, QListView& widget) : TypedView(control, widget), model_(control) {
+    widget.setUniformItemSizes(true);
+    widget.setSelectionMode(QAbstractItemView::SingleSelection);
+    widget.setEditTriggers(QAbstractItemView::NoEditTriggers);
+    const std::unique_ptr<QItemSelectionModel> former(widget.selectionModel());
+    widget.setModel(&model_);
+    connect(widget.selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
+        const int row = selected_row();
+        if (!pushing_ && !mouse_down_ && row >= 0) {
+            take(row);
+        }
+    });
+    connect(&widget, &QListView::clicked, this, [this](const QModelIndex& index) { take(index.row()); });
+    connect(&widget, &QListView::doubleClicked, this, [this] {
+        if (control_.DblClick) {
+            guarded(control_.DblClick);
+        }
+    });
+}
+
+int ListBoxView::selected_row() const {
+    const QModelIndexList rows = widget_.selectionModel()->selectedIndexes();
+    return rows.isEmpty() ? -1 : rows.front().row();
+}
+
+void ListBoxView::take(int row) {
+    reload();
+    if (row < control_.ListCount()) {
+        guarded([this, row] { control_.user_select(row); });
+    }
+    push_index();
+}
+
+bool ListBoxView::eventFilter(QObject* watched, QEvent* event) {
+    // While the button is down the selection follows the mouse; the row chosen is the one at its release.
+    if (event->type() == QEvent::MouseButtonPress) {
+        mouse_down_ = true;
+    } else if (event->type() == QEvent::MouseButtonRelease) {
+        mouse_down_ = false;
+        QMetaObject::invokeMethod(
+            this,
+            [this] {
+                const int row = selected_row();
+                if (row >= 0 && row != control_.ListIndex()) {
+                    take(row);
+                }
+            },
+            Qt::QueuedConnection);
+    }
+    return WidgetView::eventFilter(watched, event);
+}
+
+void ListBoxView::push_all() {
+    dirty_ = true;
+    reload();
+}
+
+void ListBoxView::items_changed() {
+    if (!dirty_) {
+        dirty_ = true;
+        QMetaObject::invokeMethod(
+            this, [this] { reload(); }, Qt::QueuedConnection);
+    }
+}
+
+void ListBoxView::reload() {
+    if (!dirty_) {
+        return;
+    }
+    dirty_ = false;
+    const Pushing here(pushing_);
+    const int first = widget_.verticalScrollBar()->value();
+    const int left = widget_.horizontalScrollBar()->value();
+    const int former = widget_.currentIndex().row();
+    model_.reload();
+    if (widget_.isVisible()) {
+        // The scroll bars learn their new range with the layout.
+        static_cast<QAbstractItemView&>(widget_).doItemsLayout();
+        widget_.verticalScrollBar()->setValue(first);
+        widget_.horizontalScrollBar()->setValue(left);
+    }
+    const bool same = former == control_.ListIndex();
+    widget_.setAutoScroll(!same);
+    push_index();
+    widget_.setAutoScroll(true);
+}
+
+void ListBoxView::push(PropertyId id) {
+    if (id == PropertyId::ListIndex) {
+        push_index();
+    }
+}
+
+void ListBoxView::push_index() {
+    if (dirty_ || selected_row() == control_.ListIndex()) {
+        return;
+    }
+    const Pushing here(pushing_);
+    if (control_.ListIndex() < 0) {
+        widget_.selectionModel()->clear();
+        return;
+    }
+    const QModelIndex index = model_.index(control_.ListIndex());
+    widget_.selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect);
+    if (widget_.hasAutoScroll()) {
+        widget_.scrollTo(index);
+    }
+}
+
+ComboBoxView::ComboBoxView(ComboBox& control, QComboBox& widget) : TypedView(control, widget) {
+    widget.setEditable(control.editable());
+    widget.setInsertPolicy(QComboBox::NoInsert);
+    connect(&widget, &QComboBox::activated, this, [this](int row) {
+        if (row < control_.ListCount()) {
+            guarded([this, row] { control_.user_select(row); });
+        }
+        push_choice();
+    });
+    connect(&widget, &QComboBox::editTextChanged, this, [this](const QString& text) {
+        if (!pushing_) {
+            guarded([&] { control_.Text = from_qt(text); });
+        }
+    });
+}
+
+bool ComboBoxView::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::Wheel && !widget_.hasFocus()) {
+        event->ignore(); // turning the page must not change what the mouse passes by
+        return true;
+    }
+    return WidgetView::eventFilter(watched, event);
+}
+
+void ComboBoxView::push_all() {
+    dirty_ = true;
+    reload();
+}
+
+void ComboBoxView::items_changed() {
+    if (!dirty_) {
+        dirty_ = true;
+        QMetaObject::invokeMethod(
+            this, [this] { reload(); }, Qt::QueuedConnection);
+    }
+}
+
+void ComboBoxView::reload() {
+    if (!dirty_) {
+        return;
+    }
+    dirty_ = false;
+    const Pushing here(pushing_);
+    widget_.clear();
+    QStringList items;
+    for (const std::string& item : control_.items()) {
+        items.append(to_qt(item));
+    }
+    widget_.addItems(items);
+    push_choice();
+}
+
+void ComboBoxView::push(PropertyId id) {
+    if (!dirty_ && (id == PropertyId::ListIndex || id == PropertyId::Text)) {
+        push_choice();
+    }
+}
+
+void ComboBoxView::push_choice() {
+    const Pushing here(pushing_);
+    const QString text = to_qt(control_.Text());
+    if (widget_.isEditable()) {
+        if (widget_.currentIndex() != control_.ListIndex()) {
+            widget_.setCurrentIndex(control_.ListIndex());
+        }
+        if (widget_.currentText() != text) {
+            widget_.setEditText(text);
+        }
+        return;
+    }
+    // A text that is none of the items shows where no item is chosen.
+    widget_.setPlaceholderText(control_.ListIndex() < 0 ? text : QString());
+    widget_.setCurrentIndex(control_.ListIndex());
+}
+
+} // namespace quittika

@@ -1,0 +1,55 @@
+#pragma once
+
+#include "platform/qt/list_model.hpp"
+#include "platform/qt/widget_view.hpp"
+
+#include <QComboBox>
+#include <QListView>
+
+namespace quittika {
+
+/// Any number of changes of the items reaches the widget at once, before it is painted again.
+class ListBoxView final : public TypedView<ListBox, QListView> {
+public:
+    ListBoxView(ListBox& control, QListView& widget);
+
+    void items_changed() override;
+
+protected:
+    void push(PropertyId id) override;
+    void push_all() override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void reload();
+    void push_index();
+    /// Makes the widget's row the control's, with a click.
+    void take(int row);
+    int selected_row() const;
+
+    ListModel model_;
+    bool dirty_ = false;
+    bool pushing_ = false;
+    bool mouse_down_ = false;
+};
+
+class ComboBoxView final : public TypedView<ComboBox, QComboBox> {
+public:
+    ComboBoxView(ComboBox& control, QComboBox& widget);
+
+    void items_changed() override;
+
+protected:
+    void push(PropertyId id) override;
+    void push_all() override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void reload();
+    void push_choice();
+
+    bool dirty_ = false;
+    bool pushing_ = false;
+};
+
+} // namespace quittika

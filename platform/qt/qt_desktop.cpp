@@ -1,0 +1,137 @@
+#include "platform/qt/qt_desktop.hpp"
+
+#include "platform/qt/binding.hpp"
+#include "platform/qt/form_window.hpp"
+#include "platform/qt/guard.hpp"
+#include "platform/qt/twips.hpp"
+
+#include <QApplication>
+#include <QMainWindow>
+#include <QScreen>
+#include <QTimer>
+
+#include <algorithm>
+#include <memory>
+#include <utility>
+
+namespace quittika {
+
+QtDesktop::~QtDesktop() {
+    while (!windows_.empty()) {
+        Form& form = windows_.back()->form();
+        windows_.pop_back();
+        unbind(form);
+        form.detach();
+    }
+}
+
+FormWindow* QtDesktop::find(const Form& form) const {
+    const auto found = std::find_if(windows_.begin(), windows_.end(),
+                                    [&](const FormWindow* window) { return &window->form() == &form; });
+    return found == windows_.end() ? nullptr : *found;
+}
+
+void QtDesktop::adopt(Form& form) {
+    if (find(form) == nullptr) {
+        auto window = std::make_unique<FormWindow>(form, *this);
+        windows_.push_back(window.get());
+        form.attach(*this, std::move(window));
+    }
+}
+
+void QtDesktop::release(Form& form) {
+    // The form's controls are gone by now; nothing of them may be touched.
+    std::erase_if(windows_, [&](const FormWindow* window) { return &window->form() == &form; });
+}
+
+void QtDesktop::show(Form& form, Modality modality) {
+    if (FormWindow* window = find(form)) {
+        window->show(modality);
+    }
+}
+
+void QtDesktop::hide(Form& form) {
+    if (FormWindow* window = find(form)) {
+        window->hide();
+    }
+}
+
+void QtDesktop::raise(Form& form) {
+    if (FormWindow* window = find(form)) {
+        window->raise();
+    }
+}
+
+void QtDesktop::set_focus(Control& control) {
+    if (FormWindow* window = find(control.form())) {
+        window->focus(control);
+    }
+}
+
+int QtDesktop::screen_width() const {
+    return twips(QApplication::primaryScreen()->availableGeometry().width());
+}
+
+int QtDesktop::screen_height() const {
+    return twips(QApplication::primaryScreen()->availableGeometry().height());
+}
+
+void QtDesktop::beep() {
+    QApplication::beep();
+}
+
+void QtDesktop::later(std::function<void()> work) {
+    QTimer::singleShot(0, &context_, [work = std::move(work)] { guarded(work); });
+}
+
+void QtDesktop::end() {
+    ended_ = true;
+    QCoreApplication::quit();
+}
+
+int QtDesktop::run(const std::function<void()>& start) {
+    QApplication::setQuitOnLastWindowClosed(false); // a box may be the only window for a while
+    guarded(start);
+    return ended_ ? 0 : QCoreApplication::exec();
+}
+
+QWidget* QtDesktop::window(Form& form) {
+    FormWindow* window = find(form);
+    return window == nullptr ? nullptr : window->window();
+}
+
+QWidget* QtDesktop::active_window() const {
+    QWidget* active = QApplication::activeModalWidget();
+    if (active == nullptr) {
+        active = QApplication::activeWindow();
+    }
+    return active != nullptr && active->isVisible() ? active : main_.data();
+}
+
+void QtDesktop::built(QWidget& window) {
+    if (main_ == nullptr && qobject_cast<QMainWindow*>(&window) != nullptr) {
+        main_ = &window;
+    }
+}
+
+void QtDesktop::let_go(QWidget* window) {
+    for (const FormWindow* other : windows_) {
+        QWidget* child = other->built();
+        if (window != nullptr && child != nullptr && child->parentWidget() == window) {
+            child->setParent(nullptr, child->windowFlags());
+        }
+    }
+}
+
+void QtDesktop::window_closed() {
+    const auto is_open = [](const FormWindow* window) {
+        return window->built() != nullptr && window->form().shown();
+    };
+    later([this, is_open] {
+        if (std::none_of(windows_.begin(), windows_.end(), is_open)) {
+            end();
+        }
+    });
+}
+
+} // namespace quittika

@@ -1,0 +1,60 @@
+#pragma once
+
+#include "platform/desktop.hpp"
+
+#include <QObject>
+#include <QPointer>
+#include <QWidget>
+
+#include <functional>
+#include <vector>
+
+
+
+namespace quittika {
+
+class FormWindow;
+
+/// The desktop with real windows. Needs a `QtApplication`.
+class QtDesktop final : public Desktop {
+public:
+    QtDesktop() = default;
+    ~QtDesktop() override;
+
+    void adopt(Form& form) override;
+    void release(Form& form) override;
+    void show(Form& form, Modality modality) override;
+    void hide(Form& form) override;
+    void raise(Form& form) override;
+    void set_focus(Control& control) override;
+    int screen_width() const override;
+    int screen_height() const override;
+    void beep() override;
+    void later(std::function<void()> work) override;
+    void end() override;
+
+    /// Runs `start` and then the event loop until `end`, or until the user has closed the last window.
+    int run(const std::function<void()>& start);
+
+    /// Window of an adopted form, built if need be, but not shown; null without a design.
+    QWidget* window(Form& form);
+
+    // For the windows themselves.
+    QWidget* main_window() const { return main_; }
+    /// The window in use, in front of which a modal one comes.
+    QWidget* active_window() const;
+    void built(QWidget& window);
+    /// Before `window` goes: what belongs to it stays.
+    void let_go(QWidget* window);
+    void window_closed();
+
+private:
+    FormWindow* find(const Form& form) const;
+
+    std::vector<FormWindow*> windows_; ///< owned by their forms
+    QPointer<QWidget> main_;           ///< the first main window that was built
+    QObject context_;                  ///< work that is still to be done goes with it
+    bool ended_ = false;
+};
+
+} // namespace quittika

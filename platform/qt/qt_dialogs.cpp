@@ -1,0 +1,138 @@
+#include "platform/qt/qt_dialogs.hpp"
+
+#include "platform/laufzeitfehler.hpp"
+#include "platform/qt/colors.hpp"
+#include "platform/qt/message_box.hpp"
+#include "platform/qt/qt_text.hpp"
+
+#include <QColorDialog>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QFontDialog>
+#include <QPrintDialog>
+#include <QRegularExpression>
+
+#include <algorithm>
+
+namespace quittika {
+
+namespace {
+
+constexpr int kAllCopies = 999;
+
+QString one_filter(QString text, const QString& pattern) {
+    // The patterns stand in the text, too; the toolkit adds its own.
+    static const QRegularExpression in_parentheses(QStringLiteral(R"(\s*\([^()]*\*[^()]*\)\s*$)"));
+    text.remove(in_parentheses);
+    QStringList patterns;
+    for (const QString& part : pattern.split(QLatin1Char(';'), Qt::SkipEmptyParts)) {
+        const QString trimmed = part.trimmed();
+        patterns.append(trimmed == QLatin1String("*.*") ? QStringLiteral("*") : trimmed);
+    }
+    if (patterns.isEmpty()) {
+        patterns.append(QStringLiteral("*"));
+    }
+    return QStringLiteral("%1 (%2)").arg(text.trimmed(), patterns.join(QLatin1Char(' ')));
+}
+
+} // namespace
+
+QStringList name_filters(const std::string& filter) {
+    const QStringList fields = to_qt(filter).split(QLatin1Char('|'));
+    QStringList filters;
+    for (qsizetype i = 0; i < fields.size(); i += 2) {
+        const QString pattern = fields.value(i + 1).trimmed();
+        if (!fields[i].trimmed().isEmpty() || !pattern.isEmpty()) {
+            filters.append(one_filter(fields[i], pattern));
+        }
+    }
+    return filters;
+}
+
+QString default_suffix(const QString& name_filter) {
+    static const QRegularExpression first(QStringLiteral(R"(\(\S*\*\.([A-Za-z0-9]+)(?:\s[^()]*)?\)$)"));
+    return first.match(name_filter).captured(1);
+}
+
+Answer QtDialogs::message(const MessageBox& box) {
+    return show_message(box);
+}
+
+void QtDialogs::prepare(QFileDialog& window, const FileDialog& dialog) const {
+    if (!dialog.title.empty()) {
+        window.setWindowTitle(to_qt(dialog.title));
+    }
+    window.setDirectory(folder_.isEmpty() ? QDir::homePath() : folder_);
+    const QStringList filters = name_filters(dialog.filter);
+    if (!filters.isEmpty()) {
+        window.setNameFilters(filters);
+    }
+    if (!dialog.proposed_name.empty()) {
+        const QFileInfo proposed(path_to_qt(dialog.proposed_name));
+        if (proposed.isAbsolute() && proposed.dir().exists()) {
+            window.setDirectory(proposed.dir());
+        }
+        window.selectFile(proposed.fileName());
+    }
+}
+
+std::string QtDialogs::run(QFileDialog& window) {
+    if (window.exec() != QDialog::Accepted || window.selectedFiles().isEmpty()) {
+        throw Laufzeitfehler(fehler::kDialogAbgebrochen);
+    }
+    const QString chosen = window.selectedFiles().front();
+    folder_ = QFileInfo(chosen).absolutePath();
+    return path_from_qt(QDir::toNativeSeparators(chosen));
+}
+
+std::string QtDialogs::open_file(const FileDialog& dialog) {
+    QFileDialog window(dialog_parent());
+    window.setFileMode(QFileDialog::ExistingFile);
+    prepare(window, dialog);
+    return run(window);
+}
+
+std::string QtDialogs::save_file(const FileDialog& dialog) {
+    QFileDialog window(dialog_parent());
+    window.setAcceptMode(QFileDialog::AcceptSave);
+    window.setFileMode(QFileDialog::AnyFile);
+    prepare(window, dialog);
+    window.setDefaultSuffix(default_suffix(window.selectedNameFilter()));
+    QObject::connect(&window, &QFileDialog::filterSelected, &window,
+                     [&window](const QString& filter) { window.setDefaultSuffix(default_suffix(filter)); });
+    return run(window);
+}
+
+Color QtDialogs::choose_color(Color start) {
+    const QColor chosen =
+        QColorDialog::getColor(start < 0 ? QColor(Qt::white) : to_qt(start), dialog_parent());
+    if (!chosen.isValid()) {
+        throw Laufzeitfehler(fehler::kDialogAbgebrochen);
+    }
+    return from_qt(chosen);
+}
+
+std::string QtDialogs::choose_font(const std::string& start) {
+    bool chosen = false;
+    const QFont font = QFontDialog::getFont(&chosen, QFont(to_qt(start)), dialog_parent());
+    if (!chosen) {
+        throw Laufzeitfehler(fehler::kDialogAbgebrochen);
+    }
+    return from_qt(font.family());
+}
+
+int QtDialogs::choose_printer(int copies) {
+    QPrinter& printer = printer_.printer();
+    printer.setCopyCount(std::clamp(copies, 1, kAllCopies));
+    QPrintDialog window(&printer, dialog_parent());
+    window.setOption(QAbstractPrintDialog::PrintPageRange, false);
+    window.setOption(QAbstractPrintDialog::PrintSelection, false);
+    if (window.exec() != QDialog::Accepted) {
+        throw Laufzeitfehler(fehler::kDialogAbgebrochen);
+    }
+    const int chosen = printer.copyCount();
+    printer.setCopyCount(1); // the program prints each copy as a job of its own
+    return chosen;
+}
+
+} // namespace quittika

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "platform/dialogs.hpp"
+#include "platform/qt/printer_choice.hpp"
+
+#include <QString>
+#include <QStringList>
+
+class QFileDialog;
+
+namespace quittika {
+
+/// "text|pattern|text|pattern|" as the toolkit's filters; a text without a pattern shows all files.
+QStringList name_filters(const std::string& filter);
+
+/// "rn" for a filter that ends with "(*.rn)" or "(*.rn *.txt)", empty where the pattern names none.
+QString default_suffix(const QString& name_filter);
+
+/// The desktop's common dialogs. The folder used last is where the next file dialog begins.
+class QtDialogs final : public Dialogs {
+public:
+    explicit QtDialogs(PrinterChoice& printer) : printer_(printer) {}
+
+    Answer message(const MessageBox& box) override;
+    std::string open_file(const FileDialog& dialog) override;
+    std::string save_file(const FileDialog& dialog) override;
+    Color choose_color(Color start) override;
+    std::string choose_font(const std::string& start) override;
+    int choose_printer(int copies) override;
+
+private:
+    void prepare(QFileDialog& window, const FileDialog& dialog) const;
+    std::string run(QFileDialog& window);
+
+    PrinterChoice& printer_;
+    QString folder_;
+};
+
+} // namespace quittika

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "platform/shell.hpp"
+
+namespace quittika {
+
+class QtShell final : public Shell {
+public:
+    void open(const std::string& document) override;
+};
+
+class QtClock final : public Clock {
+public:
+    Zeitpunkt now() const override;
+};
+
+} // namespace quittika

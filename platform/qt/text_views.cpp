@@ -1,0 +1,183 @@
+#include "platform/qt/text_views.hpp"
+
+#include "platform/qt/guard.hpp"
+#include "platform/qt/qt_text.hpp"
+
+#include <QTextBlock>
+#include <QTextCursor>
+#include <QTextDocument>
+
+#include <algorithm>
+
+namespace quittika {
+
+namespace {
+
+// What follows gives both widgets the same face.
+
+constexpr int kLongestLine = 32767;     ///< characters that a field of one line holds
+constexpr int kLongestText = 1'000'000; ///< the same for a field of many lines
+constexpr int kLongestPart = 4000;      ///< shown of a longer text
+
+QString text_of(const QLineEdit& line) {
+    return line.text();
+}
+
+QString text_of(const QPlainTextEdit& area) {
+    // Unlike the plain text, the raw one keeps blanks that do not break.
+    QString text = area.document()->toRawText();
+    text.replace(QChar::ParagraphSeparator, QLatin1Char('\n'));
+    text.replace(QChar::LineSeparator, QLatin1Char('\n'));
+    return text;
+}
+
+void set_text(QLineEdit& line, const QString& text) {
+    const int cursor = line.hasFocus() ? line.cursorPosition() : 0;
+    line.setMaxLength(std::max(line.maxLength(), static_cast<int>(text.size())));
+    line.setText(text);
+    line.setCursorPosition(cursor);
+}
+
+void set_text(QPlainTextEdit& area, const QString& text) {
+    area.setPlainText(text);
+}
+
+bool fits(const QLineEdit& /*line*/, const QString& text) {
+    return text.size() <= kLongestLine;
+}
+
+bool fits(const QPlainTextEdit& /*area*/, const QString& text) {
+    // A single endless line costs the most.
+    if (text.size() <= kLongestLine) {
+        return true;
+    }
+    if (text.size() > kLongestText) {
+        return false;
+    }
+    qsizetype start = 0;
+    for (qsizetype end = 0; end >= 0; start = end + 1) {
+        end = text.indexOf(QLatin1Char('\n'), start);
+        if ((end < 0 ? text.size() : end) - start > kLongestLine) {
+            return false;
+        }
+    }
+    return true;
+}
+
+struct Selection {
+    int start;
+    int length;
+};
+
+Selection selection_of(const QLineEdit& line) {
+    return line.hasSelectedText() ? Selection{line.selectionStart(), line.selectionLength()}
+                                  : Selection{line.cursorPosition(), 0};
+}
+
+Selection selection_of(const QPlainTextEdit& area) {
+    const QTextCursor cursor = area.textCursor();
+    return {cursor.selectionStart(), cursor.selectionEnd() - cursor.selectionStart()};
+}
+
+void select(QLineEdit& line, const Selection& part) {
+    line.setCursorPosition(part.start);
+    if (part.length > 0) {
+        line.setSelection(part.start, part.length);
+    }
+}
+
+void select(QPlainTextEdit& area, const Selection& part) {
+    QTextCursor cursor = area.textCursor();
+    cursor.setPosition(part.start);
+    cursor.setPosition(part.start + part.length, QTextCursor::KeepAnchor);
+    area.setTextCursor(cursor);
+}
+
+} // namespace
+
+template <class W> void TextView<W>::push_all() {
+    push_text();
+    push_read_only();
+    if (this->control_.SelLength() > 0) {
+        push_selection();
+    }
+}
+
+template <class W> void TextView<W>::push(PropertyId id) {
+    switch (id) {
+    case PropertyId::Text:
+        return push_text();
+    case PropertyId::Locked:
+        return push_read_only();
+    case PropertyId::SelStart:
+        this->control_.SelLength.adopt(0);
+        return push_selection();
+    case PropertyId::SelLength:
+        return push_selection();
+    default:
+        return;
+    }
+}
+
+template <class W> void TextView<W>::push_text() {
+    const QString text = lines_to_qt(this->control_.Text());
+    const bool fitted = std::exchange(holds_all_, fits(this->widget_, text));
+    const QString shown = holds_all_ ? text : text.left(kLongestPart);
+    if (shown != text_of(this->widget_)) {
+        const Pushing here(pushing_);
+        set_text(this->widget_, shown);
+    }
+    if (fitted != holds_all_) {
+        push_read_only();
+    }
+}
+
+template <class W> void TextView<W>::push_read_only() {
+    const bool read_only = this->control_.Locked() || !holds_all_;
+    if (this->widget_.isReadOnly() != read_only) {
+        this->widget_.setReadOnly(read_only);
+    }
+}
+
+template <class W> void TextView<W>::push_selection() {
+    const QString text = text_of(this->widget_);
+    const int start = std::max(0, this->control_.SelStart());
+    const int length = std::max(0, this->control_.SelLength());
+    const int from = widget_position(text, start);
+    const Pushing here(pushing_);
+    select(this->widget_, {from, widget_position(text, start + length) - from});
+}
+
+template <class W> void TextView<W>::take_text() {
+    if (!pushing_ && holds_all_) {
+        guarded([this] { this->control_.Text = lines_from_qt(text_of(this->widget_)); });
+    }
+}
+
+template <class W> void TextView<W>::take_selection() {
+    if (pushing_) {
+        return;
+    }
+    const QString text = text_of(this->widget_);
+    const Selection part = selection_of(this->widget_);
+    const int start = control_position(text, part.start);
+    this->control_.SelStart.adopt(start);
+    this->control_.SelLength.adopt(control_position(text, part.start + part.length) - start);
+}
+
+template class TextView<QLineEdit>;
+template class TextView<QPlainTextEdit>;
+
+TextLineView::TextLineView(TextBox& control, QLineEdit& widget) : TextView(control, widget) {
+    connect(&widget, &QLineEdit::textChanged, this, [this] { take_text(); });
+    connect(&widget, &QLineEdit::cursorPositionChanged, this, [this] { take_selection(); });
+    connect(&widget, &QLineEdit::selectionChanged, this, [this] { take_selection(); });
+}
+
+TextAreaView::TextAreaView(TextBox& control, QPlainTextEdit& widget) : TextView(control, widget) {
+    connect(&widget, &QPlainTextEdit::textChanged, this, [this] { take_text(); });
+    connect(&widget, &QPlainTextEdit::cursorPositionChanged, this, [this] { take_selection(); });
+    connect(&widget, &QPlainTextEdit::selectionChanged, this, [this] { take_selection(); });
+}
+
+} // namespace quittika

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "platform/qt/widget_view.hpp"
+
+#include <QLineEdit>
+#include <QPlainTextEdit>
+
+namespace quittika {
+
+/// What text fields of one and of many lines share. A text that the widget cannot hold is shown in part and
+/// cannot be edited there; the control keeps it whole.
+template <class W> class TextView : public TypedView<TextBox, W> {
+public:
+    using TypedView<TextBox, W>::TypedView;
+
+protected:
+    void push(PropertyId id) override;
+    void push_all() override;
+    Clicks clicks() const override { return Clicks::Shared; }
+
+    /// The widget's text has changed under the user's hands.
+    void take_text();
+    /// The widget's cursor or selection has moved.
+    void take_selection();
+
+private:
+    void push_text();
+    void push_read_only();
+    void push_selection();
+
+    bool pushing_ = false;
+    bool holds_all_ = true;
+};
+
+class TextLineView final : public TextView<QLineEdit> {
+public:
+    TextLineView(TextBox& control, QLineEdit& widget);
+};
+
+class TextAreaView final : public TextView<QPlainTextEdit> {
+public:
+    TextAreaView(TextBox& control, QPlainTextEdit& widget);
+};
+
+} // namespace quittika

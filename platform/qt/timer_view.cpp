@@ -1,0 +1,38 @@
+#include "platform/qt/timer_view.hpp"
+
+#include "platform/qt/guard.hpp"
+
+namespace quittika {
+
+TimerView::TimerView(Timer& control) : control_(control) {
+    QObject::connect(&timer_, &QTimer::timeout, &timer_, [this] { tick(); });
+}
+
+void TimerView::property_changed(PropertyId id) {
+    if (id == PropertyId::Interval) {
+        timer_.stop(); // the new interval counts from now on
+    }
+    if (id == PropertyId::Interval || id == PropertyId::Enabled) {
+        update();
+    }
+}
+
+void TimerView::update() {
+    if (!control_.running()) {
+        timer_.stop();
+    } else if (!timer_.isActive()) {
+        timer_.start(control_.Interval());
+    }
+}
+
+void TimerView::tick() {
+    update();
+    if (ticking_ || !control_.running() || !control_.Tick) {
+        return;
+    }
+    ticking_ = true;
+    guarded(control_.Tick);
+    ticking_ = false;
+}
+
+} // namespace quittika

@@ -1,0 +1,299 @@
+#include "platform/qt/widget_view.hpp"
+
+#include "platform/qt/guard.hpp"
+#include "platform/qt/qt_text.hpp"
+#include "platform/qt/twips.hpp"
+
+#include <QAbstractScrollArea>
+#include <QDropEvent>
+#include <QFocusEvent>
+#include <QLayout>
+#include <QMimeData>
+#include <QMouseEvent>
+#include <QStackedWidget>
+#include <QWidget>
+
+#include <utility>
+
+namespace quittika {
+
+namespace {
+
+constexpr std::pair<int, int> kKeyCodes[] = {
+    {Qt::Key_Backspace, 8}, {Qt::Key_Tab, 9},     {Qt::Key_Backtab, 9},  {Qt::Key_Return, 13},
+    {Qt::Key_Enter, 13},    {Qt::Key_Shift, 16},  {Qt::Key_Control, 17}, {Qt::Key_Alt, 18},
+    {Qt::Key_CapsLock, 20}, {Qt::Key_Escape, 27}, {Qt::Key_PageUp, 33},  {Qt::Key_PageDown, 34},
+    {Qt::Key_End, 35},      {Qt::Key_Home, 36},   {Qt::Key_Left, 37},    {Qt::Key_Up, 38},
+    {Qt::Key_Right, 39},    {Qt::Key_Down, 40},   {Qt::Key_Insert, 45},  {Qt::Key_Delete, 46},
+    {Qt::Key_Plus, 187},    {Qt::Key_Comma, 188}, {Qt::Key_Minus, 189},  {Qt::Key_Period, 190},
+};
+
+MouseButton button_of(Qt::MouseButton button) {
+    switch (button) {
+    case Qt::LeftButton:
+        return MouseButton::Left;
+    case Qt::RightButton:
+        return MouseButton::Right;
+    default:
+        return MouseButton::None;
+    }
+}
+
+MouseEvent to_desktop(const QMouseEvent& event) {
+    Qt::MouseButton button = event.button();
+    if (event.type() == QEvent::MouseMove) {
+        button = event.buttons().testFlag(Qt::LeftButton)    ? Qt::LeftButton
+                 : event.buttons().testFlag(Qt::RightButton) ? Qt::RightButton
+                                                             : Qt::NoButton;
+    }
+    const QPoint place = event.position().toPoint();
+    return {button_of(button), twips(place.x()), twips(place.y())};
+}
+
+bool within(const QLayout& layout, const QWidget& widget) {
+    for (int i = 0; i < layout.count(); ++i) {
+        QLayoutItem* item = layout.itemAt(i);
+        if (item->widget() == &widget || (item->layout() != nullptr && within(*item->layout(), widget))) {
+            return true;
+        }
+    }
+    return false;
+}
+
+bool in_layout(const QWidget& widget) {
+    const QWidget* parent = widget.parentWidget();
+    return parent != nullptr && parent->layout() != nullptr && within(*parent->layout(), widget);
+}
+
+bool explicitly_hidden(const QWidget& widget) {
+    return widget.testAttribute(Qt::WA_WState_ExplicitShowHide) && widget.testAttribute(Qt::WA_WState_Hidden);
+}
+
+/// A change of the focus inside a window; what leaves or comes back with the whole window is none.
+bool moves_in_window(const QFocusEvent& event) {
+    return event.reason() != Qt::ActiveWindowFocusReason && event.reason() != Qt::PopupFocusReason &&
+           event.reason() != Qt::MenuBarFocusReason;
+}
+
+} // namespace
+
+int desktop_key_code(int qt_key) {
+    const bool letter_or_digit =
+        (qt_key >= Qt::Key_0 && qt_key <= Qt::Key_9) || (qt_key >= Qt::Key_A && qt_key <= Qt::Key_Z);
+    if (letter_or_digit || qt_key == Qt::Key_Space) {
+        return qt_key;
+    }
+    if (qt_key >= Qt::Key_F1 && qt_key <= Qt::Key_F12) {
+        constexpr int kF1 = 112;
+        return kF1 + qt_key - Qt::Key_F1;
+    }
+    for (const auto& [key, code] : kKeyCodes) {
+        if (key == qt_key) {
+            return code;
+        }
+    }
+    return 0;
+}
+
+WidgetView::WidgetView(Control& control, QWidget& widget) : control_(control), widget_(widget) {}
+
+WidgetView::~WidgetView() = default;
+
+QWidget& WidgetView::surface() const {
+    auto* area = qobject_cast<QAbstractScrollArea*>(&widget_);
+    return area == nullptr ? widget_ : *area->viewport();
+}
+
+void WidgetView::start() {
+    push_common_start();
+    push_all();
+    QWidget& mouse_widget = surface();
+    widget_.installEventFilter(this);
+    if (&mouse_widget != &widget_) {
+        mouse_widget.installEventFilter(this);
+    }
+    if (control_.OLEDragDrop) {
+        mouse_widget.setAcceptDrops(true);
+    }
+    if (control_.MouseMove) {
+        mouse_widget.setMouseTracking(true);
+    }
+}
+
+void WidgetView::push_common_start() {
+    push_enabled();
+    push_visible();
+    push_colors();
+    if (control_.FontBold()) {
+        push_bold();
+    }
+    if (!control_.ToolTipText().empty()) {
+        push_tool_tip();
+    }
+    for (const Property<int>* place : {&control_.Left, &control_.Top, &control_.Width, &control_.Height}) {
+        if ((*place)() != 0) {
+            push_geometry(place->id());
+        }
+    }
+}
+
+void WidgetView::property_changed(PropertyId id) {
+    switch (id) {
+    case PropertyId::Enabled:
+        return push_enabled();
+    case PropertyId::Visible:
+        return push_visible();
+    case PropertyId::BackColor:
+    case PropertyId::ForeColor:
+        return push_colors();
+    case PropertyId::FontBold:
+        return push_bold();
+    case PropertyId::ToolTipText:
+        return push_tool_tip();
+    case PropertyId::Left:
+    case PropertyId::Top:
+    case PropertyId::Width:
+    case PropertyId::Height:
+        return push_geometry(id);
+    default:
+        return push(id);
+    }
+}
+
+void WidgetView::focus() {
+    widget_.setFocus(Qt::OtherFocusReason);
+}
+
+void WidgetView::push_enabled() {
+    if (control_.Enabled() == widget_.testAttribute(Qt::WA_ForceDisabled)) {
+        widget_.setEnabled(control_.Enabled());
+    }
+}
+
+void WidgetView::push_visible() {
+    // A page behind a tab is hidden and shown by the tabs.
+    if (control_.Visible() == explicitly_hidden(widget_) &&
+        qobject_cast<QStackedWidget*>(widget_.parentWidget()) == nullptr) {
+        widget_.setVisible(control_.Visible());
+    }
+}
+
+void WidgetView::push_colors() {
+    colors_.apply(widget_, control_.BackColor(), control_.ForeColor());
+}
+
+void WidgetView::push_bold() {
+    QFont font = widget_.font();
+    font.setBold(control_.FontBold());
+    widget_.setFont(font);
+}
+
+void WidgetView::push_tool_tip() {
+    widget_.setToolTip(tool_tip(control_.ToolTipText()));
+}
+
+void WidgetView::push_geometry(PropertyId id) {
+    if (in_layout(widget_)) {
+        return; // the layout knows the place
+    }
+    switch (id) {
+    case PropertyId::Left:
+        return widget_.move(pixels(control_.Left()), widget_.y());
+    case PropertyId::Top:
+        return widget_.move(widget_.x(), pixels(control_.Top()));
+    case PropertyId::Width:
+        return widget_.resize(pixels(control_.Width()), widget_.height());
+    default:
+        return widget_.resize(widget_.width(), pixels(control_.Height()));
+    }
+}
+
+bool WidgetView::eventFilter(QObject* /*watched*/, QEvent* event) {
+    switch (event->type()) {
+    case QEvent::FocusIn:
+        if (control_.GotFocus && moves_in_window(static_cast<QFocusEvent&>(*event))) {
+            guarded(control_.GotFocus);
+        }
+        return false;
+    case QEvent::FocusOut:
+        if (control_.LostFocus && moves_in_window(static_cast<QFocusEvent&>(*event))) {
+            guarded(control_.LostFocus);
+        }
+        return false;
+    case QEvent::KeyPress: {
+        const auto& key = static_cast<const QKeyEvent&>(*event);
+        const int code = control_.KeyDown ? desktop_key_code(key.key()) : 0;
+        if (code != 0) {
+            guarded([&] { control_.KeyDown(code); });
+        }
+        return key_pressed(key);
+    }
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseMove:
+    case QEvent::MouseButtonRelease:
+    case QEvent::MouseButtonDblClick:
+        return widget_.isEnabled() && mouse(*event);
+    case QEvent::DragEnter:
+    case QEvent::DragMove:
+    case QEvent::Drop:
+        return control_.OLEDragDrop && widget_.isEnabled() && drop(*event);
+    default:
+        return false;
+    }
+}
+
+bool WidgetView::hears_mouse() const {
+    return control_.MouseDown || control_.MouseMove || control_.MouseUp || control_.Click ||
+           control_.DblClick;
+}
+
+bool WidgetView::mouse(const QEvent& event) {
+    const MouseEvent at = to_desktop(static_cast<const QMouseEvent&>(event));
+    const auto fire = [&](const Control::Mouse& handler) {
+        if (handler) {
+            guarded([&] { handler(at); });
+        }
+    };
+    // What is not taken here goes on to the widget, and from labels and frames to what lies beneath.
+    const bool taken = clicks() == Clicks::Taken && hears_mouse();
+    switch (event.type()) {
+    case QEvent::MouseButtonPress:
+        fire(control_.MouseDown);
+        return taken;
+    case QEvent::MouseMove:
+        fire(control_.MouseMove);
+        return taken;
+    case QEvent::MouseButtonDblClick:
+        fire(control_.MouseDown);
+        if (control_.DblClick && clicks() != Clicks::Own && at.button == MouseButton::Left) {
+            guarded(control_.DblClick);
+        }
+        return taken;
+    default:
+        fire(control_.MouseUp);
+        release(at);
+        return taken;
+    }
+}
+
+void WidgetView::release(const MouseEvent& event) {
+    const QPoint place(pixels(event.x), pixels(event.y));
+    if (event.button == MouseButton::Left && clicks() != Clicks::Own && surface().rect().contains(place)) {
+        guarded([this] { control_.user_click(); });
+    }
+}
+
+bool WidgetView::drop(QEvent& event) {
+    auto& given = static_cast<QDropEvent&>(event);
+    if (!given.mimeData()->hasText()) {
+        return false;
+    }
+    given.acceptProposedAction();
+    if (event.type() == QEvent::Drop) {
+        const std::string text = from_qt(given.mimeData()->text());
+        guarded([&] { control_.OLEDragDrop(text); });
+    }
+    return true;
+}
+
+} // namespace quittika

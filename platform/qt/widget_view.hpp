@@ -1,0 +1,95 @@
+#pragma once
+
+#include "platform/forms/controls.hpp"
+#include "platform/qt/colors.hpp"
+
+#include <QObject>
+
+#include <memory>
+
+class QDropEvent;
+class QKeyEvent;
+class QMouseEvent;
+class QWidget;
+
+namespace quittika {
+
+/// The desktop's key code of a key, 0 for a key that it has none for.
+int desktop_key_code(int qt_key);
+
+/// How a control comes by its clicks.
+enum class Clicks {
+    Own,    ///< the widget reports them
+    Shared, ///< from the mouse, and the widget gets the mouse as well
+    Taken,  ///< from the mouse, which the widget does not get where somebody listens
+};
+
+/// Ties a control to its widget, both ways: what all kinds share. The window owns the widget and outlives
+/// the view; taking the view away ends every connection.
+class WidgetView : public QObject, public ControlView {
+public:
+    WidgetView(Control& control, QWidget& widget);
+    ~WidgetView() override;
+
+    void property_changed(PropertyId id) override;
+
+    /// Brings the widget to what the control holds; called once, when both are tied together.
+    void start();
+    QWidget& widget() const { return widget_; }
+    virtual void focus();
+
+protected:
+    /// Properties of the kind itself; those that all controls have are done here.
+    virtual void push(PropertyId /*id*/) {}
+    /// The kind's own properties that are pushed at the start.
+    virtual void push_all() { push(PropertyId::Caption); }
+    /// The widget in which the mouse is pressed.
+    virtual QWidget& surface() const;
+    virtual Clicks clicks() const { return Clicks::Own; }
+    /// A key press, before the widget gets it. Returns whether the widget shall not get it.
+    virtual bool key_pressed(const QKeyEvent& /*event*/) { return false; }
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void push_enabled();
+    void push_visible();
+    void push_colors();
+    void push_bold();
+    void push_tool_tip();
+    void push_geometry(PropertyId id);
+    void push_common_start();
+    bool mouse(const QEvent& event);
+    void release(const MouseEvent& event);
+    bool drop(QEvent& event);
+    bool hears_mouse() const;
+
+    Control& control_;
+    QWidget& widget_;
+    WidgetColors colors_;
+};
+
+/// A view that knows the exact types of its two sides.
+template <class C, class W> class TypedView : public WidgetView {
+public:
+    TypedView(C& control, W& widget) : WidgetView(control, widget), control_(control), widget_(widget) {}
+
+protected:
+    C& control_;
+    W& widget_;
+};
+
+/// Marks a stretch in which the widget is changed on behalf of the control.
+class Pushing {
+public:
+    explicit Pushing(bool& flag) : flag_(flag), before_(flag) { flag = true; }
+    Pushing(const Pushing&) = delete;
+    Pushing& operator=(const Pushing&) = delete;
+    ~Pushing() { flag_ = before_; }
+
+private:
+    bool& flag_;
+    bool before_;
+};
+
+} // namespace quittika

@@ -1,0 +1,347 @@
+#include "tests/qt/test_form.hpp"
+
+#include <gtest/gtest.h>
+
+#include <QAction>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QImage>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QRadioButton>
+#include <QScrollBar>
+#include <QTabWidget>
+#include <QTemporaryDir>
+#include <QTest>
+
+namespace quittika::test {
+
+namespace {
+
+struct Pushed {
+    const char* what;
+    void (*set)(AllKinds&);
+    const char* widget;
+    const char* property; ///< of the widget
+    const char* value;
+};
+
+const Pushed kPushed[] = {
+    {"text", [](AllKinds& f) { f.Field.Text = "Müller & Söhne"; }, "Field", "text", "Müller & Söhne"},
+    {"lines", [](AllKinds& f) { f.Note.Text = "a\r\nb"; }, "Note", "plainText", "a\nb"},
+    {"locked text", [](AllKinds& f) { f.Field.Locked = true; }, "Field", "readOnly", "true"},
+    {"tick", [](AllKinds& f) { f.Tick.Value = 1; }, "Tick", "checked", "true"},
+    {"grey tick", [](AllKinds& f) { f.Tick.Value = 2; }, "Tick", "tristate", "true"},
+    {"option", [](AllKinds& f) { f.Second.Value = true; }, "Second", "checked", "true"},
+    {"sibling of an option", [](AllKinds& f) { f.Second.Value = true; }, "First", "checked", "false"},
+    {"caption of a button", [](AllKinds& f) { f.Button.Caption = "&Los"; }, "Button", "text", "&Los"},
+    {"caption of a label", [](AllKinds& f) { f.Caption_.Caption = "A & <b>"; }, "Caption_", "text",
+     "A & <b>"},
+    {"caption of a frame", [](AllKinds& f) { f.Choice.Caption = "Wahl"; }, "Choice", "title", "Wahl"},
+    {"caption of a menu", [](AllKinds& f) { f.Entry.Caption = "&Neu"; }, "Entry", "text", "&Neu"},
+    {"hidden menu", [](AllKinds& f) { f.Entry.Visible = false; }, "Entry", "visible", "false"},
+    {"panel", [](AllKinds& f) { f.Panel.Caption = "Fertig"; }, "Panel", "text", "Fertig"},
+    {"disabled", [](AllKinds& f) { f.Button.Enabled = false; }, "Button", "enabled", "false"},
+    {"disabled frame", [](AllKinds& f) { f.Choice.Enabled = false; }, "Second", "enabled", "false"},
+    {"tool tip", [](AllKinds& f) { f.Button.ToolTipText = "Hilfe"; }, "Button", "toolTip", "Hilfe"},
+    {"tool tip like markup", [](AllKinds& f) { f.Button.ToolTipText = "<b>x</b>"; }, "Button", "toolTip",
+     "&lt;b&gt;x&lt;/b&gt;"},
+    {"choice in a box", [](AllKinds& f) { f.Fixed.ListIndex = 2; }, "Fixed", "currentText", "three"},
+    {"no choice in a box", [](AllKinds& f) { f.Fixed.Text = "other"; }, "Fixed", "placeholderText", "other"},
+    {"text in an editable box", [](AllKinds& f) { f.Typed.Text = "other"; }, "Typed", "currentText", "other"},
+    {"scroll bar", [](AllKinds& f) { f.Bar.Value = 7; }, "Bar", "value", "7"},
+    {"bound of a scroll bar", [](AllKinds& f) { f.Bar.Max = 20; }, "Bar", "maximum", "20"},
+    {"slider", [](AllKinds& f) { f.Knob.Value = 9; }, "Knob", "value", "9"},
+    {"progress", [](AllKinds& f) { f.Progress.Value = 40; }, "Progress", "value", "40"},
+    {"tab", [](AllKinds& f) { f.Tabs.Tab = 1; }, "Tabs", "currentIndex", "1"},
+    {"element of an array", [](AllKinds& f) { f.Line[1].Text = "eins"; }, "Line(1)", "text", "eins"},
+};
+
+class PushedTest : public ::testing::TestWithParam<Pushed> {};
+
+TEST_P(PushedTest, BeforeAndAfterBinding) {
+    const Pushed& c = GetParam();
+    const auto shown = [&](Bound& bound) {
+        return bound.window->findChild<QObject*>(QString::fromUtf8(c.widget))
+            ->property(c.property)
+            .toString();
+    };
+    Bound late;
+    EXPECT_NE(shown(late), QString::fromUtf8(c.value)) << "the case shows nothing";
+    c.set(late.form);
+    EXPECT_EQ(shown(late), QString::fromUtf8(c.value));
+
+    Bound early;
+    unbind(early.form);
+    early.window = window_for_all_kinds();
+    c.set(early.form);
+    bind(early.form, *early.window);
+    EXPECT_EQ(shown(early), QString::fromUtf8(c.value));
+}
+
+INSTANTIATE_TEST_SUITE_P(Properties, PushedTest, ::testing::ValuesIn(kPushed),
+                         [](const auto& row) { return case_name(row.param.what); });
+
+struct Used {
+    const char* what;
+    void (*act)(Bound&);
+    const char* control;
+    const char* value; ///< main value of the control
+    const char* events;
+};
+
+void click(Bound& b, const char* name) {
+    QTest::mouseClick(&b.widget(name), Qt::LeftButton);
+}
+
+void press(Bound& b, const char* name, Qt::Key key) {
+    b.widget(name).setFocus();
+    b.form.take_log();
+    QTest::keyClick(&b.widget(name), key);
+}
+
+const Used kUsed[] = {
+    {"typing", [](Bound& b) { QTest::keyClicks(&b.widget("Field"), "ab"); }, "Field", "ab",
+     "Field.Change Field.Change "},
+    {"typing lines", [](Bound& b) { QTest::keyClicks(&b.widget("Note"), "a\rb"); }, "Note", "a\r\nb",
+     "Note.Change Note.Change Note.Change "},
+    {"ticking", [](Bound& b) { press(b, "Tick", Qt::Key_Space); }, "Tick", "1", "Tick.Click "},
+    {"unticking a grey one",
+     [](Bound& b) {
+         b.form.Tick.Value = 2;
+         press(b, "Tick", Qt::Key_Space);
+     },
+     "Tick", "1", "Tick.Click "},
+    {"choosing", [](Bound& b) { press(b, "Second", Qt::Key_Space); }, "Second", "-1", "Second.Click "},
+    {"choosing what is chosen", [](Bound& b) { press(b, "First", Qt::Key_Space); }, "First", "-1", ""},
+    {"arrow to the next option", [](Bound& b) { press(b, "First", Qt::Key_Down); }, "Second", "-1",
+     "First.LostFocus Second.GotFocus Second.Click "},
+    {"arrow around", [](Bound& b) { press(b, "First", Qt::Key_Left); }, "Third", "-1",
+     "First.LostFocus Third.GotFocus Third.Click "},
+    {"arrow alone in its container", [](Bound& b) { press(b, "Stranger", Qt::Key_Down); }, "Stranger", "0",
+     ""},
+    {"pressing with the mouse", [](Bound& b) { click(b, "Button"); }, "Button", "Button",
+     "Button.GotFocus Button.Click "},
+    {"pressing with Return", [](Bound& b) { press(b, "Button", Qt::Key_Return); }, "Button", "Button",
+     "Button.Click "},
+    {"a tool button ends the entry in a field",
+     [](Bound& b) {
+         b.widget("Field").setFocus();
+         b.form.take_log();
+         click(b, "Tool");
+     },
+     "Tool", "Tool", "Field.LostFocus Tool.GotFocus Tool.Click "},
+    {"clicking on a label", [](Bound& b) { click(b, "Caption_"); }, "Caption_", "Caption", "Caption_.Click "},
+    {"clicking on what is disabled",
+     [](Bound& b) {
+         b.form.Caption_.Enabled = false;
+         click(b, "Caption_");
+     },
+     "Caption_", "Caption", ""},
+    {"menu", [](Bound& b) { b.window->findChild<QAction*>("Entry")->trigger(); }, "Entry", "&Entry",
+     "Entry.Click "},
+    {"box", [](Bound& b) { press(b, "Fixed", Qt::Key_Down); }, "Fixed", "one", "Fixed.Click "},
+    {"text in an editable box", [](Bound& b) { b.widget<QComboBox>("Typed").setEditText("x"); }, "Typed", "x",
+     "Typed.Change "},
+    {"scroll bar",
+     [](Bound& b) { b.widget<QScrollBar>("Bar").triggerAction(QAbstractSlider::SliderSingleStepAdd); }, "Bar",
+     "4", "Bar.Change "},
+    {"slider", [](Bound& b) { press(b, "Knob", Qt::Key_Right); }, "Knob", "4", "Knob.Change Knob.Click "},
+    {"tab", [](Bound& b) { b.widget<QTabWidget>("Tabs").setCurrentIndex(1); }, "Tabs", "", "Tabs.Click "},
+};
+
+class UsedTest : public ::testing::TestWithParam<Used> {};
+
+TEST_P(UsedTest, ReachesTheControl) {
+    const Used& c = GetParam();
+    Bound bound;
+    bound.window->show();
+    QApplication::setActiveWindow(bound.window.get());
+    bound.widget("Line(0)").setFocus();
+    bound.form.take_log();
+    c.act(bound);
+    const std::string log = bound.form.take_log();
+    const auto from = log.find("Line(0)") == 0 ? log.find(' ') + 1 : 0; // the field left first
+    EXPECT_EQ(log.substr(from), c.events) << c.what;
+    EXPECT_EQ(bound.form.find(c.control)->main_value(), c.value) << c.what;
+}
+
+INSTANTIATE_TEST_SUITE_P(Actions, UsedTest, ::testing::ValuesIn(kUsed),
+                         [](const auto& row) { return case_name(row.param.what); });
+
+TEST(TextBinding, HandlerThatCorrectsTheTextIsObeyed) {
+    Bound bound;
+    bound.form.Field.Change = [&] { bound.form.Field.Text = "fest"; };
+    QTest::keyClicks(&bound.widget("Field"), "x");
+    EXPECT_EQ(bound.widget<QLineEdit>("Field").text(), "fest");
+}
+
+TEST(TextBinding, LineBreaksSurviveInAFieldOfOneLine) {
+    Bound bound;
+    bound.form.Field.Text = "a\r\nb";
+    QTest::keyClick(&bound.widget("Field"), Qt::Key_End);
+    QTest::keyClicks(&bound.widget("Field"), "c");
+    EXPECT_EQ(bound.form.Field.Text(), "a\r\nbc");
+}
+
+TEST(TextBinding, UnbreakableBlankSurvivesEditing) {
+    Bound bound;
+    bound.form.Note.Text = "5\u00A0EUR";
+    QTest::keyClicks(&bound.widget("Note"), "x");
+    EXPECT_EQ(bound.form.Note.Text(), "x5\u00A0EUR");
+}
+
+TEST(TextBinding, WhatIsTooLongIsKeptWholeAndNotEdited) {
+    for (const char* name : {"Field", "Note"}) {
+        Bound bound;
+        auto& box = static_cast<TextBox&>(*bound.form.find(name));
+        const std::string text(3'000'000, 'x');
+        box.Text = text;
+        QTest::keyClicks(&bound.widget(name), "y");
+        EXPECT_EQ(box.Text(), text) << name;
+        EXPECT_TRUE(bound.widget(name).property("readOnly").toBool()) << name;
+        box.Text = "kurz";
+        EXPECT_FALSE(bound.widget(name).property("readOnly").toBool()) << name;
+    }
+}
+
+TEST(TextBinding, LengthLimitOfTheDesignCutsNothing) {
+    Bound bound;
+    bound.widget<QLineEdit>("Field").setMaxLength(3);
+    bound.form.Field.Text = "lang genug";
+    EXPECT_EQ(bound.widget<QLineEdit>("Field").text(), "lang genug");
+}
+
+TEST(TextBinding, SelectionCountsCharactersAndLineEnds) {
+    Bound bound;
+    bound.form.Note.Text = "ä€😀\r\nxyz";
+    bound.form.Note.SelStart = 5;
+    bound.form.Note.SelLength = 2;
+    QTextCursor cursor = bound.widget<QPlainTextEdit>("Note").textCursor();
+    EXPECT_EQ(cursor.selectedText(), "xy");
+    cursor.setPosition(2);
+    cursor.setPosition(4, QTextCursor::KeepAnchor);
+    bound.widget<QPlainTextEdit>("Note").setTextCursor(cursor);
+    EXPECT_EQ(bound.form.Note.SelStart(), 2);
+    EXPECT_EQ(bound.form.Note.SelLength(), 1);
+    bound.form.Field.Text = "Menge";
+    bound.form.Field.select_all();
+    EXPECT_EQ(bound.widget<QLineEdit>("Field").selectedText(), "Menge");
+}
+
+struct Coloured {
+    const char* widget;
+    QPalette::ColorRole back;
+    QPalette::ColorRole text;
+};
+
+class ColourTest : public ::testing::TestWithParam<Coloured> {};
+
+TEST_P(ColourTest, GroundTextAndBackAgain) {
+    const Coloured& c = GetParam();
+    Bound bound;
+    Control& control = *bound.form.find(c.widget);
+    QWidget& widget = bound.widget(c.widget);
+    const QPalette before = widget.palette();
+    control.BackColor = color::rgb(0, 0, 139);
+    EXPECT_EQ(widget.palette().color(c.back), QColor(0, 0, 139));
+    EXPECT_EQ(widget.palette().color(c.text), QColor(Qt::white));
+    control.BackColor = color::kYellow;
+    EXPECT_EQ(widget.palette().color(c.text), QColor(Qt::black));
+    control.ForeColor = color::rgb(200, 0, 0);
+    EXPECT_EQ(widget.palette().color(c.text), QColor(200, 0, 0));
+    control.BackColor = color::kWindow;
+    control.ForeColor = color::kWindowText;
+    EXPECT_EQ(widget.palette(), before);
+    EXPECT_FALSE(widget.autoFillBackground());
+}
+
+INSTANTIATE_TEST_SUITE_P(Kinds, ColourTest,
+                         ::testing::Values(Coloured{"Field", QPalette::Base, QPalette::Text},
+                                           Coloured{"Button", QPalette::Button, QPalette::ButtonText},
+                                           Coloured{"Tick", QPalette::Window, QPalette::WindowText},
+                                           Coloured{"Choice", QPalette::Window, QPalette::WindowText},
+                                           Coloured{"Fixed", QPalette::Base, QPalette::Text},
+                                           Coloured{"Rows", QPalette::Base, QPalette::Text}),
+                         [](const auto& row) { return case_name(row.param.widget); });
+
+TEST(Colours, FrameLeavesTheFieldsInsideTheirGround) {
+    Bound bound;
+    const QColor before = bound.widget("First").palette().color(QPalette::Base);
+    bound.form.Choice.BackColor = color::rgb(10, 20, 30);
+    EXPECT_EQ(bound.widget("First").palette().color(QPalette::Base), before);
+    EXPECT_EQ(bound.widget("First").palette().color(QPalette::WindowText), QColor(Qt::white));
+}
+
+TEST(Events, KeyCodesOfTheDesktop) {
+    Bound bound;
+    std::string codes;
+    bound.form.Field.KeyDown = [&](int code) { codes += std::to_string(code) + " "; };
+    for (const Qt::Key key :
+         {Qt::Key_A, Qt::Key_7, Qt::Key_Space, Qt::Key_Return, Qt::Key_Delete, Qt::Key_Up, Qt::Key_F5,
+          Qt::Key_CapsLock, Qt::Key_Escape, Qt::Key_Backspace, Qt::Key_Percent}) {
+        QTest::keyClick(&bound.widget("Field"), key);
+    }
+    EXPECT_EQ(codes, "65 55 32 13 46 38 116 20 27 8 ");
+}
+
+TEST(Events, MouseInTwips) {
+    Bound bound;
+    std::string seen;
+    const auto note = [&](const char* what) {
+        return [&seen, what](const MouseEvent& e) {
+            seen += std::string(what) + std::to_string(static_cast<int>(e.button)) + "," +
+                    std::to_string(e.x) + "," + std::to_string(e.y) + " ";
+        };
+    };
+    bound.form.Picture.MouseDown = note("down");
+    bound.form.Picture.MouseUp = note("up");
+    QTest::mousePress(&bound.widget("Picture"), Qt::RightButton, {}, QPoint(2, 1));
+    QTest::mouseRelease(&bound.widget("Picture"), Qt::RightButton, {}, QPoint(3, 1));
+    EXPECT_EQ(seen, "down2,30,15 up2,45,15 ");
+    EXPECT_EQ(bound.form.take_log(), "") << "the right button clicks nothing";
+}
+
+TEST(Pictures, KeepTheirProportionsAndMissingOnesAreEmpty) {
+    QTemporaryDir folder;
+    const QString path = folder.filePath("Löwe #1 %20.bmp");
+    QImage red(40, 20, QImage::Format_RGB32);
+    red.fill(Qt::red);
+    ASSERT_TRUE(red.save(path));
+    Bound bound;
+    auto& label = bound.widget<QLabel>("Picture");
+    label.setAlignment(Qt::AlignCenter);
+    label.setFixedSize(80, 80);
+    const auto at = [&](int x, int y) { return QColor(label.grab().toImage().pixel(x, y)); };
+    const QColor ground = at(40, 40);
+    bound.form.Picture.Picture = path.toStdString();
+    EXPECT_EQ(at(40, 40), QColor(Qt::red));
+    EXPECT_EQ(at(1, 25), QColor(Qt::red)) << "80 by 40 in the middle";
+    EXPECT_EQ(at(40, 15), ground);
+    bound.form.Picture.Picture = folder.filePath("fehlt.bmp").toStdString();
+    EXPECT_EQ(at(40, 40), ground);
+}
+
+TEST(CheckBinding, TellsWhatIsWrong) {
+    Bound bound;
+    EXPECT_EQ(check_binding(bound.form, *bound.window), std::vector<std::string>{});
+    bound.widget("Field").setObjectName("Feld");
+    bound.widget("Line(0)").setObjectName("Tick");
+    bound.widget("Panel").setObjectName("Knob");
+    std::string all;
+    for (const std::string& finding : check_binding(bound.form, *bound.window)) {
+        all += finding + "\n";
+    }
+    for (const char* part :
+         {"AllKinds.Field: no widget; a TextBox needs a QLineEdit or QPlainTextEdit",
+          "AllKinds.Feld: no control", "AllKinds.Tick: 2 widgets", "AllKinds.Line(0): no widget",
+          "AllKinds.Panel: no widget", "AllKinds.Knob: 2 widgets"}) {
+        EXPECT_NE(all.find(part), std::string::npos) << part << "\n" << all;
+    }
+    EXPECT_EQ(all.find("ui_Heading"), std::string::npos);
+}
+
+} // namespace
+
+} // namespace quittika::test

@@ -1,0 +1,174 @@
+#include "app/form_ueber_quittika.hpp"
+#include "invoice/form1.hpp"
+#include "platform/laufzeitfehler.hpp"
+#include "platform/qt/qt_desktop.hpp"
+#include "print/form_lieferschein_opt.hpp"
+
+#include <gtest/gtest.h>
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QTest>
+#include <QTimer>
+
+namespace quittika::test {
+
+namespace {
+
+class DesktopTest : public ::testing::Test {
+protected:
+    DesktopTest() {
+        desktop.adopt(form1);
+        desktop.adopt(options);
+    }
+    QWidget& options_window() { return *desktop.window(options); }
+    /// Runs `work` as soon as the next window is modal.
+    void when_modal(std::function<void()> work) {
+        QTimer::singleShot(0, &context, [this, work] {
+            QApplication::activeModalWidget() != nullptr ? work() : when_modal(work);
+        });
+    }
+
+    QtDesktop desktop;
+    Form1 form1;
+    Form_Lieferschein_opt options;
+    QObject context;
+};
+
+TEST_F(DesktopTest, BuildsAWindowAtItsFirstShow) {
+    form1.Text_Kunde_1.Text = "Frau Berg";
+    const int before = static_cast<int>(QApplication::topLevelWidgets().size());
+    EXPECT_EQ(form1.Text_Kunde_1.view(), nullptr);
+    form1.Show();
+    EXPECT_GT(QApplication::topLevelWidgets().size(), before);
+    auto* field = desktop.window(form1)->findChild<QLineEdit*>("Text_Kunde_1");
+    EXPECT_EQ(field->text(), "Frau Berg");
+    EXPECT_TRUE(desktop.window(form1)->isVisible());
+    EXPECT_EQ(desktop.window(form1)->parentWidget(), nullptr);
+}
+
+TEST_F(DesktopTest, ModalWindowKeepsTheCallerUntilItIsHidden) {
+    form1.Show();
+    std::string order;
+    options.CMD_weiter.Click = [&] { options.Hide(); };
+    when_modal([&] {
+        order += "open ";
+        EXPECT_EQ(QApplication::activeModalWidget(), &options_window());
+        EXPECT_EQ(options_window().parentWidget(), desktop.window(form1));
+        QTest::mouseClick(options_window().findChild<QWidget*>("CMD_weiter"), Qt::LeftButton);
+    });
+    options.Show(Modality::Modal);
+    order += "back";
+    EXPECT_EQ(order, "open back");
+    EXPECT_FALSE(options_window().isVisible());
+}
+
+TEST_F(DesktopTest, FrameAndEscapeAskTheForm) {
+    int asked = 0;
+    options.QueryUnload = [&](bool& cancel) { cancel = ++asked == 1; };
+    when_modal([&] {
+        options_window().close();
+        EXPECT_TRUE(options_window().isVisible()) << "the form did not want to";
+        QTest::keyClick(&options_window(), Qt::Key_Escape);
+    });
+    options.Show(Modality::Modal);
+    EXPECT_EQ(asked, 2);
+    EXPECT_FALSE(options.loaded());
+}
+
+TEST_F(DesktopTest, FormThatLivesOnlyWhileItIsShown) {
+    form1.Show();
+    when_modal([] { QApplication::activeModalWidget()->close(); });
+    {
+        Form_ueber_QUITTIKA about;
+        desktop.adopt(about);
+        about.Show(Modality::Modal);
+    }
+    QCoreApplication::sendPostedEvents();
+    EXPECT_TRUE(desktop.window(form1)->isVisible());
+}
+
+TEST_F(DesktopTest, FormGoesAndItsChildWindowsStay) {
+    auto owner = std::make_unique<Form1>();
+    QtDesktop other;
+    Form_Lieferschein_opt child;
+    other.adopt(*owner);
+    other.adopt(child);
+    owner->Show();
+    child.Show();
+    owner.reset();
+    child.CMD_weiter.Caption = "noch da";
+    EXPECT_EQ(other.window(child)->findChild<QAbstractButton*>("CMD_weiter")->text(), "noch da");
+}
+
+TEST_F(DesktopTest, PlaceFlowsBothWays) {
+    form1.Left = 1500;
+    form1.Top = 750;
+    form1.Show();
+    EXPECT_EQ(desktop.window(form1)->pos(), QPoint(100, 50));
+    desktop.window(form1)->resize(1300, 840);
+    EXPECT_EQ(form1.Width(), 19500);
+    EXPECT_EQ(form1.Height(), 12600);
+    form1.Left = -900000;
+    EXPECT_GE(desktop.window(form1)->x(), 0) << "where nobody could reach it";
+}
+
+TEST_F(DesktopTest, FocusAskedForBeforeTheWindowIsThere) {
+    form1.Text_Kunde_3.SetFocus();
+    form1.Show();
+    EXPECT_EQ(desktop.window(form1)->focusWidget()->objectName(), "Text_Kunde_3");
+}
+
+TEST_F(DesktopTest, TimersTickOnlyWhileTheirFormIsLoaded) {
+    int ticks = 0;
+    form1.Timer_blink.Tick = [&] { ++ticks; };
+    form1.Timer_blink.Interval = 5;
+    QTest::qWait(30);
+    EXPECT_EQ(ticks, 0);
+    form1.Show();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return ticks >= 2; }));
+    form1.Timer_blink.Enabled = false;
+    const int then = ticks;
+    QTest::qWait(30);
+    EXPECT_EQ(ticks, then);
+}
+
+TEST_F(DesktopTest, EscapedErrorIsShownAndTheProgramGoesOn) {
+    form1.Show();
+    form1.Cmd_Add_To_list.Click = [] { throw Laufzeitfehler(6); };
+    QString title;
+    QString text;
+    when_modal([&] {
+        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        title = box->windowTitle();
+        text = box->text();
+        box->close();
+    });
+    QTest::mouseClick(desktop.window(form1)->findChild<QWidget*>("Cmd_Add_To_list"), Qt::LeftButton);
+    EXPECT_EQ(title, "Quittika 2008");
+    EXPECT_TRUE(text.contains("6")) << text.toStdString();
+    EXPECT_TRUE(text.contains(fehlertext(6))) << text.toStdString();
+}
+
+TEST_F(DesktopTest, LoopEndsWithTheProgramOrItsLastWindow) {
+    EXPECT_EQ(desktop.run([&] { desktop.end(); }), 0) << "ended before it began";
+    QtDesktop other;
+    Form1 form;
+    other.adopt(form);
+    bool late = false;
+    EXPECT_EQ(other.run([&] {
+        form.Show();
+        other.later([&] {
+            late = true;
+            other.window(form)->close();
+        });
+    }),
+              0);
+    EXPECT_TRUE(late);
+}
+
+} // namespace
+
+} // namespace quittika::test

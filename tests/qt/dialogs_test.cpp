@@ -1,0 +1,181 @@
+#include "platform/laufzeitfehler.hpp"
+#include "platform/qt/qt_dialogs.hpp"
+#include "platform/qt/qt_shell.hpp"
+
+#include <gtest/gtest.h>
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QColorDialog>
+#include <QDesktopServices>
+#include <QDialogButtonBox>
+#include <QFileDialog>
+#include <QMessageBox>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+#include <QUrl>
+
+namespace quittika::test {
+
+namespace {
+
+/// Runs `work` on the next dialog that is open.
+template <class D> void on_dialog(std::function<void(D&)> work) {
+    QTimer::singleShot(5, qApp, [work] {
+        auto* dialog = qobject_cast<D*>(QApplication::activeModalWidget());
+        dialog != nullptr ? work(*dialog) : on_dialog<D>(work);
+    });
+}
+
+int error_of(const std::function<void()>& work) {
+    try {
+        work();
+        return 0;
+    } catch (const Laufzeitfehler& error) {
+        return error.nummer();
+    }
+}
+
+class DialogsTest : public ::testing::Test {
+protected:
+    DialogsTest() { QApplication::setAttribute(Qt::AA_DontUseNativeDialogs); }
+
+    PrinterChoice printer;
+    QtDialogs dialogs{printer};
+};
+
+struct Box {
+    const char* what;
+    Buttons buttons;
+    Answer preset;
+    Qt::Key key; ///< pressed by the user
+    const char* texts;
+    Answer answer;
+};
+
+const Box kBoxes[] = {
+    {"Return on one button", Buttons::Ok, Answer::Ok, Qt::Key_Return, "OK", Answer::Ok},
+    {"Escape on one button", Buttons::Ok, Answer::Ok, Qt::Key_Escape, "OK", Answer::Ok},
+    {"Return on a question", Buttons::YesNo, Answer::Ok, Qt::Key_Return, "Ja Nein", Answer::Yes},
+    {"preset no", Buttons::YesNo, Answer::No, Qt::Key_Return, "Ja Nein", Answer::No},
+    {"Escape on a question", Buttons::YesNo, Answer::Yes, Qt::Key_Escape, "Ja Nein", Answer::No},
+    {"preset cancel", Buttons::YesNoCancel, Answer::Cancel, Qt::Key_Return, "Ja Nein Abbrechen",
+     Answer::Cancel},
+    {"Escape with cancel", Buttons::YesNoCancel, Answer::Yes, Qt::Key_Escape, "Ja Nein Abbrechen",
+     Answer::Cancel},
+};
+
+TEST_F(DialogsTest, MessageBoxes) {
+    for (const Box& c : kBoxes) {
+        QStringList texts;
+        on_dialog<QMessageBox>([&](QMessageBox& box) {
+            EXPECT_EQ(box.windowTitle(), "Titel & <b>") << c.what;
+            EXPECT_EQ(box.text(), "<i>Zeile 1\nZeile 2") << c.what;
+            EXPECT_EQ(box.textFormat(), Qt::PlainText) << c.what;
+            EXPECT_EQ(box.icon(), QMessageBox::Question) << c.what;
+            for (const auto button :
+                 {QMessageBox::Ok, QMessageBox::Yes, QMessageBox::No, QMessageBox::Cancel}) {
+                if (box.button(button) != nullptr) {
+                    texts.append(box.button(button)->text().remove('&'));
+                }
+            }
+            QTest::keyClick(&box, c.key);
+        });
+        EXPECT_EQ(
+            dialogs.message({"<i>Zeile 1\r\nZeile 2", "Titel & <b>", c.buttons, Symbol::Question, c.preset}),
+            c.answer)
+            << c.what;
+        EXPECT_EQ(texts.join(' '), c.texts) << c.what;
+    }
+}
+
+TEST(FileFilters, BecomeTheToolkits) {
+    const struct {
+        const char* filter;
+        const char* filters; ///< joined by "|"
+        const char* suffix;  ///< of the first
+    } cases[] = {
+        {"Rechnungen (*.rn)|*.rn", "Rechnungen (*.rn)", "rn"},
+        {"Bilder (*.bmp;*.jpg)|*.bmp;*.jpg|Alle Dateien (*.*)|*.*|", "Bilder (*.bmp *.jpg)|Alle Dateien (*)",
+         "bmp"},
+        {"Bitte Zielverzeichnis angeben...  |", "Bitte Zielverzeichnis angeben... (*)", ""},
+        {"Artikelliste (Artikelliste.txt)|Artikelliste.txt",
+         "Artikelliste (Artikelliste.txt) (Artikelliste.txt)", ""},
+        {"", "", ""},
+    };
+    for (const auto& c : cases) {
+        const QStringList filters = name_filters(c.filter);
+        EXPECT_EQ(filters.join('|'), c.filters);
+        EXPECT_EQ(default_suffix(filters.value(0)), c.suffix) << c.filter;
+    }
+}
+
+TEST_F(DialogsTest, SavingProposesANameAddsTheEndingAndRemembersTheFolder) {
+    QTemporaryDir folder;
+    on_dialog<QFileDialog>([&](QFileDialog& window) {
+        EXPECT_EQ(QFileInfo(window.selectedFiles().value(0)).completeBaseName(), "Müller");
+        window.setDirectory(folder.path());
+        window.selectFile("Straße #7");
+        QMetaObject::invokeMethod(&window, "accept");
+    });
+    const std::string chosen = dialogs.save_file({"Rechnungen (*.rn)|*.rn", "Müller", ""});
+    EXPECT_EQ(QString::fromStdString(chosen), folder.filePath("Straße #7.rn"));
+    on_dialog<QFileDialog>([&](QFileDialog& window) {
+        EXPECT_EQ(window.directory(), QDir(folder.path()));
+        window.reject();
+    });
+    EXPECT_EQ(error_of([&] { dialogs.open_file({"Rechnungen (*.rn)|*.rn", "", ""}); }), 32755);
+}
+
+TEST_F(DialogsTest, CancelledColourIsAnErrorAndAChosenOneIsNot) {
+    on_dialog<QColorDialog>([](QColorDialog& window) { window.reject(); });
+    EXPECT_EQ(error_of([&] { dialogs.choose_color(color::kYellow); }), 32755);
+    on_dialog<QColorDialog>([](QColorDialog& window) {
+        EXPECT_EQ(window.currentColor(), QColor(255, 255, 0));
+        window.setCurrentColor(QColor(1, 2, 3));
+        window.accept();
+    });
+    EXPECT_EQ(dialogs.choose_color(color::kYellow), color::rgb(1, 2, 3));
+}
+
+/// Takes what the shell hands to the system.
+class Opener : public QObject {
+    Q_OBJECT
+public:
+    Opener() {
+        for (const char* scheme : {"file", "http", "https", "mailto"}) {
+            QDesktopServices::setUrlHandler(scheme, this, "open");
+        }
+    }
+    ~Opener() override {
+        for (const char* scheme : {"file", "http", "https", "mailto"}) {
+            QDesktopServices::unsetUrlHandler(scheme);
+        }
+    }
+    Q_INVOKABLE void open(const QUrl& url) { opened.append(url); }
+    QList<QUrl> opened;
+};
+
+TEST(ShellTest, TellsFilesFromAddresses) {
+    QTemporaryDir folder;
+    QFile file(folder.filePath("100% #1.txt"));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.close();
+    Opener opener;
+    QtShell shell;
+    shell.open(file.fileName().toStdString());
+    shell.open("http://www.firma.example/a?b=c");
+    shell.open("www.firma.example");
+    shell.open("mailto:info@firma.example");
+    const QList<QUrl> expected{QUrl::fromLocalFile(file.fileName()), QUrl("http://www.firma.example/a?b=c"),
+                               QUrl("http://www.firma.example"), QUrl("mailto:info@firma.example")};
+    EXPECT_EQ(opener.opened, expected);
+    EXPECT_EQ(error_of([&] { shell.open(folder.filePath("fehlt.txt").toStdString()); }), 53);
+}
+
+} // namespace
+
+} // namespace quittika::test
+
+#include "dialogs_test.moc"

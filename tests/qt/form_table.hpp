@@ -1,0 +1,29 @@
+#pragma once
+
+#include "app/form_start.hpp"
+#include "app/form_ueber_quittika.hpp"
+#include "invoice/form1.hpp"
+#include "print/form_lieferschein_opt.hpp"
+#include "settings/frm_einstellungen.hpp"
+#include "settings/frm_programm.hpp"
+
+#include <memory>
+#include <vector>
+
+namespace quittika::test {
+
+using MakeForm = std::unique_ptr<Form> (*)();
+
+template <class F> std::unique_ptr<Form> make() {
+    return std::make_unique<F>();
+}
+
+/// Every window of the program.
+inline const std::vector<MakeForm> kForms{make<Form1>,
+                                          make<Form_START>,
+                                          make<Form_ueber_QUITTIKA>,
+                                          make<Form_Lieferschein_opt>,
+                                          make<frm_einstellungen>,
+                                          make<frm_Programm>};
+
+} // namespace quittika::test

@@ -1,0 +1,10 @@
+#include "platform/qt/application.hpp"
+
+#include <gtest/gtest.h>
+
+int main(int argc, char** argv) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    ::testing::InitGoogleTest(&argc, argv);
+    const quittika::QtApplication application(argc, argv);
+    return RUN_ALL_TESTS();
+}
