@@ -6,6 +6,7 @@
 #include "tests/pruefstand.hpp"
 
 #include <QApplication>
+#include <QFile>
 #include <QPainter>
 #include <QPdfWriter>
 #include <QProcess>

@@ -13,17 +13,13 @@ constexpr std::size_t kBreiteLeistung = 76;
 constexpr std::array<std::size_t, 6> kBreite{0, 3, 9, kBreiteLeistung, 6, 10};
 
 std::string zentriert(std::string_view text) {
-    std::size_t laenge = zeichenzahl(text);
-    std::string ergebnis(text);
-    if (laenge % 2 == 1) {
-        ergebnis += ' ';
-        ++laenge;
-    }
-    if (laenge >= kBreiteLeistung) {
-        return ergebnis;
-    }
-    const std::string rand((kBreiteLeistung - laenge) / 2, ' ');
-    return rand + ergebnis + rand;
+    const std::size_t laenge = zeichenzahl(text);
+    const std::size_t gerade = laenge + laenge % 2;
+    const std::size_t rand = gerade < kBreiteLeistung ? (kBreiteLeistung - gerade) / 2 : 0;
+    std::string ergebnis;
+    ergebnis.reserve(text.size() + 1 + 2 * rand);
+    ergebnis.append(rand, ' ').append(text).append(rand + laenge % 2, ' ');
+    return ergebnis;
 }
 
 std::string rechts_in(std::string_view text, std::size_t breite) {

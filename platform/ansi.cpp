@@ -1,5 +1,7 @@
 #include "platform/text.hpp"
 
+#include "platform/utf8.hpp"
+
 #include <algorithm>
 #include <array>
 #include <cstdint>
@@ -10,62 +12,69 @@ namespace quittika {
 namespace {
 
 /// Characters of the bytes 80 to 9F; the five without one stand for themselves.
-constexpr std::array<char32_t, 32> kHoch{
-    0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160, 0x2039, 0x0152,
-    0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014, 0x02DC, 0x2122,
-    0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
+constexpr std::array<char32_t, 32> kHoch{0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,
+                                         0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0x008D, 0x017D, 0x008F,
+                                         0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
+                                         0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
 
+/// Closest letters in Windows-1252 of a run of characters, one byte each; "?" where there is none.
+struct Lauf {
+    char32_t von;
+    std::string_view durch;
+};
+
+constexpr Lauf kLaeufe[] = {
+    {0x0100, "AaAaAaCcCcCcCcDd\320dEeEeEeEeEeGgGg"
+             "GgGgHhHhIiIiIiIiIi??JjKkkLlLlLlL"
+             "lLlNnNnNn???OoOo\326\366??RrRrRrSsSsSs"
+             "SsTtTtTtUuUuUuUu\334\374UuWwYyYZzZzZzs"
+             "bBBb??OCc\320DDd?E?EFfG???IKkl?MNn\330"
+             "Oo??Pp?????tTtTUu?VYyZz?????????"
+             "|????????????AaIiOoUu\334\374\334\374\334\374\334\374e\304\344"
+             "Aa\306\346GgGgKkOoOo??j???Gg??Nn\305\345\306\346\330\370"
+             "AaAaEeEeIiIiOoOoRrRrUuUuSsTt??Hh"
+             "Nd??ZzAaEe\326\366\325\365OoOoYylntj??ACcLTs"
+             "z??BUVEeJjQqRrYy"},
+    {0x1E00, "AaBbBbBb\307\347DdDdDdDdDdEeEeEeEeEeFf"
+             "GgHhHhHhHhHhIi\317\357KkKkKkLlLlLlLlMm"
+             "MmMmNnNnNnNn\325\365\325\365OoOoPpPpRrRrRrRr"
+             "SsSsSs\212\232SsTtTtTtTtUuUuUuUuUuVvVv"
+             "WwWwWwWwWwXxXxYyZzZzZzhtwyasss??"
+             "AaAa\302\342\302\342\302\342\302\342AaAaAaAaAaAaEeEeEe\312\352"
+             "\312\352\312\352\312\352EeIiIiOoOo\324\364\324\364\324\364\324\364OoOoOoOo"
+             "OoOoUuUuUuUuUuUuUuYyYyYyYy????Yy"},
+};
+
+/// What one letter cannot stand for.
 struct Ersatz {
-    char32_t von; ///< first character of a run
-    char32_t bis; ///< last one
+    char32_t von;      ///< first character of a run
+    char32_t bis;      ///< last one
     const char* durch; ///< in Windows-1252
 };
 
-/// Closest letters, in ascending order.
 constexpr Ersatz kErsatz[] = {
-    {0x0100, 0x0100, "A"}, {0x0101, 0x0101, "a"}, {0x0102, 0x0102, "A"}, {0x0103, 0x0103, "a"},
-    {0x0104, 0x0104, "A"}, {0x0105, 0x0105, "a"}, {0x0106, 0x0106, "C"}, {0x0107, 0x0107, "c"},
-    {0x0108, 0x0108, "C"}, {0x0109, 0x0109, "c"}, {0x010A, 0x010A, "C"}, {0x010B, 0x010B, "c"},
-    {0x010C, 0x010C, "C"}, {0x010D, 0x010D, "c"}, {0x010E, 0x010E, "D"}, {0x010F, 0x010F, "d"},
-    {0x0110, 0x0110, "\xD0"}, {0x0111, 0x0111, "d"}, {0x0112, 0x0112, "E"}, {0x0113, 0x0113, "e"},
-    {0x0114, 0x0114, "E"}, {0x0115, 0x0115, "e"}, {0x0116, 0x0116, "E"}, {0x0117, 0x0117, "e"},
-    {0x0118, 0x0118, "E"}, {0x0119, 0x0119, "e"}, {0x011A, 0x011A, "E"}, {0x011B, 0x011B, "e"},
-    {0x011C, 0x011C, "G"}, {0x011D, 0x011D, "g"}, {0x011E, 0x011E, "G"}, {0x011F, 0x011F, "g"},
-    {0x0120, 0x0120, "G"}, {0x0121, 0x0121, "g"}, {0x0122, 0x0122, "G"}, {0x0123, 0x0123, "g"},
-    {0x0124, 0x0124, "H"}, {0x0125, 0x0125, "h"}, {0x0126, 0x0126, "H"}, {0x0127, 0x0127, "h"},
-    {0x0128, 0x0128, "I"}, {0x0129, 0x0129, "i"}, {0x012A, 0x012A, "I"}, {0x012B, 0x012B, "i"},
-    {0x012C, 0x012C, "I"}, {0x012D, 0x012D, "i"}, {0x012E, 0x012E, "I"}, {0x012F, 0x012F, "i"},
-    {0x0130, 0x0130, "I"}, {0x0131, 0x0131, "i"}, {0x0134, 0x0134, "J"}, {0x0135, 0x0135, "j"},
-    {0x0136, 0x0136, "K"}, {0x0137, 0x0137, "k"}, {0x0139, 0x0139, "L"}, {0x013A, 0x013A, "l"},
-    {0x013B, 0x013B, "L"}, {0x013C, 0x013C, "l"}, {0x013D, 0x013D, "L"}, {0x013E, 0x013E, "l"},
-    {0x013F, 0x013F, "L"}, {0x0140, 0x0140, "l"}, {0x0141, 0x0141, "L"}, {0x0142, 0x0142, "l"},
-    {0x0143, 0x0143, "N"}, {0x0144, 0x0144, "n"}, {0x0145, 0x0145, "N"}, {0x0146, 0x0146, "n"},
-    {0x0147, 0x0147, "N"}, {0x0148, 0x0148, "n"}, {0x014C, 0x014C, "O"}, {0x014D, 0x014D, "o"},
-    {0x014E, 0x014E, "O"}, {0x014F, 0x014F, "o"}, {0x0150, 0x0150, "\xD6"}, {0x0151, 0x0151, "\xF6"},
-    {0x0154, 0x0154, "R"}, {0x0155, 0x0155, "r"}, {0x0156, 0x0156, "R"}, {0x0157, 0x0157, "r"},
-    {0x0158, 0x0158, "R"}, {0x0159, 0x0159, "r"}, {0x015A, 0x015A, "S"}, {0x015B, 0x015B, "s"},
-    {0x015C, 0x015C, "S"}, {0x015D, 0x015D, "s"}, {0x015E, 0x015E, "S"}, {0x015F, 0x015F, "s"},
-    {0x0162, 0x0162, "T"}, {0x0163, 0x0163, "t"}, {0x0164, 0x0164, "T"}, {0x0165, 0x0165, "t"},
-    {0x0166, 0x0166, "T"}, {0x0167, 0x0167, "t"}, {0x0168, 0x0168, "U"}, {0x0169, 0x0169, "u"},
-    {0x016A, 0x016A, "U"}, {0x016B, 0x016B, "u"}, {0x016C, 0x016C, "U"}, {0x016D, 0x016D, "u"},
-    {0x016E, 0x016E, "U"}, {0x016F, 0x016F, "u"}, {0x0170, 0x0170, "\xDC"}, {0x0171, 0x0171, "\xFC"},
-    {0x0172, 0x0172, "U"}, {0x0173, 0x0173, "u"}, {0x0174, 0x0174, "W"}, {0x0175, 0x0175, "w"},
-    {0x0176, 0x0176, "Y"}, {0x0177, 0x0177, "y"}, {0x0179, 0x0179, "Z"}, {0x017A, 0x017A, "z"},
-    {0x017B, 0x017B, "Z"}, {0x017C, 0x017C, "z"}, {0x0218, 0x0218, "S"}, {0x0219, 0x0219, "s"},
-    {0x021A, 0x021A, "T"}, {0x021B, 0x021B, "t"}, {0x02BC, 0x02BC, "'"}, {0x1E9E, 0x1E9E, "SS"},
-    {0x2000, 0x200A, " "}, {0x200B, 0x200D, ""}, {0x2010, 0x2012, "-"}, {0x2015, 0x2015, "\x97"},
-    {0x201B, 0x201B, "'"}, {0x201F, 0x201F, "\""}, {0x202F, 0x202F, " "}, {0x2032, 0x2032, "'"},
-    {0x2033, 0x2033, "\""}, {0x2044, 0x2044, "/"}, {0x205F, 0x205F, " "}, {0x2060, 0x2060, ""},
-    {0x20BD, 0x20BD, "RUB"}, {0x2116, 0x2116, "Nr."}, {0x2190, 0x2190, "<-"}, {0x2192, 0x2192, "->"},
-    {0x2212, 0x2212, "-"}, {0x2215, 0x2215, "/"}, {0x2217, 0x2217, "*"}, {0x2219, 0x2219, "\xB7"},
-    {0x2260, 0x2260, "<>"}, {0x2264, 0x2264, "<="}, {0x2265, 0x2265, ">="}, {0x3000, 0x3000, " "},
-    {0xFB00, 0xFB00, "ff"}, {0xFB01, 0xFB01, "fi"}, {0xFB02, 0xFB02, "fl"}, {0xFB03, 0xFB03, "ffi"},
-    {0xFB04, 0xFB04, "ffl"}, {0xFEFF, 0xFEFF, ""},
+    {0x0132, 0x0132, "IJ"},    {0x0133, 0x0133, "ij"},  {0x0149, 0x0149, "'n"},    {0x014A, 0x014A, "Ng"},
+    {0x014B, 0x014B, "ng"},    {0x0195, 0x0195, "hv"},  {0x01C4, 0x01C4, "D\216"}, {0x01C5, 0x01C5, "D\236"},
+    {0x01C6, 0x01C6, "d\236"}, {0x01C7, 0x01C7, "LJ"},  {0x01C8, 0x01C8, "Lj"},    {0x01C9, 0x01C9, "lj"},
+    {0x01CA, 0x01CA, "NJ"},    {0x01CB, 0x01CB, "Nj"},  {0x01CC, 0x01CC, "nj"},    {0x01F1, 0x01F1, "DZ"},
+    {0x01F2, 0x01F2, "Dz"},    {0x01F3, 0x01F3, "dz"},  {0x01F6, 0x01F6, "Hv"},    {0x02B9, 0x02B9, "'"},
+    {0x02BA, 0x02BA, "\""},    {0x02BB, 0x02BD, "'"},   {0x1E9E, 0x1E9E, "SS"},    {0x2000, 0x200A, " "},
+    {0x200B, 0x200F, ""},      {0x2010, 0x2012, "-"},   {0x2015, 0x2015, "\x97"},  {0x201B, 0x201B, "'"},
+    {0x201F, 0x201F, "\""},    {0x2024, 0x2024, "."},   {0x2025, 0x2025, ".."},    {0x2027, 0x2027, "\xB7"},
+    {0x2028, 0x2029, " "},     {0x202A, 0x202E, ""},    {0x202F, 0x202F, " "},     {0x2032, 0x2032, "'"},
+    {0x2033, 0x2033, "\""},    {0x2034, 0x2034, "'''"}, {0x2035, 0x2035, "'"},     {0x2036, 0x2036, "\""},
+    {0x2043, 0x2043, "-"},     {0x2044, 0x2044, "/"},   {0x205F, 0x205F, " "},     {0x2060, 0x2064, ""},
+    {0x2066, 0x2069, ""},      {0x20BD, 0x20BD, "RUB"}, {0x2116, 0x2116, "Nr."},   {0x2190, 0x2190, "<-"},
+    {0x2192, 0x2192, "->"},    {0x2212, 0x2212, "-"},   {0x2215, 0x2215, "/"},     {0x2217, 0x2217, "*"},
+    {0x2219, 0x2219, "\xB7"},  {0x2260, 0x2260, "<>"},  {0x2264, 0x2264, "<="},    {0x2265, 0x2265, ">="},
+    {0x3000, 0x3000, " "},     {0xFB00, 0xFB00, "ff"},  {0xFB01, 0xFB01, "fi"},    {0xFB02, 0xFB02, "fl"},
+    {0xFB03, 0xFB03, "ffi"},   {0xFB04, 0xFB04, "ffl"}, {0xFB05, 0xFB06, "st"},    {0xFE00, 0xFE0F, ""},
+    {0xFEFF, 0xFEFF, ""},
 };
 
 struct Verbindung {
-    char32_t zeichen; ///< combining mark
-    const char* grund; ///< letters that the code page has with it
+    char32_t zeichen;     ///< combining mark
+    const char* grund;    ///< letters that the code page has with it
     const char* ergebnis; ///< those, in the same order, in Windows-1252
 };
 
@@ -74,7 +83,7 @@ constexpr Verbindung kVerbindungen[] = {
     {0x0301, "AEIOUYaeiouy", "\xC1\xC9\xCD\xD3\xDA\xDD\xE1\xE9\xED\xF3\xFA\xFD"},
     {0x0302, "AEIOUaeiou", "\xC2\xCA\xCE\xD4\xDB\xE2\xEA\xEE\xF4\xFB"},
     {0x0303, "ANOano", "\xC3\xD1\xD5\xE3\xF1\xF5"},
-    {0x0308, "AEIOUaeiouy", "\xC4\xCB\xCF\xD6\xDC\xE4\xEB\xEF\xF6\xFC\xFF"},
+    {0x0308, "AEIOUYaeiouy", "\xC4\xCB\xCF\xD6\xDC\x9F\xE4\xEB\xEF\xF6\xFC\xFF"},
     {0x030A, "Aa", "\xC5\xE5"},
     {0x030C, "SZsz", "\x8A\x8E\x9A\x9E"},
     {0x0327, "Cc", "\xC7\xE7"},
@@ -91,31 +100,6 @@ void utf8_anhaengen(std::string& text, char32_t c) {
         text += static_cast<char>(0x80U | ((c >> 6U) & 0x3FU));
         text += static_cast<char>(0x80U | (c & 0x3FU));
     }
-}
-
-constexpr char32_t kUngueltig = 0xFFFD;
-
-/// The character at `i`, which moves behind it; a byte that is no UTF-8 is `kUngueltig`.
-char32_t naechstes(std::string_view text, std::size_t& i) {
-    const auto byte = [&](std::size_t k) { return static_cast<unsigned char>(text[k]); };
-    const unsigned char c = byte(i++);
-    if (c < 0x80) {
-        return c;
-    }
-    const int folgen = c >= 0xF0 && c < 0xF5 ? 3 : c >= 0xE0 && c < 0xF0 ? 2 : c >= 0xC2 && c < 0xE0 ? 1 : 0;
-    if (folgen == 0 || i + static_cast<std::size_t>(folgen) > text.size()) {
-        return kUngueltig;
-    }
-    char32_t zeichen = c & (0x3FU >> folgen);
-    for (int k = 0; k < folgen; ++k) {
-        const unsigned char f = byte(i + static_cast<std::size_t>(k));
-        if ((f & 0xC0U) != 0x80U) {
-            return kUngueltig;
-        }
-        zeichen = (zeichen << 6U) | (f & 0x3FU);
-    }
-    i += static_cast<std::size_t>(folgen);
-    return zeichen;
 }
 
 /// Byte of the code page, -1 if it lacks the character.
@@ -142,7 +126,12 @@ bool verbinden(std::string& bytes, char32_t c) {
     return false;
 }
 
-const char* ersatz_fuer(char32_t c) {
+std::string_view ersatz_fuer(char32_t c) {
+    for (const Lauf& lauf : kLaeufe) {
+        if (c >= lauf.von && c - lauf.von < lauf.durch.size() && lauf.durch[c - lauf.von] != '?') {
+            return lauf.durch.substr(c - lauf.von, 1);
+        }
+    }
     for (const Ersatz& e : kErsatz) {
         if (c >= e.von && c <= e.bis) {
             return e.durch;
@@ -167,7 +156,8 @@ Ansi nach_ansi(std::string_view text) {
     Ansi ansi;
     ansi.bytes.reserve(text.size());
     for (std::size_t i = 0; i < text.size();) {
-        const char32_t c = naechstes(text, i);
+        const auto [c, laenge] = utf8_zeichen(text, i);
+        i += laenge;
         const int byte = byte_fuer(c);
         if (byte >= 0) {
             ansi.bytes += static_cast<char>(byte);

@@ -11,10 +11,13 @@ namespace quittika {
 
 namespace {
 
-constexpr std::array<std::string_view, 12> kMonate{"JANUAR", "FEBRUAR", "MÄRZ",      "APRIL",   "MAI",      "JUNI",
-                                                   "JULI",   "AUGUST",  "SEPTEMBER", "OKTOBER", "NOVEMBER", "DEZEMBER"};
+constexpr std::array<std::string_view, 12> kMonate{"JANUAR",    "FEBRUAR", "MÄRZ",     "APRIL",
+                                                   "MAI",       "JUNI",    "JULI",     "AUGUST",
+                                                   "SEPTEMBER", "OKTOBER", "NOVEMBER", "DEZEMBER"};
 
-bool ziffer(char c) { return c >= '0' && c <= '9'; }
+bool ziffer(char c) {
+    return c >= '0' && c <= '9';
+}
 
 /// A number of at most four digits at `i`, which moves behind it; -1 if none stands there.
 int zahl(std::string_view text, std::size_t& i) {
@@ -45,7 +48,8 @@ std::optional<Zeitpunkt> mit_tag(int jahr, int monat, int tag) {
 int monat_von(std::string_view wort) {
     const std::string gross = grossbuchstaben(wort);
     for (std::size_t m = 0; m < kMonate.size(); ++m) {
-        if (gross == kMonate[m] || gross == links(kMonate[m], 3) || (m == 2 && (gross == "MAERZ" || gross == "MRZ"))) {
+        if (gross == kMonate[m] || gross == links(kMonate[m], 3) ||
+            (m == 2 && (gross == "MAERZ" || gross == "MRZ"))) {
             return static_cast<int>(m) + 1;
         }
     }
@@ -56,6 +60,15 @@ void blanks(std::string_view text, std::size_t& i) {
     while (i < text.size() && text[i] == ' ') {
         ++i;
     }
+}
+
+/// Place behind the separator at `i`, and behind the blanks that follow a point.
+std::size_t hinter_trenner(std::string_view text, std::size_t i) {
+    const bool punkt = text[i++] == '.';
+    if (punkt) {
+        blanks(text, i);
+    }
+    return i;
 }
 
 /// Hours and minutes, and seconds if they stand there, up to the end of the text.
@@ -109,7 +122,8 @@ bool datum_gueltig(int jahr, int monat, int tag) {
     if (jahr < 100 || jahr > 9999 || monat < 1 || monat > 12 || tag < 1) {
         return false;
     }
-    const std::chrono::year_month_day d{std::chrono::year(jahr), std::chrono::month(static_cast<unsigned>(monat)),
+    const std::chrono::year_month_day d{std::chrono::year(jahr),
+                                        std::chrono::month(static_cast<unsigned>(monat)),
                                         std::chrono::day(static_cast<unsigned>(tag))};
     return tag <= 31 && d.ok();
 }
@@ -125,13 +139,16 @@ std::optional<Zeitpunkt> datum_lesen(std::string_view text) {
     }
     const char trenner = t[i];
     std::optional<Zeitpunkt> ergebnis;
-    const bool ziffern_folgen = i + 1 < t.size() && ziffer(t[i + 1]);
+    const std::size_t hinter = hinter_trenner(t, i);
+    const bool ziffern_folgen = hinter < t.size() && ziffer(t[hinter]);
     if ((trenner == '.' || trenner == '/' || trenner == '-') && ziffern_folgen) {
-        const int zweite = zahl(t, ++i);
+        i = hinter;
+        const int zweite = zahl(t, i);
         if (i >= t.size() || t[i] != trenner) {
             return std::nullopt;
         }
-        const std::size_t jahr_anfang = ++i;
+        i = hinter_trenner(t, i);
+        const std::size_t jahr_anfang = i;
         const int dritte = zahl(t, i);
         if (zweite < 0 || dritte < 0) {
             return std::nullopt;
@@ -159,7 +176,9 @@ std::string zeit_text(const Zeitpunkt& z) {
     return puffer.data();
 }
 
-std::string datum_zeit_text(const Zeitpunkt& z) { return datum_text(z) + " " + zeit_text(z); }
+std::string datum_zeit_text(const Zeitpunkt& z) {
+    return datum_text(z) + " " + zeit_text(z);
+}
 
 std::optional<Zeitpunkt> iso_lesen(std::string_view text) {
     constexpr std::string_view kMuster = "0000-00-00T00:00:00";
@@ -179,7 +198,8 @@ std::optional<Zeitpunkt> iso_lesen(std::string_view text) {
         return ergebnis;
     };
     const Zeitpunkt z{wert(0, 4), wert(5, 2), wert(8, 2), wert(11, 2), wert(14, 2), wert(17, 2)};
-    const bool gueltig = datum_gueltig(z.jahr, z.monat, z.tag) && z.stunde < 24 && z.minute < 60 && z.sekunde < 60;
+    const bool gueltig =
+        datum_gueltig(z.jahr, z.monat, z.tag) && z.stunde < 24 && z.minute < 60 && z.sekunde < 60;
     return gueltig ? std::optional(z) : std::nullopt;
 }
 
@@ -189,7 +209,8 @@ std::int64_t sekunden_aus(const Zeitpunkt& z) {
         std::chrono::day(static_cast<unsigned>(z.tag))};
     constexpr std::int64_t kStunde = 3600;
     constexpr std::int64_t kTag = 24 * kStunde;
-    return tag.time_since_epoch().count() * kTag + z.stunde * kStunde + z.minute * std::int64_t{60} + z.sekunde;
+    return tag.time_since_epoch().count() * kTag + z.stunde * kStunde + z.minute * std::int64_t{60} +
+           z.sekunde;
 }
 
 Zeitpunkt zeitpunkt_aus(std::int64_t sekunden) {

@@ -22,8 +22,8 @@ struct Zeitpunkt {
 /// Whether there is such a day (years 100 to 9999).
 bool datum_gueltig(int jahr, int monat, int tag);
 
-/// Reads a date as people type it: 1.2.2008, 01.02.08 (00 to 29 is 20xx), 2008-02-01, 1/2/2008, 1-2-2008,
-/// "1. Februar 2008", with blanks around and a time behind it. Nothing for everything else.
+/// Reads a date as people type it: 1.2.2008, 1. 2. 2008, 01.02.08 (00 to 29 is 20xx), 2008-02-01, 1/2/2008,
+/// 1-2-2008, "1. Februar 2008", with blanks around and a time behind it. Nothing for everything else.
 std::optional<Zeitpunkt> datum_lesen(std::string_view text);
 
 std::string datum_text(const Zeitpunkt& z);      ///< "22.11.2008"

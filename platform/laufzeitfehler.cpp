@@ -12,17 +12,21 @@ struct Text {
     const char* text;
 };
 
-constexpr std::array<Text, 16> kTexte{{
+constexpr std::array<Text, 20> kTexte{{
     {fehler::kUngueltigerAufruf, "Ungültiger Aufruf"},
     {fehler::kUeberlauf, "Überlauf"},
+    {fehler::kSpeicher, "Nicht genügend Speicher"},
     {fehler::kIndex, "Index außerhalb des gültigen Bereichs"},
     {fehler::kDivisionDurchNull, "Division durch Null"},
     {fehler::kFalscherTyp, "Typen unverträglich"},
     {fehler::kDateiname, "Dateiname ungültig"},
     {fehler::kDateiFehlt, "Datei nicht gefunden"},
+    {fehler::kDateiOffen, "Datei ist bereits geöffnet"},
     {fehler::kGeraet, "Fehler beim Lesen oder Schreiben"},
     {fehler::kDatentraegerVoll, "Datenträger voll"},
+    {fehler::kDateiende, "Eingabe hinter dem Dateiende"},
     {fehler::kZugriffVerweigert, "Zugriff verweigert"},
+    {fehler::kDatentraegerFehlt, "Datenträger nicht bereit"},
     {fehler::kPfadZugriff, "Fehler beim Zugriff auf Pfad oder Datei"},
     {fehler::kPfadFehlt, "Pfad nicht gefunden"},
     {fehler::kEigenschaft, "Ungültiger Eigenschaftswert"},

@@ -9,14 +9,18 @@ namespace quittika {
 namespace fehler {
 constexpr int kUngueltigerAufruf = 5;
 constexpr int kUeberlauf = 6;
+constexpr int kSpeicher = 7;
 constexpr int kIndex = 9;
 constexpr int kDivisionDurchNull = 11;
 constexpr int kFalscherTyp = 13;
 constexpr int kDateiname = 52;
 constexpr int kDateiFehlt = 53;
+constexpr int kDateiOffen = 55;
 constexpr int kGeraet = 57;
 constexpr int kDatentraegerVoll = 61;
+constexpr int kDateiende = 62;
 constexpr int kZugriffVerweigert = 70;
+constexpr int kDatentraegerFehlt = 71;
 constexpr int kPfadZugriff = 75;
 constexpr int kPfadFehlt = 76;
 constexpr int kEigenschaft = 380;

@@ -1,38 +1,16 @@
 #include "platform/text.hpp"
 
+#include "platform/utf8.hpp"
+
 namespace quittika {
 
 namespace {
-
-bool fortsetzung(char c) { return (static_cast<unsigned char>(c) & 0xC0U) == 0x80U; }
-
-/// Length in bytes of the character at `i`; 1 for a byte that begins none.
-std::size_t zeichenlaenge(std::string_view text, std::size_t i) {
-    const auto c = static_cast<unsigned char>(text[i]);
-    std::size_t laenge = 1;
-    if (c >= 0xC2 && c < 0xE0) {
-        laenge = 2;
-    } else if (c >= 0xE0 && c < 0xF0) {
-        laenge = 3;
-    } else if (c >= 0xF0 && c < 0xF5) {
-        laenge = 4;
-    }
-    if (i + laenge > text.size()) {
-        return 1;
-    }
-    for (std::size_t k = 1; k < laenge; ++k) {
-        if (!fortsetzung(text[i + k])) {
-            return 1;
-        }
-    }
-    return laenge;
-}
 
 /// Byte position of character `nummer`, the end if there are fewer.
 std::size_t stelle(std::string_view text, std::size_t nummer) {
     std::size_t i = 0;
     for (std::size_t n = 0; n < nummer && i < text.size(); ++n) {
-        i += zeichenlaenge(text, i);
+        i += utf8_zeichen(text, i).laenge;
     }
     return i;
 }
@@ -41,22 +19,28 @@ std::size_t stelle(std::string_view text, std::size_t nummer) {
 
 std::size_t zeichenzahl(std::string_view text) {
     std::size_t anzahl = 0;
-    for (std::size_t i = 0; i < text.size(); i += zeichenlaenge(text, i)) {
+    for (std::size_t i = 0; i < text.size(); i += utf8_zeichen(text, i).laenge) {
         ++anzahl;
     }
     return anzahl;
 }
 
-std::string links(std::string_view text, std::size_t anzahl) { return std::string(text.substr(0, stelle(text, anzahl))); }
+std::string links(std::string_view text, std::size_t anzahl) {
+    return std::string(text.substr(0, stelle(text, anzahl)));
+}
 
 std::string rechts(std::string_view text, std::size_t anzahl) {
     const std::size_t alle = zeichenzahl(text);
     return alle <= anzahl ? std::string(text) : ab(text, alle - anzahl);
 }
 
-std::string ab(std::string_view text, std::size_t anfang) { return std::string(text.substr(stelle(text, anfang))); }
+std::string ab(std::string_view text, std::size_t anfang) {
+    return std::string(text.substr(stelle(text, anfang)));
+}
 
-std::string leerzeichen(std::size_t anzahl) { return std::string(anzahl, ' '); }
+std::string leerzeichen(std::size_t anzahl) {
+    return std::string(anzahl, ' ');
+}
 
 std::string rechtsbuendig(std::string_view text, std::size_t breite) {
     const std::size_t laenge = zeichenzahl(text);
@@ -78,7 +62,9 @@ std::string gekuerzt(std::string_view text) {
     return std::string(text.substr(anfang, text.find_last_not_of(' ') - anfang + 1));
 }
 
-bool beginnt_mit(std::string_view text, std::string_view anfang) { return text.substr(0, anfang.size()) == anfang; }
+bool beginnt_mit(std::string_view text, std::string_view anfang) {
+    return text.substr(0, anfang.size()) == anfang;
+}
 
 std::string ersetzen(std::string_view text, std::string_view alt, std::string_view neu) {
     if (alt.empty()) {

@@ -6,8 +6,8 @@
 
 #include <cerrno>
 #include <cstdio>
-#include <cstdlib>
-#include <memory>
+#include <filesystem>
+#include <system_error>
 #include <utility>
 
 #include <fcntl.h>
@@ -30,6 +30,7 @@ int nummer_von(int system) {
         return fehler::kZugriffVerweigert;
     case EISDIR:
     case ENAMETOOLONG:
+    case ELOOP:
         return fehler::kPfadZugriff;
     case ENOSPC:
     case EDQUOT:
@@ -51,10 +52,19 @@ int nummer_von(int system) {
     throw Laufzeitfehler(nummer, pfad);
 }
 
+/// The system's form of a path; one with a NUL in it names no file.
+std::string ort_von(const std::string& pfad) {
+    if (pfad.find('\0') != std::string::npos) {
+        throw Laufzeitfehler(fehler::kDateiname, pfad);
+    }
+    return systempfad(pfad);
+}
+
 /// An open file of the system, closed at the end of its life.
 class Datei {
 public:
-    Datei(const std::string& pfad, int art, mode_t rechte = 0666) : nummer_(open(pfad.c_str(), art | O_CLOEXEC, rechte)) {
+    Datei(const std::string& pfad, int art, mode_t rechte = 0666)
+        : nummer_(open(pfad.c_str(), art | O_CLOEXEC, rechte)) {
         if (nummer_ < 0) {
             scheitern(errno, pfad);
         }
@@ -93,7 +103,7 @@ private:
 };
 
 std::string alles_lesen(const std::string& pfad) {
-    const std::string ort = systempfad(pfad);
+    const std::string ort = ort_von(pfad);
     const Datei datei(ort, O_RDONLY);
     struct stat auskunft {};
     if (fstat(datei.nummer(), &auskunft) == 0 && S_ISDIR(auskunft.st_mode)) {
@@ -138,10 +148,18 @@ template <class Weiter> void zeilen_teilen(std::string_view inhalt, Weiter weite
     }
 }
 
-/// The file behind a symbolic link, else the path itself.
-std::string wirkliches_ziel(const std::string& pfad) {
-    const std::unique_ptr<char, void (*)(void*)> ziel(realpath(pfad.c_str(), nullptr), &std::free);
-    return ziel ? std::string(ziel.get()) : pfad;
+/// The file that symbolic links lead to, even if it does not exist yet; else the path itself.
+std::string wirkliches_ziel(std::string pfad) {
+    constexpr int kVerweise = 40; // as many as the system follows
+    for (int i = 0; i < kVerweise; ++i) {
+        std::error_code kein_verweis;
+        const std::filesystem::path ziel = std::filesystem::read_symlink(pfad, kein_verweis);
+        if (kein_verweis) {
+            return pfad;
+        }
+        pfad = (std::filesystem::path(pfad).parent_path() / ziel).string();
+    }
+    scheitern(ELOOP, pfad);
 }
 
 /// Makes sure that a renamed file stays where it is even if the machine stops now.
@@ -155,7 +173,8 @@ void ordner_sichern(const std::string& pfad) {
     }
 }
 
-void neben_der_alten_schreiben(const std::string& ziel, std::string_view bytes, mode_t rechte, bool vorhanden) {
+void neben_der_alten_schreiben(const std::string& ziel, std::string_view bytes, mode_t rechte,
+                               bool vorhanden) {
     const std::string neu = ziel + ".neu";
     try {
         Datei datei(neu, O_WRONLY | O_CREAT | O_TRUNC, rechte);
@@ -178,7 +197,7 @@ void neben_der_alten_schreiben(const std::string& ziel, std::string_view bytes, 
 }
 
 void bytes_schreiben(const std::string& pfad, std::string_view bytes) {
-    const std::string ziel = wirkliches_ziel(systempfad(pfad));
+    const std::string ziel = wirkliches_ziel(ort_von(pfad));
     struct stat auskunft {};
     const bool vorhanden = stat(ziel.c_str(), &auskunft) == 0;
     if (vorhanden && S_ISDIR(auskunft.st_mode)) {
@@ -190,7 +209,7 @@ void bytes_schreiben(const std::string& pfad, std::string_view bytes) {
         geraet.schliessen(ziel);
         return;
     }
-    if (vorhanden && access(ziel.c_str(), W_OK) != 0) {
+    if (vorhanden && faccessat(AT_FDCWD, ziel.c_str(), W_OK, AT_EACCESS) != 0) {
         scheitern(errno, ziel);
     }
     neben_der_alten_schreiben(ziel, bytes, vorhanden ? auskunft.st_mode & 07777U : 0666, vorhanden);
@@ -199,7 +218,8 @@ void bytes_schreiben(const std::string& pfad, std::string_view bytes) {
 void anhaengen(const std::string& ort, const std::string& bytes) {
     Datei datei(ort, O_RDWR | O_CREAT | O_APPEND);
     struct stat auskunft {};
-    const off_t laenge = fstat(datei.nummer(), &auskunft) == 0 && S_ISREG(auskunft.st_mode) ? auskunft.st_size : 0;
+    const off_t laenge =
+        fstat(datei.nummer(), &auskunft) == 0 && S_ISREG(auskunft.st_mode) ? auskunft.st_size : 0;
     char letztes = '\n';
     if (laenge > 0 && pread(datei.nummer(), &letztes, 1, laenge - 1) != 1) {
         letztes = '\n';
@@ -260,11 +280,13 @@ std::string DATEI_ERSTE_ZEILE(const std::string& pfad) {
     }
 }
 
-void DATEI_SCHREIBEN(const std::string& pfad, const std::string& text) { schreiben(pfad, {text}); }
+void DATEI_SCHREIBEN(const std::string& pfad, const std::string& text) {
+    schreiben(pfad, {text});
+}
 
 Dateiergebnis ZEILE_ANHAENGEN(const std::string& pfad, const std::string& zeile) {
     try {
-        anhaengen(systempfad(pfad), nach_ansi(zeile).bytes + "\r\n");
+        anhaengen(ort_von(pfad), nach_ansi(zeile).bytes + "\r\n");
         return {};
     } catch (const Laufzeitfehler& f) {
         return {false, f.nummer()};

@@ -12,20 +12,22 @@ namespace quittika {
 // Text files are lines in Windows-1252 with CR LF. A line read ends with CR LF, LF or the end of the file;
 // a lone CR and every other byte stay in it. Text in memory is UTF-8.
 // Errors are `Laufzeitfehler` with the path: 53 file, 76 folder missing, 70 not permitted, 75 no file,
-// 61 disk full, 57 anything else.
+// 52 bad name, 61 disk full, 57 anything else.
 
 /// At most `hoechstens` lines of a file's content.
 std::vector<std::string> zeilen_aus(std::string_view bytes,
                                     std::size_t hoechstens = std::numeric_limits<std::size_t>::max());
 
 /// At most `hoechstens` lines of a file.
-std::vector<std::string> lesen(const std::string& pfad, std::size_t hoechstens = std::numeric_limits<std::size_t>::max());
+std::vector<std::string> lesen(const std::string& pfad,
+                               std::size_t hoechstens = std::numeric_limits<std::size_t>::max());
 
 /// Hands over line after line until `weiter` answers false.
 void lesen(const std::string& pfad, const std::function<bool(std::string_view zeile)>& weiter);
 
-/// Replaces a file by these lines. They are written beside it first and take its place when they are completely on
-/// disk, so that the old content is there until then. Returns how many characters the code page lacks.
+/// Replaces a file by these lines. They are written beside it first and take its place when they are
+/// completely on disk, so that the old content is there until then. Returns how many characters the code page
+/// lacks.
 std::size_t schreiben(const std::string& pfad, const std::vector<std::string>& zeilen);
 
 /// First line of a file; "FEHLER" if it is missing, unreadable or empty.
@@ -41,10 +43,12 @@ struct Dateiergebnis {
     explicit operator bool() const { return gelungen; }
 };
 
-/// Appends one line; a file that does not exist is created. A line that could not be written whole is taken back.
+/// Appends one line; a file that does not exist is created. A line that could not be written whole is taken
+/// back.
 Dateiergebnis ZEILE_ANHAENGEN(const std::string& pfad, const std::string& zeile);
 
-/// Field `index`, counted from 0, of a line split at `trenner`; "ERROR" if there is none, and for an empty line.
+/// Field `index`, counted from 0, of a line split at `trenner`; "ERROR" if there is none, and for an empty
+/// line.
 std::string FELD_AUS_ZEILE(std::string_view zeile, std::string_view trenner, int index);
 
 } // namespace quittika

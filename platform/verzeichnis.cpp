@@ -1,24 +1,34 @@
 #include "platform/verzeichnis.hpp"
 
-#include <algorithm>
-
 #include <sys/stat.h>
 
 namespace quittika {
 
+namespace {
+
+bool vorhanden(const std::string& pfad) {
+    struct stat auskunft {};
+    return stat(pfad.c_str(), &auskunft) == 0;
+}
+
+} // namespace
+
 std::string systempfad(std::string_view pfad) {
     std::string ergebnis(pfad);
-    struct stat auskunft {};
-    if (ergebnis.find('\\') == std::string::npos || stat(ergebnis.c_str(), &auskunft) == 0) {
+    if (ergebnis.find('\\') == std::string::npos || vorhanden(ergebnis)) {
         return ergebnis;
     }
-    std::replace(ergebnis.begin(), ergebnis.end(), '\\', '/');
+    for (std::size_t i = ergebnis.find('\\'); i != std::string::npos; i = ergebnis.find('\\', i + 1)) {
+        const std::size_t ende = ergebnis.find('\\', i + 1);
+        if (ende == std::string::npos || !vorhanden(ergebnis.substr(0, ende))) {
+            ergebnis[i] = '/';
+        }
+    }
     return ergebnis;
 }
 
 bool datei_vorhanden(std::string_view pfad) {
-    struct stat auskunft {};
-    return stat(systempfad(pfad).c_str(), &auskunft) == 0;
+    return vorhanden(systempfad(pfad));
 }
 
 } // namespace quittika

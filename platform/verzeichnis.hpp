@@ -20,7 +20,8 @@ private:
     std::string ordner_;
 };
 
-/// The system's form of a path: a "\" becomes "/" unless a file of the literal name exists.
+/// The system's form of a path: a "\" becomes "/" unless it belongs to the name of a file or folder that
+/// exists.
 std::string systempfad(std::string_view pfad);
 
 /// Whether a path names something that exists.

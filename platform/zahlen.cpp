@@ -14,8 +14,12 @@ namespace {
 
 constexpr int kStellen = 15;
 
-bool ziffer(char c) { return c >= '0' && c <= '9'; }
-bool leer(char c) { return c == ' ' || c == '\t'; }
+bool ziffer(char c) {
+    return c >= '0' && c <= '9';
+}
+bool leer(char c) {
+    return c == ' ' || c == '\t';
+}
 
 std::string_view ohne_rand(std::string_view text) {
     while (!text.empty() && leer(text.front())) {
@@ -56,7 +60,8 @@ std::size_t exponent_laenge(std::string_view text) {
 
 /// Writes `text` into `puffer` as std::from_chars reads it. Nothing for what is no number or too long for it.
 template <std::size_t N>
-std::optional<std::size_t> umschreiben(std::string_view text, std::array<char, N>& puffer, const Locale& locale) {
+std::optional<std::size_t> umschreiben(std::string_view text, std::array<char, N>& puffer,
+                                       const Locale& locale) {
     std::size_t n = 0;
     bool ziffern = false;
     bool komma = false;
@@ -79,13 +84,66 @@ std::optional<std::size_t> umschreiben(std::string_view text, std::array<char, N
                 return std::nullopt;
             }
             puffer[n++] = 'e';
-            n = static_cast<std::size_t>(std::copy(rest.begin() + 1, rest.end(), puffer.begin() + static_cast<std::ptrdiff_t>(n)) - puffer.begin());
+            n = static_cast<std::size_t>(
+                std::copy(rest.begin() + 1, rest.end(), puffer.begin() + static_cast<std::ptrdiff_t>(n)) -
+                puffer.begin());
             return n;
         } else {
             return std::nullopt;
         }
     }
     return ziffern ? std::optional(n) : std::nullopt;
+}
+
+/// Whether a number that no double holds is too large (else it is too small). `zahl` as std::from_chars reads
+/// it.
+bool zu_gross(std::string_view zahl) {
+    const std::size_t e = std::min(zahl.find('e'), zahl.size());
+    const std::string_view mantisse = zahl.substr(0, e);
+    const auto punkt = static_cast<std::ptrdiff_t>(std::min(mantisse.find('.'), mantisse.size()));
+    const auto erste = static_cast<std::ptrdiff_t>(mantisse.find_first_of("123456789"));
+    const std::ptrdiff_t stellen = punkt - erste + (erste > punkt ? 1 : 0);
+    if (e == zahl.size()) {
+        return stellen > 0;
+    }
+    std::string_view rest = zahl.substr(e + 1);
+    const bool negativ = rest.front() == '-';
+    rest.remove_prefix(negativ || rest.front() == '+' ? 1 : 0);
+    std::ptrdiff_t exponent = 0;
+    if (std::from_chars(rest.data(), rest.data() + rest.size(), exponent).ec != std::errc{}) {
+        return !negativ;
+    }
+    return stellen + (negativ ? -exponent : exponent) > 0;
+}
+
+/// A text read as a number; `fehler` is the number of the error, 0 for none.
+struct Gelesen {
+    double wert = 0;
+    int fehler = 0;
+};
+
+Gelesen zahl_lesen(std::string_view text, const Locale& locale) {
+    text = ohne_rand(text);
+    const bool negativ = vorzeichen_nehmen(text);
+    std::array<char, 512>
+        puffer; // NOLINT(cppcoreguidelines-pro-type-member-init): filled as far as it is read
+    const auto laenge = umschreiben(text, puffer, locale);
+    if (!laenge) {
+        return {0, fehler::kFalscherTyp};
+    }
+    double wert = 0;
+    const char* ende = puffer.data() + *laenge;
+    const auto ergebnis = std::from_chars(puffer.data(), ende, wert);
+    if (ergebnis.ptr != ende) {
+        return {0, fehler::kFalscherTyp};
+    }
+    if (ergebnis.ec == std::errc::result_out_of_range) {
+        if (zu_gross(std::string_view(puffer.data(), *laenge))) {
+            return {0, fehler::kUeberlauf};
+        }
+        wert = 0;
+    }
+    return {negativ ? -wert : wert, 0};
 }
 
 /// Decimal digits of a value and the place of the decimal point: 0.d1d2d3... x 10^exponent.
@@ -103,10 +161,9 @@ Dezimal zerlegt(double wert) {
     Dezimal d;
     d.negativ = std::signbit(wert);
     std::array<char, 40> puffer{};
-    const auto ende =
-        std::to_chars(puffer.data(), puffer.data() + puffer.size(), std::fabs(wert), std::chars_format::scientific,
-                      kStellen - 1)
-            .ptr;
+    const auto ende = std::to_chars(puffer.data(), puffer.data() + puffer.size(), std::fabs(wert),
+                                    std::chars_format::scientific, kStellen - 1)
+                          .ptr;
     const char* e = std::find(puffer.data(), ende, 'e');
     for (const char* p = puffer.data(); p != e; ++p) {
         if (*p != '.') {
@@ -142,7 +199,8 @@ void runden(Dezimal& d, int stellen) {
         if (i >= 0) {
             ++d.ziffern[static_cast<std::size_t>(i)];
         } else {
-            std::copy_backward(d.ziffern.begin(), d.ziffern.begin() + d.anzahl, d.ziffern.begin() + d.anzahl + 1);
+            std::copy_backward(d.ziffern.begin(), d.ziffern.begin() + d.anzahl,
+                               d.ziffern.begin() + d.anzahl + 1);
             d.ziffern[0] = '1';
             ++d.anzahl;
             ++d.exponent;
@@ -181,7 +239,8 @@ template <class Ganz> Ganz ganzzahl(double wert) {
 
 bool gleich_ohne_gross(std::string_view a, std::string_view b) {
     constexpr auto klein = [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; };
-    return std::equal(a.begin(), a.end(), b.begin(), b.end(), [&](char x, char y) { return klein(x) == klein(y); });
+    return std::equal(a.begin(), a.end(), b.begin(), b.end(),
+                      [&](char x, char y) { return klein(x) == klein(y); });
 }
 
 } // namespace
@@ -192,46 +251,34 @@ const Locale& deutsch() {
 }
 
 std::optional<double> double_versuch(std::string_view text, const Locale& locale) {
-    text = ohne_rand(text);
-    const bool negativ = vorzeichen_nehmen(text);
-    std::array<char, 512> puffer; // NOLINT(cppcoreguidelines-pro-type-member-init): filled as far as it is read
-    const auto laenge = umschreiben(text, puffer, locale);
-    if (!laenge) {
-        return std::nullopt;
-    }
-    double wert = 0;
-    const char* ende = puffer.data() + *laenge;
-    const auto ergebnis = std::from_chars(puffer.data(), ende, wert);
-    if (ergebnis.ptr != ende) {
-        return std::nullopt;
-    }
-    if (ergebnis.ec == std::errc::result_out_of_range) {
-        const std::string_view zahl(puffer.data(), *laenge);
-        const std::size_t exponent = zahl.find('e');
-        const bool winzig = exponent == std::string_view::npos ? zahl.front() == '0' || zahl.front() == '.'
-                                                               : zahl[exponent + 1] == '-';
-        if (!winzig) {
-            return std::nullopt;
-        }
-        wert = 0;
-    }
-    return negativ ? -wert : wert;
+    const Gelesen g = zahl_lesen(text, locale);
+    return g.fehler == 0 ? std::optional(g.wert) : std::nullopt;
 }
 
-bool ist_numerisch(std::string_view text, const Locale& locale) { return double_versuch(text, locale).has_value(); }
+bool ist_numerisch(std::string_view text, const Locale& locale) {
+    return double_versuch(text, locale).has_value();
+}
 
 double nach_double(std::string_view text, const Locale& locale) {
-    const auto wert = double_versuch(text, locale);
-    if (!wert) {
-        throw Laufzeitfehler(fehler::kFalscherTyp);
+    const Gelesen g = zahl_lesen(text, locale);
+    if (g.fehler != 0) {
+        throw Laufzeitfehler(g.fehler);
     }
-    return *wert;
+    return g.wert;
 }
 
-std::int16_t nach_int16(double wert) { return ganzzahl<std::int16_t>(wert); }
-std::int32_t nach_int32(double wert) { return ganzzahl<std::int32_t>(wert); }
-std::int16_t nach_int16(std::string_view text, const Locale& locale) { return nach_int16(nach_double(text, locale)); }
-std::int32_t nach_int32(std::string_view text, const Locale& locale) { return nach_int32(nach_double(text, locale)); }
+std::int16_t nach_int16(double wert) {
+    return ganzzahl<std::int16_t>(wert);
+}
+std::int32_t nach_int32(double wert) {
+    return ganzzahl<std::int32_t>(wert);
+}
+std::int16_t nach_int16(std::string_view text, const Locale& locale) {
+    return nach_int16(nach_double(text, locale));
+}
+std::int32_t nach_int32(std::string_view text, const Locale& locale) {
+    return nach_int32(nach_double(text, locale));
+}
 
 std::string zahl_text(double wert, const Locale& locale) {
     const Dezimal d = zerlegt(wert);
@@ -261,7 +308,9 @@ double dezimal_bereinigt(double wert) {
                                     std::chars_format::scientific, kStellen - 1)
                           .ptr;
     double bereinigt = 0;
-    std::from_chars(puffer.data(), ende, bereinigt);
+    if (std::from_chars(puffer.data(), ende, bereinigt).ec != std::errc{} && std::fabs(wert) > 1) {
+        throw Laufzeitfehler(fehler::kUeberlauf); // the largest doubles round up to a text beyond them
+    }
     return bereinigt;
 }
 
@@ -295,6 +344,8 @@ std::optional<bool> wahrheitswert(std::string_view text, const Locale& locale) {
     return zahl ? std::optional(*zahl != 0) : std::nullopt;
 }
 
-std::string wahrheit_text(bool wert) { return wert ? "True" : "False"; }
+std::string wahrheit_text(bool wert) {
+    return wert ? "True" : "False";
+}
 
 } // namespace quittika

@@ -7,6 +7,7 @@
 #include "platform/zahlen.hpp"
 
 #include <algorithm>
+#include <array>
 #include <utility>
 
 namespace quittika {
@@ -57,11 +58,17 @@ void Rechnungsschreiber::BesondereZeilen() {
 
 void Rechnungsschreiber::PositionenAnfuegen(std::vector<std::string>& zeilen) const {
     const Form1& f = form1_;
+    const std::array<const ListBox*, 6> listen{&f.List_pos,      &f.List_K,     &f.List_Menge,
+                                               &f.List_Leistung, &f.List_Preis, &f.List_Gesamtp};
+    constexpr std::size_t kUebrigeFelder = 64;
+    zeilen.reserve(zeilen.size() + f.List_Gesamtp.items().size());
     for (int i = 0; i < f.List_Gesamtp.ListCount(); ++i) {
-        std::string zeile = kListenmarke;
-        for (const ListBox* liste :
-             {&f.List_pos, &f.List_K, &f.List_Menge, &f.List_Leistung, &f.List_Preis, &f.List_Gesamtp}) {
-            zeile.append(";").append(liste->List(i));
+        std::string zeile;
+        zeile.reserve(f.List_Leistung.List(i).size() + kUebrigeFelder);
+        zeile += kListenmarke;
+        for (const ListBox* liste : listen) {
+            zeile += ';';
+            zeile += liste->List(i);
         }
         zeilen.push_back(einzeilig(std::move(zeile)));
     }
