@@ -1,0 +1,143 @@
+#include "platform/laufzeitfehler.hpp"
+#include "platform/textdatei.hpp"
+#include "platform/verzeichnis.hpp"
+#include "tests/pruefstand.hpp"
+
+#include <gtest/gtest.h>
+
+#include <csignal>
+
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace quittika {
+namespace {
+
+template <class Tun> int nummer_aus(Tun tun) {
+    try {
+        tun();
+    } catch (const Laufzeitfehler& f) {
+        return f.nummer();
+    }
+    return 0;
+}
+
+/// Files of this process end at `bytes`, for its lifetime: a disk that fills up in the middle of a file.
+class KnapperDatentraeger {
+public:
+    explicit KnapperDatentraeger(rlim_t bytes) : signal_(std::signal(SIGXFSZ, SIG_IGN)) {
+        getrlimit(RLIMIT_FSIZE, &alt_);
+        rlimit knapp = alt_;
+        knapp.rlim_cur = bytes;
+        if (setrlimit(RLIMIT_FSIZE, &knapp) != 0) {
+            ADD_FAILURE() << "cannot limit the size of files";
+        }
+    }
+    KnapperDatentraeger(const KnapperDatentraeger&) = delete;
+    KnapperDatentraeger& operator=(const KnapperDatentraeger&) = delete;
+    ~KnapperDatentraeger() {
+        setrlimit(RLIMIT_FSIZE, &alt_);
+        std::signal(SIGXFSZ, signal_);
+    }
+
+private:
+    rlimit alt_{};
+    void (*signal_)(int);
+};
+
+TEST(TextdateiAusfall, VollerDatentraegerLaesstDasAlteStehen) {
+    const Probenordner o;
+    o.schreiben("rechnung.qk8", "alt\r\n");
+    int nummer = 0;
+    {
+        const KnapperDatentraeger knapp(100);
+        nummer = nummer_aus([&] { schreiben(o.pfad("rechnung.qk8"), {std::string(5000, 'x')}); });
+    }
+    EXPECT_EQ(nummer, fehler::kDatentraegerVoll);
+    EXPECT_EQ(o.lesen("rechnung.qk8"), "alt\r\n");
+    EXPECT_FALSE(std::filesystem::exists(o.pfad("rechnung.qk8.neu")));
+}
+
+TEST(TextdateiAusfall, HalbAngehaengteZeileWirdZurueckgenommen) {
+    const Probenordner o;
+    o.schreiben("kunden.txt", "Meier\r\n");
+    Dateiergebnis ergebnis;
+    {
+        const KnapperDatentraeger knapp(20);
+        ergebnis = ZEILE_ANHAENGEN(o.pfad("kunden.txt"), std::string(200, 'x'));
+    }
+    EXPECT_FALSE(ergebnis);
+    EXPECT_EQ(ergebnis.fehlernummer, fehler::kDatentraegerVoll);
+    EXPECT_EQ(o.lesen("kunden.txt"), "Meier\r\n");
+}
+
+TEST(TextdateiAusfall, SchreibgeschuetzteDatei) {
+    if (geteuid() == 0) {
+        GTEST_SKIP() << "root may write to a read-only file";
+    }
+    const Probenordner o;
+    o.schreiben("preise.txt", "alt\r\n");
+    chmod(o.pfad("preise.txt").c_str(), 0400);
+    EXPECT_EQ(nummer_aus([&] { schreiben(o.pfad("preise.txt"), {"neu"}); }), fehler::kZugriffVerweigert);
+    EXPECT_EQ(ZEILE_ANHAENGEN(o.pfad("preise.txt"), "neu").fehlernummer, fehler::kZugriffVerweigert);
+    EXPECT_EQ(o.lesen("preise.txt"), "alt\r\n");
+}
+
+TEST(TextdateiAusfall, NameMitNulTrifftKeineAndereDatei) {
+    const Probenordner o;
+    o.schreiben("a", "alt\r\n");
+    const std::string mit_nul = o.pfad("a") + std::string(1, '\0') + "b";
+    EXPECT_EQ(nummer_aus([&] { lesen(mit_nul); }), fehler::kDateiname);
+    EXPECT_EQ(nummer_aus([&] { schreiben(mit_nul, {"neu"}); }), fehler::kDateiname);
+    EXPECT_EQ(ZEILE_ANHAENGEN(mit_nul, "neu").fehlernummer, fehler::kDateiname);
+    EXPECT_EQ(o.lesen("a"), "alt\r\n");
+}
+
+TEST(TextdateiAusfall, VerweisInsLeereUndImKreis) {
+    const Probenordner o;
+    std::filesystem::create_directory(o.pfad("daten"));
+    std::filesystem::create_symlink("daten/echt.txt", o.pfad("verweis.txt"));
+    std::filesystem::create_symlink("kreis.txt", o.pfad("kreis.txt"));
+    schreiben(o.pfad("verweis.txt"), {"neu"});
+    EXPECT_TRUE(std::filesystem::is_symlink(o.pfad("verweis.txt")));
+    EXPECT_EQ(o.lesen("daten/echt.txt"), "neu\r\n");
+    EXPECT_EQ(nummer_aus([&] { schreiben(o.pfad("kreis.txt"), {"neu"}); }), fehler::kPfadZugriff);
+    EXPECT_TRUE(std::filesystem::is_symlink(o.pfad("kreis.txt")));
+}
+
+TEST(TextdateiAusfall, SehrLangeZeileBleibtGanz) {
+    constexpr std::size_t kLaenge = 10'000'000;
+    const Probenordner o;
+    const std::string lang(kLaenge, '\xE4');
+    o.schreiben("lang.txt", lang + "\r\nEnde");
+    const auto zeilen = lesen(o.pfad("lang.txt"));
+    ASSERT_EQ(zeilen.size(), 2U);
+    EXPECT_EQ(zeilen[0].size(), 2 * kLaenge);
+    EXPECT_EQ(zeilen[1], "Ende");
+    EXPECT_EQ(schreiben(o.pfad("zurueck.txt"), zeilen), 0U);
+    EXPECT_TRUE(o.lesen("zurueck.txt") == lang + "\r\nEnde\r\n");
+}
+
+TEST(TextdateiAusfall, VerlusteWerdenGezaehlt) {
+    const Probenordner o;
+    EXPECT_EQ(schreiben(o.pfad("a.txt"), {"Łódź", "Köln", "漢"}), 3U);
+    EXPECT_EQ(o.lesen("a.txt"), "L\xF3"
+                                "dz\r\nK\xF6ln\r\n?\r\n");
+}
+
+TEST(Programmpfad, RueckstrichWirdNurErsetztWoErTrennt) {
+    const Probenordner o;
+    std::filesystem::create_directory(o.pfad("d\\e"));
+    o.schreiben("d\\e/RN.txt", "17\r\n");
+    o.schreiben("woertlich\\name", "ja\r\n");
+    EXPECT_EQ(systempfad(o.ordner() + "\\neu\\RN.txt"), o.ordner() + "/neu/RN.txt");
+    EXPECT_EQ(systempfad(o.pfad("d\\e") + "\\RN.txt"), o.pfad("d\\e/RN.txt"));
+    EXPECT_EQ(systempfad(o.pfad("d\\e") + "\\neu.txt"), o.pfad("d\\e/neu.txt"));
+    EXPECT_EQ(systempfad(o.pfad("woertlich\\name")), o.pfad("woertlich\\name"));
+    EXPECT_TRUE(datei_vorhanden(Programmverzeichnis(o.pfad("d\\e")).pfad("\\RN.txt")));
+    EXPECT_FALSE(datei_vorhanden(o.ordner() + "\\fehlt"));
+}
+
+} // namespace
+} // namespace quittika
