@@ -64,7 +64,10 @@ FormWindow::~FormWindow() {
     if (waiting_ != nullptr) {
         waiting_->quit();
     }
-    desktop_.let_go(window_);
+    if (window_ != nullptr) {
+        window_->removeEventFilter(this);
+        desktop_.let_go(*window_);
+    }
     delete window_.data();
 }
 
@@ -81,7 +84,6 @@ QWidget* FormWindow::window() {
 
 void FormWindow::start() {
     QWidget& window = *window_;
-    window.setAttribute(Qt::WA_QuitOnClose, false);
     if (is_splash(window)) {
         window.setWindowFlags(Qt::SplashScreen | Qt::FramelessWindowHint);
     }
@@ -263,18 +265,21 @@ bool FormWindow::asked_to_close() {
     return closed;
 }
 
+bool FormWindow::escape() {
+    if (window_ == desktop_.main_window() || is_splash(*window_)) {
+        return false;
+    }
+    window_->close();
+    return true;
+}
+
 bool FormWindow::eventFilter(QObject* /*watched*/, QEvent* event) {
     switch (event->type()) {
     case QEvent::Close:
         event->setAccepted(asked_to_close());
         return true;
     case QEvent::KeyPress:
-        if (static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape &&
-            qobject_cast<QDialog*>(window_) != nullptr) {
-            window_->close();
-            return true;
-        }
-        return false;
+        return static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape && escape();
     case QEvent::Move:
     case QEvent::Resize:
         take_place();

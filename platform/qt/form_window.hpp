@@ -49,6 +49,8 @@ private:
     void bring_in_front_of(QWidget* parent, bool modal);
     void wait();
     bool asked_to_close();
+    /// Closes any window but the main one and the splash. Returns whether it is such a window.
+    bool escape();
     void take_place();
     void take_state();
 

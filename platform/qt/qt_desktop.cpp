@@ -86,7 +86,7 @@ void QtDesktop::later(std::function<void()> work) {
 
 void QtDesktop::end() {
     ended_ = true;
-    QCoreApplication::quit();
+    QCoreApplication::exit(); // unlike quit, this asks no window again
 }
 
 int QtDesktop::run(const std::function<void()>& start) {
@@ -114,10 +114,10 @@ void QtDesktop::built(QWidget& window) {
     }
 }
 
-void QtDesktop::let_go(QWidget* window) {
+void QtDesktop::let_go(QWidget& window) {
     for (const FormWindow* other : windows_) {
         QWidget* child = other->built();
-        if (window != nullptr && child != nullptr && child->parentWidget() == window) {
+        if (child != nullptr && child->parentWidget() == &window) {
             child->setParent(nullptr, child->windowFlags());
         }
     }

@@ -9,8 +9,6 @@
 #include <functional>
 #include <vector>
 
-
-
 namespace quittika {
 
 class FormWindow;
@@ -45,7 +43,7 @@ public:
     QWidget* active_window() const;
     void built(QWidget& window);
     /// Before `window` goes: what belongs to it stays.
-    void let_go(QWidget* window);
+    void let_go(QWidget& window);
     void window_closed();
 
 private:

@@ -175,6 +175,7 @@ TextLineView::TextLineView(TextBox& control, QLineEdit& widget) : TextView(contr
 }
 
 TextAreaView::TextAreaView(TextBox& control, QPlainTextEdit& widget) : TextView(control, widget) {
+    widget.setTabChangesFocus(true);
     connect(&widget, &QPlainTextEdit::textChanged, this, [this] { take_text(); });
     connect(&widget, &QPlainTextEdit::cursorPositionChanged, this, [this] { take_selection(); });
     connect(&widget, &QPlainTextEdit::selectionChanged, this, [this] { take_selection(); });

@@ -3,11 +3,14 @@
 #include <gtest/gtest.h>
 
 #include <QAction>
+#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDropEvent>
 #include <QImage>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMimeData>
 #include <QPlainTextEdit>
 #include <QRadioButton>
 #include <QScrollBar>
@@ -301,6 +304,23 @@ TEST(Events, MouseInTwips) {
     QTest::mouseRelease(&bound.widget("Picture"), Qt::RightButton, {}, QPoint(3, 1));
     EXPECT_EQ(seen, "down2,30,15 up2,45,15 ");
     EXPECT_EQ(bound.form.take_log(), "") << "the right button clicks nothing";
+}
+
+TEST(Events, DroppedTextGoesToTheHandlerAlone) {
+    Bound bound;
+    unbind(bound.form);
+    std::string dropped;
+    bound.form.Field.OLEDragDrop = [&](const std::string& text) { dropped = text; };
+    bind(bound.form, *bound.window);
+    QMimeData data;
+    data.setText("Frau Köhler");
+    QDragEnterEvent enter({1, 1}, Qt::CopyAction, &data, Qt::LeftButton, {});
+    QApplication::sendEvent(&bound.widget("Field"), &enter);
+    EXPECT_TRUE(enter.isAccepted());
+    QDropEvent drop({1, 1}, Qt::CopyAction, &data, Qt::LeftButton, {});
+    QApplication::sendEvent(&bound.widget("Field"), &drop);
+    EXPECT_EQ(dropped, "Frau Köhler");
+    EXPECT_EQ(bound.form.Field.Text(), "");
 }
 
 TEST(Pictures, KeepTheirProportionsAndMissingOnesAreEmpty) {

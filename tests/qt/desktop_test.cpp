@@ -152,6 +152,33 @@ TEST_F(DesktopTest, EscapedErrorIsShownAndTheProgramGoesOn) {
     EXPECT_TRUE(text.contains(fehlertext(6))) << text.toStdString();
 }
 
+TEST_F(DesktopTest, EndingAsksNoWindowAgain) {
+    int asked = 0;
+    form1.QueryUnload = [&](bool& cancel) {
+        ++asked;
+        cancel = true;
+    };
+    EXPECT_EQ(desktop.run([&] {
+        form1.Show();
+        desktop.later([&] { desktop.end(); });
+    }),
+              0);
+    EXPECT_EQ(asked, 0);
+}
+
+TEST_F(DesktopTest, EndReachesThroughAModalWindow) {
+    std::string order;
+    desktop.run([&] {
+        form1.Show();
+        desktop.later([&] {
+            options.Show(Modality::Modal);
+            order += "back ";
+        });
+        when_modal([&] { desktop.end(); });
+    });
+    EXPECT_EQ(order, "back ");
+}
+
 TEST_F(DesktopTest, LoopEndsWithTheProgramOrItsLastWindow) {
     EXPECT_EQ(desktop.run([&] { desktop.end(); }), 0) << "ended before it began";
     QtDesktop other;
