@@ -12,39 +12,46 @@ namespace {
 constexpr std::size_t kBreiteLeistung = 76;
 constexpr std::array<std::size_t, 6> kBreite{0, 3, 9, kBreiteLeistung, 6, 10};
 
-std::string zentriert(std::string_view text) {
+void zentriert_anfuegen(std::string& zeile, std::string_view text) {
     const std::size_t laenge = zeichenzahl(text);
     const std::size_t gerade = laenge + laenge % 2;
     const std::size_t rand = gerade < kBreiteLeistung ? (kBreiteLeistung - gerade) / 2 : 0;
-    std::string ergebnis;
-    ergebnis.reserve(text.size() + 1 + 2 * rand);
-    ergebnis.append(rand, ' ').append(text).append(rand + laenge % 2, ' ');
-    return ergebnis;
+    zeile.append(rand, ' ').append(text).append(rand + laenge % 2, ' ');
 }
 
-std::string rechts_in(std::string_view text, std::size_t breite) {
+void rechts_anfuegen(std::string& zeile, std::string_view text, std::size_t breite) {
     const std::size_t laenge = zeichenzahl(text);
-    std::string ergebnis(laenge < breite ? breite - laenge : 0, ' ');
-    return ergebnis.append(text);
+    zeile.append(laenge < breite ? breite - laenge : 0, ' ').append(text);
 }
 
 } // namespace
 
-std::string COMPRESSOR(int art, std::string_view text) {
+void COMPRESSOR_ANFUEGEN(std::string& zeile, int art, std::string_view text) {
     switch (art) {
-    case 1: {
-        const auto nummer = double_versuch(text);
-        return nummer ? format_zahl(*nummer, "000") : std::string(kBreite[1], ' ');
-    }
+    case 1:
+        if (const auto nummer = double_versuch(text)) {
+            zeile += format_zahl(*nummer, "000");
+        } else {
+            zeile.append(kBreite[1], ' ');
+        }
+        break;
     case 2:
     case 4:
     case 5:
-        return rechts_in(text, kBreite.at(static_cast<std::size_t>(art)));
+        rechts_anfuegen(zeile, text, kBreite.at(static_cast<std::size_t>(art)));
+        break;
     case 3:
-        return zentriert(text);
+        zentriert_anfuegen(zeile, text);
+        break;
     default:
-        return {};
+        break;
     }
+}
+
+std::string COMPRESSOR(int art, std::string_view text) {
+    std::string spalte;
+    COMPRESSOR_ANFUEGEN(spalte, art, text);
+    return spalte;
 }
 
 } // namespace quittika

@@ -17,11 +17,11 @@ std::string Darstellungszeile(const Form1& form1, int zeile) {
     constexpr std::size_t kUeblich = 3 + 9 + 76 + 6 + 10;
     std::string text;
     text.reserve(kUeblich + form1.List_Leistung.List(zeile).size());
-    text += COMPRESSOR(1, form1.List_pos.List(zeile));
-    text += COMPRESSOR(2, form1.List_Menge.List(zeile));
-    text += COMPRESSOR(3, form1.List_Leistung.List(zeile));
-    text += COMPRESSOR(4, form1.List_Preis.List(zeile));
-    text += COMPRESSOR(5, form1.List_Gesamtp.List(zeile));
+    COMPRESSOR_ANFUEGEN(text, 1, form1.List_pos.List(zeile));
+    COMPRESSOR_ANFUEGEN(text, 2, form1.List_Menge.List(zeile));
+    COMPRESSOR_ANFUEGEN(text, 3, form1.List_Leistung.List(zeile));
+    COMPRESSOR_ANFUEGEN(text, 4, form1.List_Preis.List(zeile));
+    COMPRESSOR_ANFUEGEN(text, 5, form1.List_Gesamtp.List(zeile));
     return text;
 }
 

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
+#include <cstring>
 #include <utility>
 
 namespace quittika {
@@ -140,32 +141,69 @@ std::string_view ersatz_fuer(char32_t c) {
     return c >= 0x0300 && c <= 0x036F ? "" : "?";
 }
 
-} // namespace
-
-std::string aus_ansi(std::string_view bytes) {
-    std::string text;
-    text.reserve(bytes.size() + bytes.size() / 8);
-    for (const char byte : bytes) {
-        const auto c = static_cast<unsigned char>(byte);
-        utf8_anhaengen(text, c >= 0x80 && c < 0xA0 ? kHoch[c - 0x80U] : c);
+/// Length of the run of ASCII characters at `anfang`: most text is nothing else, and is copied as it stands.
+std::size_t ascii_lauf(std::string_view text, std::size_t anfang) {
+    std::size_t i = anfang;
+    for (std::uint64_t acht = 0; i + sizeof acht <= text.size(); i += sizeof acht) {
+        std::memcpy(&acht, text.data() + i, sizeof acht);
+        if ((acht & 0x8080808080808080U) != 0) {
+            break;
+        }
     }
-    return text;
+    while (i < text.size() && static_cast<unsigned char>(text[i]) < 0x80) {
+        ++i;
+    }
+    return i - anfang;
 }
 
-Ansi nach_ansi(std::string_view text) {
-    Ansi ansi;
-    ansi.bytes.reserve(text.size());
-    for (std::size_t i = 0; i < text.size();) {
+} // namespace
+
+std::string_view aus_ansi(std::string_view bytes, std::string& puffer) {
+    std::size_t i = ascii_lauf(bytes, 0);
+    if (i == bytes.size()) {
+        return bytes;
+    }
+    puffer.assign(bytes.substr(0, i));
+    while (i < bytes.size()) {
+        const auto c = static_cast<unsigned char>(bytes[i++]);
+        utf8_anhaengen(puffer, c >= 0x80 && c < 0xA0 ? kHoch[c - 0x80U] : c);
+        const std::size_t lauf = ascii_lauf(bytes, i);
+        puffer.append(bytes.substr(i, lauf));
+        i += lauf;
+    }
+    return puffer;
+}
+
+std::string aus_ansi(std::string_view bytes) {
+    std::string puffer;
+    return std::string(aus_ansi(bytes, puffer));
+}
+
+std::size_t ansi_anhaengen(std::string& ziel, std::string_view text) {
+    const std::size_t anfang = ziel.size();
+    std::size_t ersetzt = 0;
+    std::size_t i = ascii_lauf(text, 0);
+    ziel.append(text.substr(0, i));
+    while (i < text.size()) {
         const auto [c, laenge] = utf8_zeichen(text, i);
         i += laenge;
         const int byte = byte_fuer(c);
         if (byte >= 0) {
-            ansi.bytes += static_cast<char>(byte);
-        } else if (!verbinden(ansi.bytes, c)) {
-            ansi.bytes += ersatz_fuer(c);
-            ++ansi.ersetzt;
+            ziel += static_cast<char>(byte);
+        } else if (ziel.size() == anfang || !verbinden(ziel, c)) {
+            ziel += ersatz_fuer(c);
+            ++ersetzt;
         }
+        const std::size_t lauf = ascii_lauf(text, i);
+        ziel.append(text.substr(i, lauf));
+        i += lauf;
     }
+    return ersetzt;
+}
+
+Ansi nach_ansi(std::string_view text) {
+    Ansi ansi;
+    ansi.ersetzt = ansi_anhaengen(ansi.bytes, text);
     return ansi;
 }
 

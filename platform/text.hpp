@@ -43,7 +43,12 @@ struct Ansi {
     std::size_t ersetzt = 0; ///< characters that the code page lacks
 };
 
+/// The text of `bytes`: a view of them where they are plain ASCII, as most are, else of `puffer`.
+std::string_view aus_ansi(std::string_view bytes, std::string& puffer);
+
 /// UTF-8 to Windows-1252. What the code page lacks becomes its closest letter, else "?".
 Ansi nach_ansi(std::string_view text);
+/// The same behind what stands in `ziel`; returns the count of characters that the code page lacks.
+std::size_t ansi_anhaengen(std::string& ziel, std::string_view text);
 
 } // namespace quittika

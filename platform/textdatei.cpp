@@ -102,36 +102,6 @@ private:
     int nummer_;
 };
 
-std::string alles_lesen(const std::string& pfad) {
-    const std::string ort = ort_von(pfad);
-    const Datei datei(ort, O_RDONLY);
-    struct stat auskunft {};
-    if (fstat(datei.nummer(), &auskunft) == 0 && S_ISDIR(auskunft.st_mode)) {
-        scheitern(EISDIR, ort);
-    }
-    std::string inhalt;
-    constexpr std::size_t kStueck = 65536;
-    inhalt.resize(S_ISREG(auskunft.st_mode) ? static_cast<std::size_t>(auskunft.st_size) + 1 : kStueck);
-    std::size_t laenge = 0;
-    while (true) {
-        if (laenge == inhalt.size()) {
-            inhalt.resize(inhalt.size() * 2);
-        }
-        const ssize_t gelesen = read(datei.nummer(), inhalt.data() + laenge, inhalt.size() - laenge);
-        if (gelesen < 0 && errno == EINTR) {
-            continue;
-        }
-        if (gelesen < 0) {
-            scheitern(errno, ort);
-        }
-        if (gelesen == 0) {
-            break;
-        }
-        laenge += static_cast<std::size_t>(gelesen);
-    }
-    inhalt.resize(laenge);
-    return inhalt;
-}
 
 /// Calls `weiter` with the bytes of each line until it answers false.
 template <class Weiter> void zeilen_teilen(std::string_view inhalt, Weiter weiter) {
@@ -237,34 +207,65 @@ void anhaengen(const std::string& ort, const std::string& bytes) {
 
 } // namespace
 
-std::vector<std::string> zeilen_aus(std::string_view bytes, std::size_t hoechstens) {
+std::string bytes_lesen(const std::string& pfad) {
+    const std::string ort = ort_von(pfad);
+    const Datei datei(ort, O_RDONLY);
+    struct stat auskunft {};
+    if (fstat(datei.nummer(), &auskunft) == 0 && S_ISDIR(auskunft.st_mode)) {
+        scheitern(EISDIR, ort);
+    }
+    std::string inhalt;
+    constexpr std::size_t kStueck = 65536;
+    inhalt.resize(S_ISREG(auskunft.st_mode) ? static_cast<std::size_t>(auskunft.st_size) + 1 : kStueck);
+    std::size_t laenge = 0;
+    while (true) {
+        if (laenge == inhalt.size()) {
+            inhalt.resize(inhalt.size() * 2);
+        }
+        const ssize_t gelesen = read(datei.nummer(), inhalt.data() + laenge, inhalt.size() - laenge);
+        if (gelesen < 0 && errno == EINTR) {
+            continue;
+        }
+        if (gelesen < 0) {
+            scheitern(errno, ort);
+        }
+        if (gelesen == 0) {
+            break;
+        }
+        laenge += static_cast<std::size_t>(gelesen);
+    }
+    inhalt.resize(laenge);
+    return inhalt;
+}
+
+void zeilen_durchgehen(std::string_view bytes, const std::function<bool(std::string_view zeile)>& weiter) {
+    std::string puffer;
+    zeilen_teilen(bytes, [&](std::string_view zeile) { return weiter(aus_ansi(zeile, puffer)); });
+}
+
+std::vector<std::string> lesen(const std::string& pfad, std::size_t hoechstens) {
     std::vector<std::string> zeilen;
-    zeilen_teilen(bytes, [&](std::string_view zeile) {
+    zeilen_durchgehen(bytes_lesen(pfad), [&](std::string_view zeile) {
         if (zeilen.size() == hoechstens) {
             return false;
         }
-        zeilen.push_back(aus_ansi(zeile));
+        zeilen.emplace_back(zeile);
         return true;
     });
     return zeilen;
 }
 
-std::vector<std::string> lesen(const std::string& pfad, std::size_t hoechstens) {
-    return zeilen_aus(alles_lesen(pfad), hoechstens);
-}
-
-void lesen(const std::string& pfad, const std::function<bool(std::string_view zeile)>& weiter) {
-    const std::string inhalt = alles_lesen(pfad);
-    zeilen_teilen(inhalt, [&](std::string_view zeile) { return weiter(aus_ansi(zeile)); });
-}
-
 std::size_t schreiben(const std::string& pfad, const std::vector<std::string>& zeilen) {
+    std::size_t laenge = 0;
+    for (const std::string& zeile : zeilen) {
+        laenge += zeile.size() + 2;
+    }
     std::string bytes;
+    bytes.reserve(laenge);
     std::size_t ersetzt = 0;
     for (const std::string& zeile : zeilen) {
-        const Ansi ansi = nach_ansi(zeile);
-        bytes.append(ansi.bytes).append("\r\n");
-        ersetzt += ansi.ersetzt;
+        ersetzt += ansi_anhaengen(bytes, zeile);
+        bytes += "\r\n";
     }
     bytes_schreiben(pfad, bytes);
     return ersetzt;

@@ -14,16 +14,15 @@ namespace quittika {
 // Errors are `Laufzeitfehler` with the path: 53 file, 76 folder missing, 70 not permitted, 75 no file,
 // 52 bad name, 61 disk full, 57 anything else.
 
-/// At most `hoechstens` lines of a file's content.
-std::vector<std::string> zeilen_aus(std::string_view bytes,
-                                    std::size_t hoechstens = std::numeric_limits<std::size_t>::max());
+/// The bytes of a file.
+std::string bytes_lesen(const std::string& pfad);
+
+/// Hands over line after line of a file's bytes until `weiter` answers false.
+void zeilen_durchgehen(std::string_view bytes, const std::function<bool(std::string_view zeile)>& weiter);
 
 /// At most `hoechstens` lines of a file.
 std::vector<std::string> lesen(const std::string& pfad,
                                std::size_t hoechstens = std::numeric_limits<std::size_t>::max());
-
-/// Hands over line after line until `weiter` answers false.
-void lesen(const std::string& pfad, const std::function<bool(std::string_view zeile)>& weiter);
 
 /// Replaces a file by these lines. They are written beside it first and take its place when they are
 /// completely on disk, so that the old content is there until then. Returns how many characters the code page

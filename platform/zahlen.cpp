@@ -154,9 +154,30 @@ struct Dezimal {
     bool negativ = false;
 };
 
+/// The digits of a whole number of at most 15: counts and most amounts, much faster than the general way.
+Dezimal ganze_zerlegt(double wert) {
+    Dezimal d;
+    d.negativ = wert < 0;
+    const auto ende = std::to_chars(d.ziffern.data(), d.ziffern.data() + kStellen,
+                                    static_cast<std::int64_t>(std::fabs(wert)))
+                          .ptr;
+    d.anzahl = static_cast<int>(ende - d.ziffern.data());
+    d.exponent = d.anzahl;
+    while (d.anzahl > 0 && d.ziffern[static_cast<std::size_t>(d.anzahl - 1)] == '0') {
+        --d.anzahl;
+    }
+    if (d.anzahl == 0) {
+        d.exponent = 0;
+    }
+    return d;
+}
+
 Dezimal zerlegt(double wert) {
     if (!std::isfinite(wert)) {
         throw Laufzeitfehler(fehler::kUeberlauf);
+    }
+    if (std::fabs(wert) < 1e15 && wert == std::trunc(wert)) {
+        return ganze_zerlegt(wert);
     }
     Dezimal d;
     d.negativ = std::signbit(wert);

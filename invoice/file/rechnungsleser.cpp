@@ -36,20 +36,28 @@ Rechnungsleser::Rechnungsleser(Form1& form1, PROGRAMMEINSTELLUNG& einstellung, R
     : form1_(form1), einstellung_(einstellung), zustand_(zustand), rechnung_(rechnung), dialogs_(dialogs),
       felder_(DATEIFELDER(form1)) {}
 
-void Rechnungsleser::DateiEinlesen(const std::string& pfad) { ZeilenUebernehmen(lesen(pfad, kHoechstzeilen)); }
+void Rechnungsleser::DateiEinlesen(const std::string& pfad) { InhaltUebernehmen(bytes_lesen(pfad)); }
 
-void Rechnungsleser::ZeilenUebernehmen(const std::vector<std::string>& zeilen) {
+void Rechnungsleser::InhaltUebernehmen(std::string_view bytes) {
     rechnung_.RechnungLeeren();
     DatenLesen.leeren();
-    Dateiformat = zeilen.empty() ? std::string() : zeilen.front();
+    Dateiformat.clear();
+    int gelesen = 0;
     int nummer = 0;
-    for (const std::string& zeile : zeilen) {
+    zeilen_durchgehen(bytes, [&](std::string_view zeile) {
+        if (gelesen == kHoechstzeilen) {
+            return false;
+        }
+        if (gelesen++ == 0) {
+            Dateiformat = zeile;
+        }
         if (beginnt_mit(zeile, kListenmarke)) {
             PositionUebernehmen(zeile);
         } else if (Dateiformat == kDateikennung) {
-            DatenLesen.setzen(nummer++, zeile);
+            DatenLesen.setzen(nummer++, std::string(zeile));
         }
-    }
+        return true;
+    });
 }
 
 void Rechnungsleser::PositionUebernehmen(std::string_view zeile) {

@@ -23,8 +23,8 @@ public:
     /// A file that cannot be read raises its `Laufzeitfehler` and leaves the window as it was.
     void DateiEinlesen(const std::string& pfad);
 
-    /// Takes lines that were read already.
-    void ZeilenUebernehmen(const std::vector<std::string>& zeilen);
+    /// The same with the bytes of a file.
+    void InhaltUebernehmen(std::string_view bytes);
 
     /// Moves `DatenLesen` to the window. Says so and answers false when the file is no invoice.
     bool DateiDatenAnzeigen();

@@ -1,4 +1,3 @@
-#include "platform/textdatei.hpp"
 #include "platform/zahlen.hpp"
 #include "tests/pruefstand.hpp"
 
@@ -10,7 +9,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t anz
     using namespace quittika;
     static Pruefstand p;
     p.dialoge.boxen.clear();
-    p.leser.ZeilenUebernehmen(zeilen_aus({reinterpret_cast<const char*>(bytes), anzahl}, 32001));
+    p.leser.InhaltUebernehmen({reinterpret_cast<const char*>(bytes), anzahl});
     p.leser.DateiDatenAnzeigen();
     p.summen.jetztberechnen_List();
     p.rechnung.DarstellungAufbauen();

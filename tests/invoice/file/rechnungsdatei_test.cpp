@@ -117,7 +117,11 @@ TEST(Rechnungsdatei, AlteUndUngewoehnlicheDateien) {
     Pruefstand p;
     const auto laden = [&p](const std::vector<std::string>& zeilen) {
         p.dialoge.boxen.clear();
-        p.leser.ZeilenUebernehmen(zeilen);
+        std::string bytes;
+        for (const std::string& zeile : zeilen) {
+            bytes += zeile + "\r\n";
+        }
+        p.leser.InhaltUebernehmen(bytes);
         return p.leser.DateiDatenAnzeigen();
     };
     std::vector<std::string> kurz(79);
