@@ -1,0 +1,26 @@
+#pragma once
+
+#include "platform/qt/print_painter.hpp"
+
+#include <QBuffer>
+#include <QPdfWriter>
+
+namespace quittika {
+
+/// Draws a PDF file, A4 portrait. The file appears, or is replaced, whole at the end of the document.
+class QtPdfDevice final : public PainterDevice {
+public:
+    /// Throws `Laufzeitfehler` 482 when no document can be begun.
+    QtPdfDevice(const QtFontMetrics& metrics, QString path, const std::string& title);
+    ~QtPdfDevice() override;
+
+    void new_page() override;
+    void end_document() override;
+
+private:
+    QString path_;
+    QBuffer content_;
+    QPdfWriter writer_{&content_};
+};
+
+} // namespace quittika

@@ -1,0 +1,62 @@
+#include "platform/qt/print_printer.hpp"
+
+#include "platform/laufzeitfehler.hpp"
+#include "platform/qt/print_queue.hpp"
+
+#include <QMarginsF>
+#include <QPageLayout>
+#include <QPageSize>
+#include <QPrinter>
+
+namespace quittika {
+
+namespace {
+
+constexpr int kResolution = 1200; ///< dots per inch
+
+bool prints_to_file(const QPrinter& printer) {
+    return printer.outputFormat() == QPrinter::PdfFormat || !printer.outputFileName().isEmpty();
+}
+
+} // namespace
+
+QtPrinterDevice::QtPrinterDevice(const QtFontMetrics& metrics, QPrinter& printer, const std::string& title)
+    : PainterDevice(metrics), printer_(printer) {
+    if (!prints_to_file(printer_) && !queue_takes_jobs(printer_.printerName())) {
+        throw Laufzeitfehler(482);
+    }
+    printer_.setResolution(kResolution);
+    printer_.setPageSize(QPageSize(QPageSize::A4));
+    printer_.setPageOrientation(QPageLayout::Portrait);
+    printer_.setFullPage(true);
+    printer_.setPageMargins(QMarginsF());
+    // The program prints each copy as a job of its own.
+    printer_.setCopyCount(1);
+    printer_.setDocName(QString::fromStdString(title));
+    printer_.setCreator(QStringLiteral("Quittika 2008"));
+    if (!begin(printer_, printer_.resolution() / 25.4)) {
+        throw Laufzeitfehler(482);
+    }
+}
+
+QtPrinterDevice::~QtPrinterDevice() {
+    if (!ended_) {
+        printer_.abort();
+        end();
+    }
+}
+
+void QtPrinterDevice::new_page() {
+    if (!printer_.newPage()) {
+        throw Laufzeitfehler(482);
+    }
+}
+
+void QtPrinterDevice::end_document() {
+    ended_ = true;
+    if (!end() || printer_.printerState() == QPrinter::Error) {
+        throw Laufzeitfehler(482);
+    }
+}
+
+} // namespace quittika

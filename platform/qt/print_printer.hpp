@@ -1,0 +1,24 @@
+#pragma once
+
+#include "platform/qt/print_painter.hpp"
+
+class QPrinter;
+
+namespace quittika {
+
+/// Draws one job on a printer, A4 portrait, over the whole sheet.
+class QtPrinterDevice final : public PainterDevice {
+public:
+    /// `printer` outlives the job. Throws `Laufzeitfehler` 482 when it is unknown or takes no job.
+    QtPrinterDevice(const QtFontMetrics& metrics, QPrinter& printer, const std::string& title);
+    ~QtPrinterDevice() override;
+
+    void new_page() override;
+    void end_document() override;
+
+private:
+    QPrinter& printer_;
+    bool ended_ = false;
+};
+
+} // namespace quittika

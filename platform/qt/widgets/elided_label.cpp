@@ -1,0 +1,44 @@
+#include "platform/qt/widgets/elided_label.hpp"
+
+#include <QHelpEvent>
+#include <QStyle>
+#include <QStylePainter>
+#include <QToolTip>
+
+namespace quittika {
+
+ElidedLabel::ElidedLabel(QWidget *parent) : QLabel(parent) {
+    setTextFormat(Qt::PlainText);
+}
+
+void ElidedLabel::setElideMode(Qt::TextElideMode mode) {
+    mode_ = mode;
+    update();
+}
+
+QSize ElidedLabel::minimumSizeHint() const {
+    return {fontMetrics().horizontalAdvance(QStringLiteral("...")) + 2 * margin(),
+            QLabel::minimumSizeHint().height()};
+}
+
+QString ElidedLabel::shown_text() const {
+    return fontMetrics().elidedText(text(), mode_, contentsRect().width() - 2 * margin());
+}
+
+void ElidedLabel::paintEvent(QPaintEvent * /*event*/) {
+    QStylePainter painter(this);
+    const QRect box = contentsRect().adjusted(margin(), margin(), -margin(), -margin());
+    const auto place = QStyle::visualAlignment(layoutDirection(), alignment());
+    painter.drawItemText(box, static_cast<int>(place), palette(), isEnabled(), shown_text(),
+                         foregroundRole());
+}
+
+bool ElidedLabel::event(QEvent *event) {
+    if (event->type() == QEvent::ToolTip && toolTip().isEmpty() && shown_text() != text()) {
+        QToolTip::showText(static_cast<QHelpEvent *>(event)->globalPos(), text(), this);
+        return true;
+    }
+    return QLabel::event(event);
+}
+
+} // namespace quittika

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QWidget>
+
+class QGridLayout;
+
+namespace quittika {
+
+/// The four pages of the position grid, nine rows each: tick, quantity, service, price, total and a button,
+/// named "Check_K1(0)" to "Command_PLUS_9(3)" in the frames "Frame_seite1(0)" to "Frame_seite1(3)".
+class GridPages : public QWidget {
+    Q_OBJECT
+public:
+    explicit GridPages(QWidget *parent = nullptr);
+
+private:
+    QWidget *make_page(int page);
+    void add_row(QGridLayout &grid, QWidget *frame, int page, int row);
+};
+
+} // namespace quittika

@@ -1,0 +1,60 @@
+#include "platform/qt/widgets/tile_button.hpp"
+
+#include "platform/qt/widgets/theme.hpp"
+
+#include <QPainter>
+
+namespace quittika {
+
+namespace {
+
+constexpr int kPadding = 4;
+constexpr double kRadius = 4.0;
+
+} // namespace
+
+TileButton::TileButton(QWidget *parent) : QToolButton(parent) {
+    setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
+    setIconSize({24, 24});
+    setFocusPolicy(Qt::TabFocus);
+    setAttribute(Qt::WA_Hover);
+}
+
+QSize TileButton::sizeHint() const {
+    const QSize label = fontMetrics().size(Qt::TextShowMnemonic, text());
+    return {std::max(label.width(), iconSize().width()) + 2 * kPadding,
+            iconSize().height() + label.height() + 2 * kPadding};
+}
+
+QColor TileButton::ground() const {
+    const bool own = testAttribute(Qt::WA_SetPalette);
+    const QColor text = palette().color(QPalette::WindowText);
+    const QColor base = own ? palette().color(QPalette::Button) : QColor(Qt::transparent);
+    const double shade = isDown() ? 0.22 : underMouse() && isEnabled() ? 0.10 : 0.0;
+    if (shade == 0.0) {
+        return base;
+    }
+    return own ? theme::mix(text, base, shade)
+               : QColor(text.red(), text.green(), text.blue(), qRound(shade * 255));
+}
+
+void TileButton::paintEvent(QPaintEvent * /*event*/) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QColor fill = ground();
+    painter.setPen(hasFocus() ? QPen(theme::accent(), 1.4) : QPen(Qt::NoPen));
+    painter.setBrush(fill);
+    painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), kRadius, kRadius);
+
+    const QRect content = rect().adjusted(0, kPadding, 0, -kPadding);
+    const QRect picture((width() - iconSize().width()) / 2, content.top(), iconSize().width(),
+                        iconSize().height());
+    icon().paint(&painter, picture, Qt::AlignCenter, isEnabled() ? QIcon::Normal : QIcon::Disabled);
+
+    const QPalette colors = fill.alpha() == 255 ? theme::on_background(palette(), fill) : palette();
+    painter.setPen(colors.color(isEnabled() ? QPalette::Active : QPalette::Disabled, QPalette::WindowText));
+    const QRect line = content.adjusted(0, iconSize().height(), 0, 0);
+    painter.drawText(line, Qt::AlignCenter | Qt::TextShowMnemonic, text());
+}
+
+} // namespace quittika

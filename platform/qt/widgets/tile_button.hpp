@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QToolButton>
+
+namespace quittika {
+
+/// A flat button with its icon over its text. Only a palette of its own gives it a ground
+/// (its Button colour); the text stays readable on any.
+class TileButton : public QToolButton {
+    Q_OBJECT
+public:
+    explicit TileButton(QWidget *parent = nullptr);
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override { return sizeHint(); }
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    QColor ground() const;
+};
+
+} // namespace quittika

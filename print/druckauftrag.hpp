@@ -1,0 +1,53 @@
+#pragma once
+
+#include "invoice/form1.hpp"
+#include "platform/desktop.hpp"
+#include "platform/dialogs.hpp"
+#include "platform/printing.hpp"
+#include "print/blatt.hpp"
+#include "print/form_lieferschein_opt.hpp"
+#include "print/rechnungsdruck.hpp"
+#include "settings/frm_einstellungen.hpp"
+#include "settings/programmeinstellung.hpp"
+
+#include <functional>
+#include <string>
+
+namespace quittika {
+
+/// Prints the document in hand, from the button to the end of the last copy.
+class Druckauftrag {
+public:
+    /// `jetztberechnen_List` brings the result fields of the main window up to date.
+    Druckauftrag(Form1& form1, const frm_einstellungen& einstellungen, const PROGRAMMEINSTELLUNG& programm,
+                 Dialogs& dialogs, Printing& printing, Desktop& desktop, std::function<void()> jetztberechnen_List);
+
+    /// Asks for the printer and prints the copies, each a job of its own. Says in panel 2 of the
+    /// status bar how it ended; throws only what the recalculation throws.
+    void Command_printform_Click();
+
+    /// For a delivery note asks what to print on it, in the modal dialog.
+    void check_LIEFERSCHEIN_PRINT();
+
+    /// The answers of that dialog; they stay until it is shown again.
+    const Form_Lieferschein_opt& lieferschein_opt() const { return lieferschein_opt_; }
+    /// The page loop that the preview shares.
+    const Rechnungsdruck& rechnungsdruck() const { return rechnungsdruck_; }
+
+private:
+    void status(const std::string& text) { form1_.StatusBar1[2].Caption = text; }
+    void drucke(Druckjustierung just);
+    void drucke_exemplar(const std::string& titel, Druckjustierung just);
+    std::string auftragstitel() const;
+
+    Form1& form1_;
+    const frm_einstellungen& einstellungen_;
+    Dialogs& dialogs_;
+    Printing& printing_;
+    Desktop& desktop_;
+    std::function<void()> jetztberechnen_List_;
+    Form_Lieferschein_opt lieferschein_opt_;
+    Rechnungsdruck rechnungsdruck_;
+};
+
+} // namespace quittika

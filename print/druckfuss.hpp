@@ -1,0 +1,31 @@
+#pragma once
+
+#include "invoice/form1.hpp"
+#include "print/blatt.hpp"
+#include "settings/frm_einstellungen.hpp"
+#include "settings/programmeinstellung.hpp"
+
+namespace quittika {
+
+/// What stands below the positions and totals of a page.
+class Druckfuss {
+public:
+    Druckfuss(const Form1& form1, const frm_einstellungen& einstellungen, const PROGRAMMEINSTELLUNG& programm)
+        : form1_(form1), einstellungen_(einstellungen), programm_(programm) {}
+
+    /// The four lines of remarks, some lines below the cursor: the fewer, the more lines the shipping took.
+    void DRUCKE_BEMERKUNGEN(Blatt& blatt) const;
+    /// Page number, rule and bank lines, at their fixed places.
+    void DRUCKE_FUSSZEILE(Blatt& blatt, int seite, int seiten) const;
+
+private:
+    double grundlinie() const;
+    void bankvorlage(Blatt& blatt, double y) const;
+    void freie_zeilen(Blatt& blatt, double y) const;
+
+    const Form1& form1_;
+    const frm_einstellungen& einstellungen_;
+    const PROGRAMMEINSTELLUNG& programm_;
+};
+
+} // namespace quittika

@@ -1,0 +1,117 @@
+#include "print/druckkopf.hpp"
+
+#include "print/firmenkopf.hpp"
+
+#include <cmath>
+
+namespace quittika {
+
+namespace {
+
+constexpr double kBlattbreite = 210;
+constexpr double kBlatthoehe = 296.1;
+constexpr Color kFarbeFaltmarken = color::rgb(120, 120, 120);
+constexpr double kSchriftKopf = 11;
+constexpr double kSchriftTabelle = 9;
+constexpr int kLeerzeilenVorKundennr = 2;
+constexpr double kTabellenbeginn = 133; ///< the first rule follows 2 mm below
+
+} // namespace
+
+void Druckkopf::DRUCKE_WASSERZEICHEN(Blatt& blatt) const {
+    if (einstellungen_.Check_mit_Wasserz.ticked()) {
+        blatt.surface.PaintPicture(einstellungen_.Picture_wasserz.Picture(), 0, 0, blatt.X(kBlattbreite),
+                                   blatt.Y(kBlatthoehe));
+    }
+}
+
+void Druckkopf::DRUCKE_FALTMARKEN(Blatt& blatt) const {
+    if (einstellungen_.Check_Faltmarke_MITDRUCKEN.ticked()) {
+        for (const double y : {99.0, 198.0}) {
+            // They belong to the sheet's edge, whatever the adjustment.
+            blatt.surface.Line(0, blatt.Y(y), 2, blatt.Y(y), kFarbeFaltmarken);
+        }
+    }
+}
+
+void Druckkopf::kopfbeginn(Blatt& blatt) const {
+    blatt.surface.FontName = programm_.DRUCKERSCHRIFT;
+    DRUCKE_WASSERZEICHEN(blatt);
+    DRUCKE_FALTMARKEN(blatt);
+    blatt.gehe_zu(12, 0);
+    blatt.schrift(kSchriftKopf, false);
+    blatt.surface.ForeColor = color::kBlack;
+}
+
+void Druckkopf::firmenkopf(Blatt& blatt) const {
+    LAYOUT_FIRMENKOPF(blatt, einstellungen_, programm_.FARBE_FIRMENDATEN, LAYOUT_GEWAEHLT(einstellungen_));
+}
+
+void Druckkopf::kundenblock(Blatt& blatt) const {
+    PrintSurface& surface = blatt.surface;
+    surface.FontBold = false;
+    surface.CurrentY = blatt.Y(55);
+    for (const TextBox* zeile :
+         {&form1_.Text_Kunde_1, &form1_.Text_Kunde_2, &form1_.Text_Kunde_3, &form1_.Text_Kunde_4}) {
+        const bool weglassen = zeile == &form1_.Text_Kunde_4 && form1_.Check_tele_nichtdrucken.ticked();
+        surface.CurrentX = blatt.X(29);
+        surface.Print(weglassen ? std::string() : zeile->Text());
+    }
+    blatt.leerzeilen(kLeerzeilenVorKundennr);
+    surface.CurrentX = blatt.X(29);
+    surface.FontBold = true;
+    surface.ForeColor = programm_.FARBE_KUNDENNR;
+    surface.Print(form1_.Text_KundennrK.Text());
+    surface.FontBold = false;
+}
+
+void Druckkopf::werbespruch(Blatt& blatt) const {
+    blatt.schrift(programm_.GROESSE_WERBUNG, true);
+    blatt.surface.ForeColor = programm_.FARBE_WERBESPRUCH;
+    blatt.gehe_zu(12, 105);
+    blatt.surface.Print(einstellungen_.Text_Werbung.Text());
+    blatt.surface.ForeColor = color::kBlack;
+}
+
+void Druckkopf::titel(Blatt& blatt) const {
+    blatt.schrift(programm_.GROESSE_RECHNUNG, true);
+    blatt.surface.CurrentX = blatt.X(12);
+    blatt.surface.Print(form1_.Text_rechnung.Text() + " " + form1_.Text_RNnr.Text());
+    blatt.schrift(kSchriftTabelle, false);
+}
+
+void Druckkopf::DRUCKE_KOPF_VOLL(Blatt& blatt) const {
+    kopfbeginn(blatt);
+    firmenkopf(blatt);
+    blatt.gehe_zu(172, 123);
+    blatt.surface.Print(form1_.Text_Datum.Text());
+    kundenblock(blatt);
+    werbespruch(blatt);
+    blatt.surface.CurrentY = blatt.Y(125);
+    titel(blatt);
+    const double frei = blatt.Y(kTabellenbeginn) - blatt.surface.CurrentY;
+    blatt.leerzeilen(static_cast<int>(std::lround(frei / blatt.surface.TextHeight())));
+}
+
+void Druckkopf::datum_und_titel(Blatt& blatt) const {
+    blatt.surface.CurrentX = blatt.X(172);
+    blatt.surface.Print(form1_.Text_Datum.Text());
+    // The adjustment counts twice here: documents laid out by it rely on the place.
+    blatt.surface.CurrentY += blatt.just.Yjust;
+    titel(blatt);
+}
+
+void Druckkopf::DRUCKE_KOPF_LOGO(Blatt& blatt) const {
+    kopfbeginn(blatt);
+    firmenkopf(blatt);
+    blatt.surface.CurrentY += blatt.just.Yjust + 12;
+    datum_und_titel(blatt);
+}
+
+void Druckkopf::DRUCKE_KOPF_KURZ(Blatt& blatt) const {
+    kopfbeginn(blatt);
+    blatt.surface.CurrentY = blatt.Y(30);
+    datum_und_titel(blatt);
+}
+
+} // namespace quittika

@@ -1,0 +1,129 @@
+#include "print/drucktabelle.hpp"
+
+#include "platform/zahlen.hpp"
+
+#include <cmath>
+
+namespace quittika {
+
+namespace {
+
+constexpr double kPositionsnummer = 20;      ///< right edge of the position number
+constexpr double kVersatz = 3;               ///< quantities and headings stand right of their column by it
+constexpr double kLinks = 12;                ///< left end of the rules
+constexpr double kRechts = 188;              ///< right end of the rules
+constexpr double kRechtsUnterKopf = 200;     ///< right end of the rule below the headings
+constexpr double kLinksZwischensumme = 112;  ///< left end of the rule below the subtotal
+constexpr double kAbstand = 2;               ///< above and below a rule
+
+Spalten spalten_fuer(bool positionsnummern, const Druckoptionen& optionen) {
+    return positionsnummern ? Spalten{32, 40, 147, optionen.x_gesamt} : Spalten{26, 33, 141, 178};
+}
+
+/// A rule at the cursor, on a whole millimetre, that falls by `gefaelle` mm; the cursor passes it.
+void linie(Blatt& blatt, double von, double bis, Color farbe, double gefaelle = 0) {
+    blatt.surface.CurrentY += kAbstand;
+    const double y = std::nearbyint(blatt.surface.CurrentY);
+    blatt.surface.Line(blatt.X(von), y, blatt.X(bis), y + gefaelle, farbe);
+    blatt.surface.CurrentY += kAbstand;
+}
+
+} // namespace
+
+bool IST_LIEFERSCHEIN(const Form1& form1) {
+    return form1.Option_LIEFERSCHEIN.Value() || form1.Option_LIEFERSCHEIN_KOPIE.Value();
+}
+
+void SUMMENZEILE(Blatt& blatt, std::string_view text, double x_gesamt) {
+    DRUCKTEXT_RECHTS(blatt, text, x_gesamt, kUnveraendert);
+    blatt.surface.Print(" ");
+}
+
+Drucktabelle::Drucktabelle(const Form1& form1, const frm_einstellungen& einstellungen,
+                           const PROGRAMMEINSTELLUNG& programm, const Druckoptionen& optionen)
+    : form1_(form1), einstellungen_(einstellungen), programm_(programm),
+      spalten_(spalten_fuer(einstellungen.Check_Positionendruck.ticked(), optionen)),
+      preise_(!(optionen.lieferschein_ohne_preise && IST_LIEFERSCHEIN(form1))) {}
+
+void Drucktabelle::DRUCKE_POSITIONEN(Blatt& blatt, Zeilenbereich zeilen) const {
+    linie(blatt, kLinks, kRechts, programm_.FARBE_LINIEN, 1);
+    ueberschriften(blatt);
+    linie(blatt, kLinks, kRechtsUnterKopf, programm_.FARBE_LINIEN);
+    for (int index = zeilen.von; index <= zeilen.bis; ++index) {
+        zeile(blatt, index);
+    }
+    linie(blatt, kLinks, kRechts, programm_.FARBE_LINIEN);
+}
+
+void Drucktabelle::ueberschriften(Blatt& blatt) const {
+    if (einstellungen_.Check_Positionendruck.ticked()) {
+        DRUCKTEXT_RECHTS(blatt, form1_.Label_Pos.Caption(), kPositionsnummer, kUnveraendert);
+    }
+    DRUCKTEXT_RECHTS(blatt, form1_.Label_Menge.Caption(), spalten_.X_Menge + kVersatz, kUnveraendert);
+    DRUCKTEXT_LINKS(blatt, form1_.Label_Leistung.Caption(), spalten_.X_Leistung, kUnveraendert);
+    if (preise_) {
+        DRUCKTEXT_RECHTS(blatt, form1_.Label_preis.Caption(), spalten_.X_Einzelpreis + kVersatz, kUnveraendert);
+        DRUCKTEXT_RECHTS(blatt, form1_.Label_gesamtp.Caption(), spalten_.X_Gesamt + kVersatz, kUnveraendert);
+    }
+    blatt.surface.Print(" ");
+}
+
+void Drucktabelle::zeile(Blatt& blatt, int index) const {
+    const std::string& art = form1_.List_K.List(index);
+    if (art == "-") {
+        position(blatt, index);
+    } else if (art == "K") {
+        DRUCKTEXT_LINKS(blatt, form1_.List_Leistung.List(index), spalten_.X_Leistung, kUnveraendert);
+        blatt.surface.Print(" ");
+    }
+}
+
+void Drucktabelle::position(Blatt& blatt, int index) const {
+    const std::string& menge = form1_.List_Menge.List(index);
+    if (double_versuch(menge).value_or(0) == 0) {
+        return;
+    }
+    if (einstellungen_.Check_Positionendruck.ticked()) {
+        const std::string& nummer = form1_.List_pos.List(index);
+        const auto wert = double_versuch(nummer);
+        DRUCKTEXT_RECHTS(blatt, wert ? format_zahl(*wert, "000") : nummer, kPositionsnummer, kUnveraendert);
+    }
+    DRUCKTEXT_RECHTS(blatt, menge, spalten_.X_Menge + kVersatz, kUnveraendert);
+    DRUCKTEXT_LINKS(blatt, form1_.List_Leistung.List(index), spalten_.X_Leistung, kUnveraendert);
+    if (preise_) {
+        DRUCKTEXT_RECHTS(blatt, form1_.List_Preis.List(index), spalten_.X_Einzelpreis, kUnveraendert);
+        DRUCKTEXT_RECHTS(blatt, form1_.List_Gesamtp.List(index), spalten_.X_Gesamt, kUnveraendert);
+    }
+    blatt.surface.Print(" ");
+}
+
+void Drucktabelle::DRUCKE_UEBERTRAG(Blatt& blatt, const std::string& uebertrag) const {
+    SUMMENZEILE(blatt, "Übertrag:   " + uebertrag, spalten_.X_Gesamt);
+    linie(blatt, kLinks, kRechts, programm_.FARBE_LINIEN);
+}
+
+std::string Drucktabelle::DRUCKE_ZWISCHENSUMME(Blatt& blatt, Zeilenbereich zeilen,
+                                               const std::string& uebertrag) const {
+    std::string summe = ZWISCHENSUMME(zeilen, uebertrag);
+    SUMMENZEILE(blatt, "Zwischensumme:    " + summe, spalten_.X_Gesamt);
+    linie(blatt, kLinksZwischensumme, kRechts, programm_.FARBE_LINIEN);
+    return summe;
+}
+
+std::string Drucktabelle::SUMME_SEITE(Zeilenbereich zeilen) const {
+    double summe = 0;
+    for (int index = zeilen.von; index <= zeilen.bis; ++index) {
+        summe += double_versuch(form1_.List_Gesamtp.List(index)).value_or(0);
+    }
+    return betrag(summe);
+}
+
+std::string Drucktabelle::ZWISCHENSUMME(Zeilenbereich zeilen, const std::string& uebertrag) const {
+    return betrag(double_versuch(SUMME_SEITE(zeilen)).value_or(0) + double_versuch(uebertrag).value_or(0));
+}
+
+std::string Drucktabelle::betrag(double wert) const {
+    return format_zahl(wert, form1_.Check_000.ticked() ? "0.000" : "0.00");
+}
+
+} // namespace quittika

@@ -1,0 +1,64 @@
+#pragma once
+
+#include "invoice/form1.hpp"
+#include "print/blatt.hpp"
+#include "print/druckoptionen.hpp"
+#include "print/seitenumbruch.hpp"
+#include "settings/frm_einstellungen.hpp"
+#include "settings/programmeinstellung.hpp"
+
+#include <string>
+#include <string_view>
+
+namespace quittika {
+
+/// Column positions of the table in mm, not adjusted.
+struct Spalten {
+    double X_Menge;
+    double X_Leistung;
+    double X_Einzelpreis;
+    double X_Gesamt; ///< the total edge
+};
+
+/// Whether the document in hand is a delivery note or a copy of one.
+bool IST_LIEFERSCHEIN(const Form1& form1);
+
+/// Rules and lines that table and totals share, and the rows of the position lists.
+/// The lists are read by index; their selections stay as they are.
+class Drucktabelle {
+public:
+    Drucktabelle(const Form1& form1, const frm_einstellungen& einstellungen, const PROGRAMMEINSTELLUNG& programm,
+                 const Druckoptionen& optionen);
+
+    const Spalten& spalten() const { return spalten_; }
+    bool zeigt_preise() const { return preise_; }
+
+    /// Prints headings and rows; a row prints on one line, however long its text is.
+    void DRUCKE_POSITIONEN(Blatt& blatt, Zeilenbereich zeilen) const;
+    /// Prints the amount carried from the pages before.
+    void DRUCKE_UEBERTRAG(Blatt& blatt, const std::string& uebertrag) const;
+    /// Prints the sum so far and returns it: the carry of the next page.
+    std::string DRUCKE_ZWISCHENSUMME(Blatt& blatt, Zeilenbereich zeilen, const std::string& uebertrag) const;
+
+    /// Sum of the line totals as text, with the decimals that are printed. What is not numeric adds nothing.
+    std::string SUMME_SEITE(Zeilenbereich zeilen) const;
+    /// `SUMME_SEITE` and the carry, as text.
+    std::string ZWISCHENSUMME(Zeilenbereich zeilen, const std::string& uebertrag) const;
+
+private:
+    void ueberschriften(Blatt& blatt) const;
+    void zeile(Blatt& blatt, int index) const;
+    void position(Blatt& blatt, int index) const;
+    std::string betrag(double wert) const;
+
+    const Form1& form1_;
+    const frm_einstellungen& einstellungen_;
+    const PROGRAMMEINSTELLUNG& programm_;
+    Spalten spalten_;
+    bool preise_;
+};
+
+/// Prints `text` ending at the total edge and goes to the next line.
+void SUMMENZEILE(Blatt& blatt, std::string_view text, double x_gesamt);
+
+} // namespace quittika

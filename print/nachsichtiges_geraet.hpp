@@ -1,0 +1,24 @@
+#pragma once
+
+#include "platform/printing.hpp"
+
+namespace quittika {
+
+/// Passes everything on to another device; a drawing that fails there skips only itself.
+/// A failing page feed or end of the document is still reported.
+class NachsichtigesGeraet final : public PrintDevice {
+public:
+    explicit NachsichtigesGeraet(PrintDevice& geraet) : geraet_(geraet) {}
+
+    void text(double left, double top, double width, const PrintFont& font, Color color,
+              std::string_view text) override;
+    void line(double x1, double y1, double x2, double y2, Color color) override;
+    void picture(double left, double top, double width, double height, const std::string& path) override;
+    void new_page() override { geraet_.new_page(); }
+    void end_document() override { geraet_.end_document(); }
+
+private:
+    PrintDevice& geraet_;
+};
+
+} // namespace quittika

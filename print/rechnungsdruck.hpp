@@ -1,0 +1,38 @@
+#pragma once
+
+#include "invoice/form1.hpp"
+#include "print/blatt.hpp"
+#include "print/druckfuss.hpp"
+#include "print/druckkopf.hpp"
+#include "print/druckoptionen.hpp"
+#include "print/drucktabelle.hpp"
+#include "print/form_lieferschein_opt.hpp"
+#include "settings/frm_einstellungen.hpp"
+#include "settings/programmeinstellung.hpp"
+
+namespace quittika {
+
+/// Draws the document in hand, page by page, in one of the built-in designs.
+class Rechnungsdruck {
+public:
+    Rechnungsdruck(const Form1& form1, const frm_einstellungen& einstellungen, const PROGRAMMEINSTELLUNG& programm,
+                   const Form_Lieferschein_opt& lieferschein_opt)
+        : form1_(form1), einstellungen_(einstellungen), programm_(programm), lieferschein_opt_(lieferschein_opt),
+          kopf_(form1, einstellungen, programm), fuss_(form1, einstellungen, programm) {}
+
+    /// Draws all pages and ends the document. Throws what the surface throws.
+    void DRUCKE_RECHNUNG(PrintSurface& surface, Druckjustierung just, const Druckoptionen& optionen = {}) const;
+
+private:
+    void kopf(Blatt& blatt, bool erste_seite) const;
+    bool mit_bemerkungen(bool letzte_seite, const Druckoptionen& optionen) const;
+
+    const Form1& form1_;
+    const frm_einstellungen& einstellungen_;
+    const PROGRAMMEINSTELLUNG& programm_;
+    const Form_Lieferschein_opt& lieferschein_opt_;
+    Druckkopf kopf_;
+    Druckfuss fuss_;
+};
+
+} // namespace quittika
