@@ -163,9 +163,9 @@ struct Form1 : Form {
 
     // --- discount, VAT, shipping ---
     Frame Frame6{*this, "Frame6", "Rabatt und Mehrwertsteuer"};
-    CheckBox Check_RABATT{Frame6, "Check_RABATT", "Rabatt (%)"};
+    CheckBox Check_RABATT{Frame6, "Check_RABATT", "Rabatt %"};
     TextBox Text_Rabatt{Frame6, "Text_Rabatt", vorgabe::kBetrag};
-    CheckBox Check_mwst{Frame6, "Check_mwst", "mit MwSt. (%)"};
+    CheckBox Check_mwst{Frame6, "Check_mwst", "MwSt. %"};
     TextBox Text_MwSt{Frame6, "Text_MwSt", "19,00"};
     OptionButton Option_mwst_plus{Frame6, "Option_mwst_plus", "plus (+)"};
     OptionButton Option_mwst_minus{Frame6, "Option_mwst_minus", "minus (-)"};

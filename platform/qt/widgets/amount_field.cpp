@@ -14,7 +14,7 @@ AmountField::AmountField(QWidget *parent) : QLineEdit(parent) {
 }
 
 QSize AmountField::sizeHint() const {
-    const QSize text = fontMetrics().size(Qt::TextSingleLine, QStringLiteral("-9999999,99"));
+    const QSize text = fontMetrics().size(Qt::TextSingleLine, QStringLiteral("-99999,99"));
     return {text.width() + 8, text.height() + 2};
 }
 
