@@ -10,7 +10,8 @@
 
 namespace quittika {
 
-/// Ties the events of the main window to the routines that do the work, and holds what belongs to no other module.
+/// Ties the events of the main window to the routines that do the work, and holds what belongs to no other
+/// module.
 class Hauptfenster {
 public:
     struct Teile {

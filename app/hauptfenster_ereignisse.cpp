@@ -116,13 +116,12 @@ void Hauptfenster::ListenVerdrahten() {
 
 void Hauptfenster::BetraegeVerdrahten() {
     Form1& f = t_.form1;
-    for (Control* schalter : {static_cast<Control*>(&f.Check_mwst), static_cast<Control*>(&f.Option_mwst_plus),
-                              static_cast<Control*>(&f.Option_mwst_minus), static_cast<Control*>(&f.Option_inkl_MwSt),
-                              static_cast<Control*>(&f.Check_RABATT), static_cast<Control*>(&f.Check_Versandkosten),
-                              static_cast<Control*>(&f.Check_VersandMwStEXTRA),
-                              static_cast<Control*>(&f.Check_VersandINKL_MwSt),
-                              static_cast<Control*>(&f.Check_mengenartDECIMAL),
-                              static_cast<Control*>(&f.Check_000)}) {
+    for (Control* schalter :
+         {static_cast<Control*>(&f.Check_mwst), static_cast<Control*>(&f.Option_mwst_plus),
+          static_cast<Control*>(&f.Option_mwst_minus), static_cast<Control*>(&f.Option_inkl_MwSt),
+          static_cast<Control*>(&f.Check_RABATT), static_cast<Control*>(&f.Check_Versandkosten),
+          static_cast<Control*>(&f.Check_VersandMwStEXTRA), static_cast<Control*>(&f.Check_VersandINKL_MwSt),
+          static_cast<Control*>(&f.Check_mengenartDECIMAL), static_cast<Control*>(&f.Check_000)}) {
         schalter->Click = [this] { geaendert_und_rechnen(); };
     }
     f.Option_Satz1.Click = [this] { Satz_Click(t_.werte.MWST_SATZ1); };
@@ -160,8 +159,8 @@ void Hauptfenster::RasterVerdrahten() {
 
 void Hauptfenster::AblegenVerdrahten() {
     Form1& f = t_.form1;
-    for (TextBox* feld :
-         {&f.Text_Kunde_1, &f.Text_Kunde_2, &f.Text_Kunde_3, &f.Text_Kunde_4, &f.Text_KundennrK, &f.Text_leistung}) {
+    for (TextBox* feld : {&f.Text_Kunde_1, &f.Text_Kunde_2, &f.Text_Kunde_3, &f.Text_Kunde_4,
+                          &f.Text_KundennrK, &f.Text_leistung}) {
         feld->OLEDragDrop = [feld](const std::string& text) { feld->Text = einzeilig(text); };
     }
     for (Form1::Rasterzeile& zeile : f.Raster) {
@@ -181,9 +180,9 @@ void Hauptfenster::SpaeteresSperren() {
         m->Enabled = false;
     }
     for (CommandButton* k :
-         {&f.CMD_AS_BILD, &f.Command_Druckvorschau, &f.Command_Kundenliste, &f.Command_Artikelliste, &f.Cmd_Barcode,
-          &f.Command1, &f.Command2, &f.Cmd_Notiz, &f.CMD_FORM_HELFERLEIN, &f.CMD_FORM_HELFERLEIN_Bkg, &f.Cmd_Vorlagen,
-          &f.Command_PLUS_LIST}) {
+         {&f.CMD_AS_BILD, &f.Command_Druckvorschau, &f.Command_Kundenliste, &f.Command_Artikelliste,
+          &f.Cmd_Barcode, &f.Command1, &f.Command2, &f.Cmd_Notiz, &f.CMD_FORM_HELFERLEIN,
+          &f.CMD_FORM_HELFERLEIN_Bkg, &f.Cmd_Vorlagen, &f.Command_PLUS_LIST}) {
         k->Enabled = false;
     }
     for (Form1::Rasterzeile& zeile : f.Raster) {

@@ -14,7 +14,8 @@ int main(int argc, char** argv) {
     const QtApplication anwendung(argc, argv);
     QtPlatform plattform;
     const std::filesystem::path daten =
-        std::filesystem::path(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation).toStdString()) /
+        std::filesystem::path(
+            QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation).toStdString()) /
         "quittika2008";
     const std::filesystem::path ordner =
         PROGRAMMORDNER(std::filesystem::path(QtApplication::program_directory()) / "quittika", daten);

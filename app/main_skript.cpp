@@ -20,7 +20,9 @@ std::shared_ptr<void> programm_starten(Platform platform, const std::string& ord
     return programm;
 }
 
-bool bild_lesbar(const std::string& pfad) { return QImageReader(QString::fromStdString(pfad)).canRead(); }
+bool bild_lesbar(const std::string& pfad) {
+    return QImageReader(QString::fromStdString(pfad)).canRead();
+}
 
 } // namespace
 
@@ -29,11 +31,12 @@ int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QGuiApplication anwendung(argc, argv);
     const QtFontMetrics schriften;
-    Runner runner({programm_starten, schriften,
-                   [&schriften](const std::string& pfad, const std::string& titel) -> std::unique_ptr<PrintDevice> {
-                       return std::make_unique<QtPdfDevice>(schriften, QString::fromStdString(pfad), titel);
-                   },
-                   bild_lesbar},
-                  std::cin, std::cout);
+    Runner runner(
+        {programm_starten, schriften,
+         [&schriften](const std::string& pfad, const std::string& titel) -> std::unique_ptr<PrintDevice> {
+             return std::make_unique<QtPdfDevice>(schriften, QString::fromStdString(pfad), titel);
+         },
+         bild_lesbar},
+        std::cin, std::cout);
     return runner.run();
 }

@@ -30,28 +30,28 @@ struct Programm::Teile {
     Form_START form_start;
 
     Rechnung rechnung{form1, zustand, platform.clock};
-    Summen summen{form1, einstellungen, zustand, platform.dialogs, platform.clock,
-                  [this] { return ANZAHL_DRUCKSEITEN(form1.List_Gesamtp.ListCount(), einstellungen); }};
+    Summen summen{
+        form1,          einstellungen,
+        zustand,        platform.dialogs,
+        platform.clock, [this] { return ANZAHL_DRUCKSEITEN(form1.List_Gesamtp.ListCount(), einstellungen); }};
     Positionen positionen{form1, zustand, rechnung, summen, platform.dialogs};
     Rechnungsnummern nummern{form1, einstellungen, zustand, verzeichnis, platform.dialogs};
     ZuletztGeoeffnet zuletzt{form1, werte};
     Rechnungsschreiber schreiber{form1, werte, zustand, platform.dialogs, platform.clock};
     Rechnungsleser leser{form1, werte, zustand, rechnung, platform.dialogs};
-    Dateibefehle dateibefehle{form1,     zustand, rechnung, summen, platform.dialogs, schreiber,
-                              leser,     nummern, zuletzt};
-    Druckauftrag druckauftrag{form1,
-                              einstellungen,
-                              werte,
-                              platform.dialogs,
-                              platform.printing,
-                              platform.desktop,
-                              [this] { summen.jetztberechnen_List(); }};
+    Dateibefehle dateibefehle{form1,     zustand, rechnung, summen, platform.dialogs,
+                              schreiber, leser,   nummern,  zuletzt};
+    Druckauftrag druckauftrag{
+        form1, einstellungen, werte, platform.dialogs, platform.printing, platform.desktop, [this] {
+            summen.jetztberechnen_List();
+        }};
     KundeAufnehmen kunde_aufnehmen{form1, verzeichnis, platform.dialogs};
     Erinnerung erinnerung{form1, zustand};
-    Ladefolge ladefolge{{form1, einstellungen, programm, werte, zustand, verzeichnis, platform, summen, rechnung,
-                         dateibefehle, nummern, zuletzt}};
+    Ladefolge ladefolge{{form1, einstellungen, programm, werte, zustand, verzeichnis, platform, summen,
+                         rechnung, dateibefehle, nummern, zuletzt}};
     Hauptfenster hauptfenster{{form1, einstellungen, werte, zustand, verzeichnis, platform, rechnung, summen,
-                               positionen, dateibefehle, druckauftrag, kunde_aufnehmen, erinnerung, ladefolge}};
+                               positionen, dateibefehle, druckauftrag, kunde_aufnehmen, erinnerung,
+                               ladefolge}};
     Startfenster startfenster{form_start, werte, verzeichnis, platform.clock, [this] { form1.Show(); }};
 };
 
@@ -60,10 +60,16 @@ Programm::Programm(Platform platform, std::string verzeichnis)
 
 Programm::~Programm() = default;
 
-void Programm::starten() { teile_->form_start.Show(); }
+void Programm::starten() {
+    teile_->form_start.Show();
+}
 
-void Programm::hauptfenster_zeigen() { teile_->form1.Show(); }
+void Programm::hauptfenster_zeigen() {
+    teile_->form1.Show();
+}
 
-Form& Programm::hauptfenster() { return teile_->form1; }
+Form& Programm::hauptfenster() {
+    return teile_->form1;
+}
 
 } // namespace quittika

@@ -6,8 +6,13 @@
 namespace quittika {
 
 Startfenster::Startfenster(Form_START& form, const PROGRAMMEINSTELLUNG& einstellung,
-                           const Programmverzeichnis& verzeichnis, const Clock& uhr, std::function<void()> weiter)
-    : form_(form), einstellung_(einstellung), verzeichnis_(verzeichnis), uhr_(uhr), weiter_(std::move(weiter)) {
+                           const Programmverzeichnis& verzeichnis, const Clock& uhr,
+                           std::function<void()> weiter)
+    : form_(form),
+      einstellung_(einstellung),
+      verzeichnis_(verzeichnis),
+      uhr_(uhr),
+      weiter_(std::move(weiter)) {
     form_.Load = [this] { Form_Load(); };
     form_.Timer1.Tick = [this] { Timer1_Timer(); };
 }

@@ -12,8 +12,8 @@ namespace quittika {
 /// The splash: shows a picture while its timer counts, then calls for the main window.
 class Startfenster {
 public:
-    Startfenster(Form_START& form, const PROGRAMMEINSTELLUNG& einstellung, const Programmverzeichnis& verzeichnis,
-                 const Clock& uhr, std::function<void()> weiter);
+    Startfenster(Form_START& form, const PROGRAMMEINSTELLUNG& einstellung,
+                 const Programmverzeichnis& verzeichnis, const Clock& uhr, std::function<void()> weiter);
 
 private:
     void Form_Load();

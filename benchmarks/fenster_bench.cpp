@@ -56,9 +56,12 @@ public:
     std::vector<std::array<double, 4>> linien;
 
     void text(double left, double top, double, const PrintFont& font, Color, std::string_view text) override {
-        texte.push_back({left, top, font, QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()))});
+        texte.push_back(
+            {left, top, font, QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()))});
     }
-    void line(double x1, double y1, double x2, double y2, Color) override { linien.push_back({x1, y1, x2, y2}); }
+    void line(double x1, double y1, double x2, double y2, Color) override {
+        linien.push_back({x1, y1, x2, y2});
+    }
     void picture(double, double, double, double, const std::string&) override {}
     void new_page() override {}
     void end_document() override {}
@@ -124,9 +127,13 @@ void start_messen(benchmark::State& state, const char* art) {
         }
     }
 }
-void start(benchmark::State& state) { start_messen(state, "--start-programm"); }
+void start(benchmark::State& state) {
+    start_messen(state, "--start-programm");
+}
 BENCHMARK(start)->Unit(benchmark::kMillisecond);
-void start_grundlage(benchmark::State& state) { start_messen(state, "--start-leer"); }
+void start_grundlage(benchmark::State& state) {
+    start_messen(state, "--start-leer");
+}
 BENCHMARK(start_grundlage)->Unit(benchmark::kMillisecond);
 
 } // namespace

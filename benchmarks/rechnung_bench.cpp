@@ -12,7 +12,9 @@ namespace {
 
 constexpr int kZeilen = 1000;
 
-std::string betrag(int i) { return format_zahl(i * 1.37, "0.00"); }
+std::string betrag(int i) {
+    return format_zahl(i * 1.37, "0.00");
+}
 
 void tausend_zeilen(Pruefstand& p) {
     for (int i = 0; i < kZeilen; ++i) {
@@ -56,7 +58,9 @@ void rechnen_grundlage(benchmark::State& state) {
 BENCHMARK(rechnen_grundlage)->Unit(benchmark::kMicrosecond);
 
 /// A folder in memory, so that both sides measure work and not the disk.
-std::string ramdatei(const char* name) { return "/dev/shm/quittika-bench-" + std::string(name); }
+std::string ramdatei(const char* name) {
+    return "/dev/shm/quittika-bench-" + std::string(name);
+}
 
 void datei(benchmark::State& state) {
     Pruefstand p;

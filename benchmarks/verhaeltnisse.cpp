@@ -18,7 +18,8 @@ void Verhaeltnistabelle::ReportRuns(const std::vector<Run>& laeufe) {
 void Verhaeltnistabelle::drucken(std::ostream& aus, const std::vector<Vergleich>& vergleiche) const {
     constexpr double kMillisekunden = 1000;
     char zeile[256];
-    std::snprintf(zeile, sizeof zeile, "\n%-58s %12s %12s %8s %8s\n", "", "measured ms", "baseline ms", "ratio", "aim");
+    std::snprintf(zeile, sizeof zeile, "\n%-58s %12s %12s %8s %8s\n", "", "measured ms", "baseline ms",
+                  "ratio", "aim");
     aus << zeile;
     for (const Vergleich& v : vergleiche) {
         const auto gemessen = zeiten_.find(v.gemessen);
@@ -28,10 +29,12 @@ void Verhaeltnistabelle::drucken(std::ostream& aus, const std::vector<Vergleich>
         }
         const double ms = gemessen->second * kMillisekunden;
         if (grundlage == zeiten_.end()) {
-            std::snprintf(zeile, sizeof zeile, "%-58s %12.3f %12s %8s %5.0f ms\n", v.was, ms, "", "", v.grenze);
+            std::snprintf(zeile, sizeof zeile, "%-58s %12.3f %12s %8s %5.0f ms\n", v.was, ms, "", "",
+                          v.grenze);
         } else {
             const double basis = grundlage->second * kMillisekunden;
-            std::snprintf(zeile, sizeof zeile, "%-58s %12.3f %12.3f %8.2f %8.1f\n", v.was, ms, basis, ms / basis, v.grenze);
+            std::snprintf(zeile, sizeof zeile, "%-58s %12.3f %12.3f %8.2f %8.1f\n", v.was, ms, basis,
+                          ms / basis, v.grenze);
         }
         aus << zeile;
     }

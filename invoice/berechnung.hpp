@@ -39,12 +39,14 @@ struct Versandaufteilung {
     double Versand_MwSt = 0;
 };
 
-/// Discount, VAT and amount due. Throws `Laufzeitfehler` 11 for a rate of -100 where it divides, 6 on overflow.
+/// Discount, VAT and amount due. Throws `Laufzeitfehler` 11 for a rate of -100 where it divides, 6 on
+/// overflow.
 Rechenergebnis RECHNUNGSBETRAEGE(const Rechenvorgabe& vorgabe);
 
 /// Splits gross shipping at `satz` per cent; `bisher` is what stays where nothing is to be split.
 /// Throws `Laufzeitfehler` 11 and 6 as above.
-Versandaufteilung VERSAND_AUFTEILEN(Versand_Modus modus, double Versand_Eingabe, double satz, Versandaufteilung bisher);
+Versandaufteilung VERSAND_AUFTEILEN(Versand_Modus modus, double Versand_Eingabe, double satz,
+                                    Versandaufteilung bisher);
 
 /// `wert` itself; throws `Laufzeitfehler` 6 where it is infinite or no number.
 double endlich(double wert);

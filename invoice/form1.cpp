@@ -6,12 +6,15 @@ namespace quittika {
 
 namespace {
 
-std::string nummeriert(const char* name, int n) { return name + std::to_string(n); }
+std::string nummeriert(const char* name, int n) {
+    return name + std::to_string(n);
+}
 
 } // namespace
 
 Form1::Rasterzeile::Rasterzeile(ControlArray<Frame, kSeiten>& seiten, int n)
-    : Check_K(seiten, nummeriert("Check_K", n), std::string("K")), Text_menge(seiten, nummeriert("Text_menge", n), std::string("0")),
+    : Check_K(seiten, nummeriert("Check_K", n), std::string("K")),
+      Text_menge(seiten, nummeriert("Text_menge", n), std::string("0")),
       Text_leistung(seiten, nummeriert("Text_leistung", n)),
       Text_preis(seiten, nummeriert("Text_preis", n), std::string(vorgabe::kBetrag)),
       Text_gesamtp(seiten, nummeriert("Text_gesamtp", n), std::string(vorgabe::kBetrag)),
@@ -19,8 +22,15 @@ Form1::Rasterzeile::Rasterzeile(ControlArray<Frame, kSeiten>& seiten, int n)
 
 Form1::Form1()
     : Form("form1", "Quittika 2008"),
-      Raster{{{Frame_seite1, 1}, {Frame_seite1, 2}, {Frame_seite1, 3}, {Frame_seite1, 4}, {Frame_seite1, 5},
-              {Frame_seite1, 6}, {Frame_seite1, 7}, {Frame_seite1, 8}, {Frame_seite1, 9}}} {
+      Raster{{{Frame_seite1, 1},
+              {Frame_seite1, 2},
+              {Frame_seite1, 3},
+              {Frame_seite1, 4},
+              {Frame_seite1, 5},
+              {Frame_seite1, 6},
+              {Frame_seite1, 7},
+              {Frame_seite1, 8},
+              {Frame_seite1, 9}}} {
     Option_RECHNUNG.Value.adopt(true);
     Option_Satz1.Value.adopt(true);
     Option_anschreiben.Value.adopt(true);
@@ -31,13 +41,14 @@ Form1::Form1()
     Text_LIEFERDATUM.Enabled.adopt(false);
     Image_hintergrund.Visible.adopt(false);
     Image_WASSERZ.Visible.adopt(false);
-    for (Control* versteckt : {static_cast<Control*>(&Text1), static_cast<Control*>(&Text_Notiz),
-                               static_cast<Control*>(&Check_tele_nichtdrucken),
-                               static_cast<Control*>(&Label_gesamtbetrag)}) {
+    for (Control* versteckt :
+         {static_cast<Control*>(&Text1), static_cast<Control*>(&Text_Notiz),
+          static_cast<Control*>(&Check_tele_nichtdrucken), static_cast<Control*>(&Label_gesamtbetrag)}) {
         versteckt->Visible.adopt(false);
     }
-    for (TextBox* ergebnis : {&Text_gesamtp, &Text_summe, &Text_summeRabatt, &Text_summeNACHRABATT, &Text_summemwst,
-                              &Text_gesamtbetrag, &Text_PreisVersankosten, &Text_PreisVersankostenMwST}) {
+    for (TextBox* ergebnis :
+         {&Text_gesamtp, &Text_summe, &Text_summeRabatt, &Text_summeNACHRABATT, &Text_summemwst,
+          &Text_gesamtbetrag, &Text_PreisVersankosten, &Text_PreisVersankostenMwST}) {
         ergebnis->Locked.adopt(true);
     }
     for (int seite = 0; seite < kSeiten; ++seite) {
@@ -56,8 +67,8 @@ Form1::Form1()
 }
 
 ControlArray<TextBox, 2>& Form1::Text_Bemerkung(int n) {
-    const std::array<ControlArray<TextBox, 2>*, 4> zeilen{&Text_Bemerkung1, &Text_Bemerkung2, &Text_Bemerkung3,
-                                                          &Text_Bemerkung4};
+    const std::array<ControlArray<TextBox, 2>*, 4> zeilen{&Text_Bemerkung1, &Text_Bemerkung2,
+                                                          &Text_Bemerkung3, &Text_Bemerkung4};
     return *zeilen.at(static_cast<std::size_t>(n - 1));
 }
 

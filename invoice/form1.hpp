@@ -32,12 +32,14 @@ struct Form1 : Form {
     Menu m_speichern_direkt{*this, "m_speichern_direkt", "Änderungen s&peichern"};
     Menu m_speichern_kurz{*this, "m_speichern_kurz", "Speichern"}; ///< for its shortcut only
     Menu m_Rechnung_txt_export{*this, "m_Rechnung_txt_export", "Rechnung als Textdatei exportieren..."};
-    Menu m_Rechnung_bmp_export{*this, "m_Rechnung_bmp_export", "Rechnung als Bilddatei (*.bmp) exportieren..."};
+    Menu m_Rechnung_bmp_export{*this, "m_Rechnung_bmp_export",
+                               "Rechnung als Bilddatei (*.bmp) exportieren..."};
     Menu m_Drucken{*this, "m_Drucken", "&Rechnung drucken..."};
     Menu m_Vorschau{*this, "m_Vorschau", "Druckvorschau..."};
     Menu m_druckenBRIEF{*this, "m_druckenBRIEF", "&Briefumschlag bedrucken..."};
     Menu m_druckenpaketschein{*this, "m_druckenpaketschein", "&Paketschein bedrucken..."};
-    Menu m_druckenpaketscheinHVersand{*this, "m_druckenpaketscheinHVersand", "Paketschein (&H-Versand) bedrucken..."};
+    Menu m_druckenpaketscheinHVersand{*this, "m_druckenpaketscheinHVersand",
+                                      "Paketschein (&H-Versand) bedrucken..."};
     Menu m_druckenpaeckchenschein{*this, "m_druckenpaeckchenschein", "P&äckchenschein bedrucken..."};
     Menu m_druckjustierung{*this, "m_druckjustierung", "Druckjustierung aufrufen"};
     Menu m_R1{*this, "m_R1"};
@@ -156,8 +158,8 @@ struct Form1 : Form {
     CheckBox Check_versendet{Frame_status, "Check_versendet", "versendet"};
     CheckBox Check_bezahlt{Frame_status, "Check_bezahlt", "bezahlt"};
     CheckBox Check_abgemahnt{Frame_status, "Check_abgemahnt", "abgemahnt"};
-    ComboBox Combo1_mahnung{Frame_status, "Combo1_mahnung",
-                            {"Zahlungserinnerung", "1. Mahnung", "2. Mahnung", "3. Mahnung"}};
+    ComboBox Combo1_mahnung{
+        Frame_status, "Combo1_mahnung", {"Zahlungserinnerung", "1. Mahnung", "2. Mahnung", "3. Mahnung"}};
     CommandButton Cmd_Notiz{Frame_status, "Cmd_Notiz", "Notiz verfassen/ändern..."};
     TextBox Text_Notiz{Frame_status, "Text_Notiz", vorgabe::kNotiz}; ///< copy of the note, hidden
 
@@ -176,8 +178,10 @@ struct Form1 : Form {
     Frame Frame_Versandkosten{*this, "Frame_Versandkosten", "Versandkosten"};
     CheckBox Check_Versandkosten{Frame_Versandkosten, "Check_Versandkosten", "berechnen"};
     TextBox Text_Versandk{Frame_Versandkosten, "Text_Versandk", "Versandkosten:"};
-    TextBox Text_PreisVersankostenEingabe{Frame_Versandkosten, "Text_PreisVersankostenEingabe", vorgabe::kBetrag};
-    CheckBox Check_VersandMwStEXTRA{Frame_Versandkosten, "Check_VersandMwStEXTRA", "MwSt. getrennt ausweisen"};
+    TextBox Text_PreisVersankostenEingabe{Frame_Versandkosten, "Text_PreisVersankostenEingabe",
+                                          vorgabe::kBetrag};
+    CheckBox Check_VersandMwStEXTRA{Frame_Versandkosten, "Check_VersandMwStEXTRA",
+                                    "MwSt. getrennt ausweisen"};
     CheckBox Check_VersandINKL_MwSt{Frame_Versandkosten, "Check_VersandINKL_MwSt", "enthaltene MwSt. nennen"};
 
     // --- totals ---
@@ -193,7 +197,8 @@ struct Form1 : Form {
     TextBox Text_PreisVersankostenMwST{Frame4, "Text_PreisVersankostenMwST", vorgabe::kBetrag};
     Label Label_summe{Frame4, "Label_summe", "Gesamtbetrag:"}; ///< stands beside the amount due
     TextBox Text_gesamtbetrag{Frame4, "Text_gesamtbetrag", vorgabe::kBetrag};
-    Label Label_gesamtbetrag{Frame4, "Label_gesamtbetrag", "Rechnungsbetrag:"}; ///< printed label, hidden here
+    Label Label_gesamtbetrag{Frame4, "Label_gesamtbetrag",
+                             "Rechnungsbetrag:"}; ///< printed label, hidden here
     CommandButton Command_berechnen{Frame4, "Command_berechnen", "Bere&chnen"};
 
     // --- grid of four pages ---

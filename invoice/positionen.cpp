@@ -7,12 +7,14 @@ namespace quittika {
 
 namespace {
 
-constexpr const char* kSeitenumbruch = "+ + + + + + + + + + + + + + + + nächste Seite + + + + + + + + + + + + + + + +";
+constexpr const char* kSeitenumbruch =
+    "+ + + + + + + + + + + + + + + + nächste Seite + + + + + + + + + + + + + + + +";
 constexpr const char* kLeer = " ";
 
 } // namespace
 
-Positionen::Positionen(Form1& form1, Rechnungszustand& zustand, Rechnung& rechnung, Summen& summen, Dialogs& dialogs)
+Positionen::Positionen(Form1& form1, Rechnungszustand& zustand, Rechnung& rechnung, Summen& summen,
+                       Dialogs& dialogs)
     : form1_(form1), zustand_(zustand), rechnung_(rechnung), summen_(summen), dialogs_(dialogs) {}
 
 Positionen::Eingabe Positionen::EingabePruefen() {
@@ -146,7 +148,9 @@ void Positionen::ZeileAuswaehlen(int zeile, const Control& quelle) {
     auswahl_laeuft_ = false;
 }
 
-void Positionen::List_DARSTELLUNG_Click() { Liste_Click(form1_.List_DARSTELLUNG); }
+void Positionen::List_DARSTELLUNG_Click() {
+    Liste_Click(form1_.List_DARSTELLUNG);
+}
 
 void Positionen::Liste_Click(ListBox& liste) {
     if (auswahl_laeuft_ || zustand_.gesperrt()) {
@@ -189,9 +193,9 @@ void Positionen::Check_K_Click() {
 
 void Positionen::EingabefelderZeigen() {
     const bool kommentar = form1_.Check_K.ticked();
-    for (Control* feld : {static_cast<Control*>(&form1_.Text_Menge), static_cast<Control*>(&form1_.Text_preis),
-                          static_cast<Control*>(&form1_.Check_mengenartDECIMAL),
-                          static_cast<Control*>(&form1_.Check_000)}) {
+    for (Control* feld :
+         {static_cast<Control*>(&form1_.Text_Menge), static_cast<Control*>(&form1_.Text_preis),
+          static_cast<Control*>(&form1_.Check_mengenartDECIMAL), static_cast<Control*>(&form1_.Check_000)}) {
         feld->Visible = !kommentar;
     }
 }

@@ -14,11 +14,17 @@ namespace quittika {
 namespace {
 
 /// Comment and break rows put a lone blank where others have a quantity or a price.
-bool leerfeld(const std::string& text) { return text == " "; }
+bool leerfeld(const std::string& text) {
+    return text == " ";
+}
 
-std::string mit_komma(const std::string& text) { return ZEICHENERSETZEN(text, ".", ","); }
+std::string mit_komma(const std::string& text) {
+    return ZEICHENERSETZEN(text, ".", ",");
+}
 
-void schreiben(TextBox& feld, double wert, std::string_view muster) { feld.Text = format_zahl(wert, muster); }
+void schreiben(TextBox& feld, double wert, std::string_view muster) {
+    feld.Text = format_zahl(wert, muster);
+}
 
 } // namespace
 
@@ -50,9 +56,13 @@ std::string_view MENGENFORMAT(std::string_view text, bool dezimal) {
     }
 }
 
-Summen::Summen(Form1& form1, const frm_einstellungen& einstellungen, Rechnungszustand& zustand, Dialogs& dialogs,
-               const Clock& uhr, std::function<int()> ANZAHL_DRUCKSEITEN)
-    : form1_(form1), einstellungen_(einstellungen), zustand_(zustand), dialogs_(dialogs), uhr_(uhr),
+Summen::Summen(Form1& form1, const frm_einstellungen& einstellungen, Rechnungszustand& zustand,
+               Dialogs& dialogs, const Clock& uhr, std::function<int()> ANZAHL_DRUCKSEITEN)
+    : form1_(form1),
+      einstellungen_(einstellungen),
+      zustand_(zustand),
+      dialogs_(dialogs),
+      uhr_(uhr),
       anzahl_druckseiten_(std::move(ANZAHL_DRUCKSEITEN)) {}
 
 std::optional<double> Summen::Menge() const {
@@ -68,9 +78,13 @@ std::optional<double> Summen::Menge() const {
     }
 }
 
-bool Summen::MengeIstZahl() const { return double_versuch(mit_komma(form1_.Text_Menge.Text())).has_value(); }
+bool Summen::MengeIstZahl() const {
+    return double_versuch(mit_komma(form1_.Text_Menge.Text())).has_value();
+}
 
-std::optional<double> Summen::Preis() const { return double_versuch(mit_komma(form1_.Text_preis.Text())); }
+std::optional<double> Summen::Preis() const {
+    return double_versuch(mit_komma(form1_.Text_preis.Text()));
+}
 
 void Summen::MengeLesen() {
     TextBox& feld = form1_.Text_Menge;

@@ -19,7 +19,8 @@ public:
     Summen(Form1& form1, const frm_einstellungen& einstellungen, Rechnungszustand& zustand, Dialogs& dialogs,
            const Clock& uhr, std::function<int()> ANZAHL_DRUCKSEITEN);
 
-    /// Recalculates and shows everything. An arithmetic fault ends it without a message and leaves the amounts.
+    /// Recalculates and shows everything. An arithmetic fault ends it without a message and leaves the
+    /// amounts.
     void jetztberechnen_List();
 
     /// Recalculates when a field of the input line is left; says nothing about what is no number yet.
@@ -67,7 +68,8 @@ private:
 /// Count of digits behind the decimal comma; 0 without one.
 int NachkommastellenZaehlen(std::string_view text);
 
-/// Number format for a typed quantity: by its digits behind the comma in decimal mode (1 to 4), else the mode's own.
+/// Number format for a typed quantity: by its digits behind the comma in decimal mode (1 to 4), else the
+/// mode's own.
 std::string_view MENGENFORMAT(std::string_view text, bool dezimal);
 
 } // namespace quittika

@@ -6,8 +6,8 @@ namespace quittika {
 
 std::string KUNDENZEILE(const Form1& form1) {
     std::string zeile;
-    for (const TextBox* feld : {&form1.Text_Kunde_1, &form1.Text_Kunde_2, &form1.Text_Kunde_3, &form1.Text_Kunde_4,
-                                &form1.Text_KundennrK}) {
+    for (const TextBox* feld : {&form1.Text_Kunde_1, &form1.Text_Kunde_2, &form1.Text_Kunde_3,
+                                &form1.Text_Kunde_4, &form1.Text_KundennrK}) {
         zeile += feld->Text() + "...";
     }
     return zeile;

@@ -21,7 +21,8 @@ void PrintSurface::Line(double x1, double y1, double x2, double y2, Color color)
     device_.line(x1, y1, x2, y2, color);
 }
 
-void PrintSurface::PaintPicture(const std::string& path, double left, double top, double width, double height) {
+void PrintSurface::PaintPicture(const std::string& path, double left, double top, double width,
+                                double height) {
     if (!path.empty()) {
         device_.picture(left, top, width, height, path);
     }

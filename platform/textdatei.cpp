@@ -102,7 +102,6 @@ private:
     int nummer_;
 };
 
-
 /// Calls `weiter` with the bytes of each line until it answers false.
 template <class Weiter> void zeilen_teilen(std::string_view inhalt, Weiter weiter) {
     while (!inhalt.empty()) {

@@ -9,16 +9,20 @@ namespace {
 constexpr const char* kAnschreiben[] = {
     "Sehr geehrte Damen und Herren,", "",
     "wir erlauben uns für unsere Dienstleistungen folgende Posten in Rechnung zu stellen:", ""};
-constexpr const char* kBemerkungen[] = {"Bemerkungen: Hier steht Ihre Bemerkung", "Hier auch.....",
-                                        "Unter >>Voreinstellungen>>Rechnungsdaten>>Registerkarte Textdaten =<< ",
-                                        "können Sie den Bemerkungstext verändern."};
+constexpr const char* kBemerkungen[] = {
+    "Bemerkungen: Hier steht Ihre Bemerkung", "Hier auch.....",
+    "Unter >>Voreinstellungen>>Rechnungsdaten>>Registerkarte Textdaten =<< ",
+    "können Sie den Bemerkungstext verändern."};
 
 } // namespace
 
-frm_einstellungen::Farbzeile::Farbzeile(Container& seite, const char* rahmen, const char* titel, const char* knopf,
-                                        const char* muster, const char* regler)
-    : Rahmen(seite, rahmen, titel), Command_FARBE(Rahmen, knopf, "Farbe wählen..."), Muster(Rahmen, muster),
-      R(Rahmen, std::string(regler) + "_R", 0, 255, 0), G(Rahmen, std::string(regler) + "_G", 0, 255, 0),
+frm_einstellungen::Farbzeile::Farbzeile(Container& seite, const char* rahmen, const char* titel,
+                                        const char* knopf, const char* muster, const char* regler)
+    : Rahmen(seite, rahmen, titel),
+      Command_FARBE(Rahmen, knopf, "Farbe wählen..."),
+      Muster(Rahmen, muster),
+      R(Rahmen, std::string(regler) + "_R", 0, 255, 0),
+      G(Rahmen, std::string(regler) + "_G", 0, 255, 0),
       B(Rahmen, std::string(regler) + "_B", 0, 255, 0) {
     Muster.BackColor.adopt(color::kBlack);
 }
@@ -50,8 +54,8 @@ frm_einstellungen::frm_einstellungen() : Form("frm_einstellungen", " Rechnungsda
 }
 
 ControlArray<TextBox, 2>& frm_einstellungen::Text_Bemerkung(int n) {
-    const std::array<ControlArray<TextBox, 2>*, 4> zeilen{&Text_Bemerkung1, &Text_Bemerkung2, &Text_Bemerkung3,
-                                                          &Text_Bemerkung4};
+    const std::array<ControlArray<TextBox, 2>*, 4> zeilen{&Text_Bemerkung1, &Text_Bemerkung2,
+                                                          &Text_Bemerkung3, &Text_Bemerkung4};
     return *zeilen.at(static_cast<std::size_t>(n - 1));
 }
 

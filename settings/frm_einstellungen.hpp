@@ -80,7 +80,8 @@ struct frm_einstellungen : Form {
     TextBox Text_RNStartwert{Frame_RNSTARTWERT, "Text_RNStartwert", "1"};
     CommandButton Command_RNSTartwertSET{Frame_RNSTARTWERT, "Command_RNSTartwertSET", "Setzen"};
     Label Label_RNAKTUELL{Frame_RNSTARTWERT, "Label_RNAKTUELL"};
-    CheckBox Check_RN_automatisch{Frame_RNSTARTWERT, "Check_RN_automatisch", "Rechnungsnr. automatisch erhöhen"};
+    CheckBox Check_RN_automatisch{Frame_RNSTARTWERT, "Check_RN_automatisch",
+                                  "Rechnungsnr. automatisch erhöhen"};
     Slider Slider_RNFORMAT{Frame_RNSTARTWERT, "Slider_RNFORMAT", 1, 9, 1};
     Label Label_Lieferschein{*this, "Label_Lieferschein", "LIEFERSCHEIN ZU: "};
     Label Label_Kopie{*this, "Label_Kopie", "         KOPIE   "};
@@ -115,7 +116,8 @@ struct frm_einstellungen : Form {
     // --- Designer/Druckerschriftart ---
     CommandButton CMD_DESIGNER{SSTab1, "CMD_DESIGNER", "Designer aufrufen..."};
     Frame Frame_DRUCKERSCHRIFT{SSTab1, "Frame_DRUCKERSCHRIFT"};
-    CommandButton Command_DRUCKERSCHRIFT{Frame_DRUCKERSCHRIFT, "Command_DRUCKERSCHRIFT", "Schriftart wählen..."};
+    CommandButton Command_DRUCKERSCHRIFT{Frame_DRUCKERSCHRIFT, "Command_DRUCKERSCHRIFT",
+                                         "Schriftart wählen..."};
     CommandButton Command_DRUCKERSCHRIFT_Reset{Frame_DRUCKERSCHRIFT, "Command_DRUCKERSCHRIFT_Reset", "Arial"};
 
     // --- page designs ---
@@ -140,8 +142,8 @@ struct frm_einstellungen : Form {
 
     // --- print colours ---
     struct Farbzeile {
-        Farbzeile(Container& seite, const char* rahmen, const char* titel, const char* knopf, const char* muster,
-                  const char* regler);
+        Farbzeile(Container& seite, const char* rahmen, const char* titel, const char* knopf,
+                  const char* muster, const char* regler);
         Frame Rahmen;
         CommandButton Command_FARBE;
         Frame Muster; ///< its back colour is the colour that is printed
@@ -149,17 +151,37 @@ struct frm_einstellungen : Form {
         Slider G;     ///< 0 to 255
         Slider B;     ///< 0 to 255
     };
-    Farbzeile Linien{SSTab1, "Frame_Linien", "Linien", "Command_FARBE_LINIEN", "Frame_Linienfarbe",
-                     "Slider_Linienfarbe"};
-    Farbzeile Werbespruch{SSTab1, "Frame_Werbespruch", "Werbespruch", "Command_FARBE_WERBESPRUCH",
-                          "Frame_Werbespruchfarbe", "Slider_Werbespruchfarbe"};
-    Farbzeile Bankdaten{SSTab1, "Frame_Bankdaten", "Bankdaten", "Command_FARBE_BANKDATEN", "Frame_Bankdatenfarbe",
+    Farbzeile Linien{
+        SSTab1, "Frame_Linien", "Linien", "Command_FARBE_LINIEN", "Frame_Linienfarbe", "Slider_Linienfarbe"};
+    Farbzeile Werbespruch{SSTab1,
+                          "Frame_Werbespruch",
+                          "Werbespruch",
+                          "Command_FARBE_WERBESPRUCH",
+                          "Frame_Werbespruchfarbe",
+                          "Slider_Werbespruchfarbe"};
+    Farbzeile Bankdaten{SSTab1,
+                        "Frame_Bankdaten",
+                        "Bankdaten",
+                        "Command_FARBE_BANKDATEN",
+                        "Frame_Bankdatenfarbe",
                         "Slider_Bankdatenfarbe"};
-    Farbzeile Bemerkungen{SSTab1, "Frame_Bemerkungen", "Bemerkungen", "Command_FARBE_BEMERKUNGEN",
-                          "Frame_Bemerkungenfarbe", "Slider_Bemerkungenfarbe"};
-    Farbzeile Firmendaten{SSTab1, "Frame_Firmendaten", "Firmendaten", "Command_FARBE_FIRMENDATEN",
-                          "Frame_Firmendatenfarbe", "Slider_Firmendatenfarbe"};
-    Farbzeile Kundennr{SSTab1, "Frame_Kundennr", "Kundennummer", "Command_FARBE_KUNDENNR", "Frame_Kundennrfarbe",
+    Farbzeile Bemerkungen{SSTab1,
+                          "Frame_Bemerkungen",
+                          "Bemerkungen",
+                          "Command_FARBE_BEMERKUNGEN",
+                          "Frame_Bemerkungenfarbe",
+                          "Slider_Bemerkungenfarbe"};
+    Farbzeile Firmendaten{SSTab1,
+                          "Frame_Firmendaten",
+                          "Firmendaten",
+                          "Command_FARBE_FIRMENDATEN",
+                          "Frame_Firmendatenfarbe",
+                          "Slider_Firmendatenfarbe"};
+    Farbzeile Kundennr{SSTab1,
+                       "Frame_Kundennr",
+                       "Kundennummer",
+                       "Command_FARBE_KUNDENNR",
+                       "Frame_Kundennrfarbe",
                        "Slider_Kundennrfarbe"};
 
     // --- general page layout ---
@@ -175,9 +197,11 @@ struct frm_einstellungen : Form {
     OptionButton Option_RN_BM_nurletzte_Seite{Frame_RN_Bemerkungen, "Option_RN_BM_nurletzte_Seite",
                                               "nur auf die letzte Seite"};
     Frame Frame_Seitenzahldruck{Frame_DruckLayoutallgemein, "Frame_Seitenzahldruck", "Seitenzahlen"};
-    CheckBox Check_SEITENZAHLDRUCKEN{Frame_Seitenzahldruck, "Check_SEITENZAHLDRUCKEN", "Seitenzahlen drucken"};
+    CheckBox Check_SEITENZAHLDRUCKEN{Frame_Seitenzahldruck, "Check_SEITENZAHLDRUCKEN",
+                                     "Seitenzahlen drucken"};
     Frame Frame_Positionendruck{Frame_DruckLayoutallgemein, "Frame_Positionendruck", "Positionsnummern"};
-    CheckBox Check_Positionendruck{Frame_Positionendruck, "Check_Positionendruck", "Positionsnummern drucken"};
+    CheckBox Check_Positionendruck{Frame_Positionendruck, "Check_Positionendruck",
+                                   "Positionsnummern drucken"};
     Frame Frame13{Frame_DruckLayoutallgemein, "Frame13", "Faltmarken..."};
     CheckBox Check_Faltmarke_MITDRUCKEN{Frame13, "Check_Faltmarke_MITDRUCKEN", "Faltmarken drucken"};
 

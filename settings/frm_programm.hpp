@@ -21,13 +21,15 @@ struct frm_Programm : Form {
     Frame Frame_Individuell{*this, "Frame_Individuell", "Individuell"};
     Frame Frame_farbe_formular{Frame_Individuell, "Frame_farbe_formular"};
     Frame Frame_farbe_hintergrund{Frame_Individuell, "Frame_farbe_hintergrund"};
-    CommandButton Command_farbe_formular{Frame_Individuell, "Command_farbe_formular", "Formularfarbe wählen..."};
+    CommandButton Command_farbe_formular{Frame_Individuell, "Command_farbe_formular",
+                                         "Formularfarbe wählen..."};
     CommandButton Command_farbe_hintergrund{Frame_Individuell, "Command_farbe_hintergrund",
                                             "Hintergrundfarbe wählen..."};
     CheckBox Check_datum{*this, "Check_datum", "automatisch"};
     CommandButton Command_Vorschau{*this, "Command_Vorschau", "Vorschau"};
     CommandButton Command_uebernehmen{*this, "Command_uebernehmen", " Alle Änderungen       übernehmen"};
-    CommandButton Command_nichtuebernehmen{*this, "Command_nichtuebernehmen", "     Änderungen  nicht übernehmen"};
+    CommandButton Command_nichtuebernehmen{*this, "Command_nichtuebernehmen",
+                                           "     Änderungen  nicht übernehmen"};
     CommandButton Command_delreg{*this, "Command_delreg", "RESET "};
 };
 

@@ -66,7 +66,9 @@ public:
         std::error_code egal;
         std::filesystem::remove_all(ordner_, egal);
     }
-    std::string pfad(const std::string& name) const { return (std::filesystem::path(ordner_) / name).string(); }
+    std::string pfad(const std::string& name) const {
+        return (std::filesystem::path(ordner_) / name).string();
+    }
     const std::string& ordner() const { return ordner_; }
     std::string schreiben(const std::string& name, const std::string& bytes) const {
         std::ofstream(pfad(name), std::ios::binary) << bytes;

@@ -16,11 +16,19 @@ constexpr const char* kSpeicherfehler = "FEHLER BEIM SPEICHERN";
 Dateibefehle::Dateibefehle(Form1& form1, Rechnungszustand& zustand, Rechnung& rechnung, Summen& summen,
                            Dialogs& dialogs, Rechnungsschreiber& schreiber, Rechnungsleser& leser,
                            Rechnungsnummern& nummern, ZuletztGeoeffnet& zuletzt)
-    : form1_(form1), zustand_(zustand), rechnung_(rechnung), summen_(summen), dialogs_(dialogs),
-      schreiber_(schreiber), leser_(leser), nummern_(nummern), zuletzt_(zuletzt) {}
+    : form1_(form1),
+      zustand_(zustand),
+      rechnung_(rechnung),
+      summen_(summen),
+      dialogs_(dialogs),
+      schreiber_(schreiber),
+      leser_(leser),
+      nummern_(nummern),
+      zuletzt_(zuletzt) {}
 
 bool Dateibefehle::VorherSpeichern(Buttons tasten) {
-    switch (dialogs_.message({"Möchten Sie Ihre aktuelle Rechnung vorher speichern?", kProgrammname, tasten})) {
+    switch (
+        dialogs_.message({"Möchten Sie Ihre aktuelle Rechnung vorher speichern?", kProgrammname, tasten})) {
     case Answer::Yes:
         return m_speichern_Click();
     case Answer::Cancel:
@@ -97,9 +105,10 @@ void Dateibefehle::m_speichern_direkt_Click() {
 
 void Dateibefehle::SpeicherfehlerMelden() {
     form1_.StatusBar1[2].Caption = kSpeicherfehler;
-    dialogs_.message({"Es dürfen keine Sonderzeichen(:;!?\\/!§$%&()@?ß, etc. im Feld >>RECHNUNG,KUNDENNAME und DATUM "
-                      "enthalten sein.",
-                      "Achtung!"});
+    dialogs_.message(
+        {"Es dürfen keine Sonderzeichen(:;!?\\/!§$%&()@?ß, etc. im Feld >>RECHNUNG,KUNDENNAME und DATUM "
+         "enthalten sein.",
+         "Achtung!"});
 }
 
 void Dateibefehle::m_oeffnen_Click() {
@@ -153,7 +162,9 @@ void Dateibefehle::OeffnungsfehlerMelden(const std::string& pfad) {
     dialogs_.message({"Fehler beim öffnen dieser Datei.", "Achtung!"});
 }
 
-void Dateibefehle::PfadZeigen(const std::string& pfad) { form1_.Label_Pfad.Caption = pfad; }
+void Dateibefehle::PfadZeigen(const std::string& pfad) {
+    form1_.Label_Pfad.Caption = pfad;
+}
 
 void Dateibefehle::AktuellenPfadSetzen(const std::string& pfad) {
     zustand_.AktuellerPfad = pfad;

@@ -13,9 +13,9 @@ namespace quittika {
 /// New, open and save: the commands of the file menu.
 class Dateibefehle {
 public:
-    Dateibefehle(Form1& form1, Rechnungszustand& zustand, Rechnung& rechnung, Summen& summen, Dialogs& dialogs,
-                 Rechnungsschreiber& schreiber, Rechnungsleser& leser, Rechnungsnummern& nummern,
-                 ZuletztGeoeffnet& zuletzt);
+    Dateibefehle(Form1& form1, Rechnungszustand& zustand, Rechnung& rechnung, Summen& summen,
+                 Dialogs& dialogs, Rechnungsschreiber& schreiber, Rechnungsleser& leser,
+                 Rechnungsnummern& nummern, ZuletztGeoeffnet& zuletzt);
 
     /// Starts a new invoice, after asking whether to save the present one.
     void m_neu_Click();
@@ -31,7 +31,8 @@ public:
     /// Shows page `seite` (0 to 3) of the grid.
     void CMD_Seite1_Click(int seite);
 
-    /// Asks whether to save and does so. Answers false when the caller must stop: cancelled, or saving failed.
+    /// Asks whether to save and does so. Answers false when the caller must stop: cancelled, or saving
+    /// failed.
     bool VorherSpeichern(Buttons tasten);
 
 private:
@@ -40,7 +41,8 @@ private:
     void SpeicherfehlerMelden();
     void OeffnungsfehlerMelden(const std::string& pfad);
     void PfadZeigen(const std::string& pfad);
-    /// A file that was refused leaves no current path: what stands in the window is not what another file holds.
+    /// A file that was refused leaves no current path: what stands in the window is not what another file
+    /// holds.
     void AktuellenPfadSetzen(const std::string& pfad);
     void Auffrischen();
 

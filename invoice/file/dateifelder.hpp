@@ -44,11 +44,11 @@ inline constexpr const char* kNichtGesetzt = "#**#";
 inline constexpr const char* kListenmarke = "#qk8LIST#";
 
 enum class Lesart : std::uint8_t {
-    Nie,             ///< written only
-    Immer,           ///< taken as it stands
-    Wenn_Gesetzt,    ///< unless the line is "#**#"
-    Wenn_Numerisch,  ///< only a numeric line counts
-    Von_Hand,        ///< has a rule of its own
+    Nie,            ///< written only
+    Immer,          ///< taken as it stands
+    Wenn_Gesetzt,   ///< unless the line is "#**#"
+    Wenn_Numerisch, ///< only a numeric line counts
+    Von_Hand,       ///< has a rule of its own
 };
 
 /// One line of the file and the control that it belongs to: a text field, check box, option button or label.

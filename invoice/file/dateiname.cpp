@@ -16,7 +16,8 @@ std::string DATEINAME_VORSCHLAGEN(const Form1& form1) {
     }
     std::string name = std::to_string(datum->jahr) + "-" + format_zahl(datum->monat, "00") + "-" +
                        format_zahl(datum->tag, "00") + "+" + form1.Text_rechnung.Text() + " " +
-                       form1.Text_RNnr.Text() + "+" + form1.Text_KundennrK.Text() + "+" + form1.Text_Kunde_1.Text();
+                       form1.Text_RNnr.Text() + "+" + form1.Text_KundennrK.Text() + "+" +
+                       form1.Text_Kunde_1.Text();
     for (const char* zeichen : {":", "!", "@", "/", "\\", ";", ",", ".", "?", "*"}) {
         name = ZEICHENERSETZEN(name, zeichen, " ");
     }

@@ -14,10 +14,14 @@ namespace {
 
 constexpr int kHoechstzeilen = 32001;
 
-std::string mit_komma(const std::string& text) { return ZEICHENERSETZEN(text, ".", ","); }
+std::string mit_komma(const std::string& text) {
+    return ZEICHENERSETZEN(text, ".", ",");
+}
 
 /// Text to number and back; what is no number becomes 0.
-std::string normalisiert(const std::string& text) { return zahl_text(double_versuch(mit_komma(text)).value_or(0)); }
+std::string normalisiert(const std::string& text) {
+    return zahl_text(double_versuch(mit_komma(text)).value_or(0));
+}
 
 void text_uebernehmen(Control& steuerelement, const std::string& text) {
     if (auto* feld = dynamic_cast<TextBox*>(&steuerelement)) {
@@ -33,10 +37,16 @@ void text_uebernehmen(Control& steuerelement, const std::string& text) {
 
 Rechnungsleser::Rechnungsleser(Form1& form1, PROGRAMMEINSTELLUNG& einstellung, Rechnungszustand& zustand,
                                Rechnung& rechnung, Dialogs& dialogs)
-    : form1_(form1), einstellung_(einstellung), zustand_(zustand), rechnung_(rechnung), dialogs_(dialogs),
+    : form1_(form1),
+      einstellung_(einstellung),
+      zustand_(zustand),
+      rechnung_(rechnung),
+      dialogs_(dialogs),
       felder_(DATEIFELDER(form1)) {}
 
-void Rechnungsleser::DateiEinlesen(const std::string& pfad) { InhaltUebernehmen(bytes_lesen(pfad)); }
+void Rechnungsleser::DateiEinlesen(const std::string& pfad) {
+    InhaltUebernehmen(bytes_lesen(pfad));
+}
 
 void Rechnungsleser::InhaltUebernehmen(std::string_view bytes) {
     rechnung_.RechnungLeeren();
@@ -71,16 +81,18 @@ void Rechnungsleser::PositionUebernehmen(std::string_view zeile) {
         }
         const std::size_t anfang = ende + 1;
         ende = zeile.find(';', anfang);
-        ziel->AddItem(std::string(zeile.substr(anfang, ende == std::string_view::npos ? ende : ende - anfang)));
+        ziel->AddItem(
+            std::string(zeile.substr(anfang, ende == std::string_view::npos ? ende : ende - anfang)));
     }
 }
 
 bool Rechnungsleser::DateiDatenAnzeigen() {
     if (Dateiformat != kDateikennung) {
-        dialogs_.message({"Leider können Rechnungsdateien von früheren Versionen nicht geöffnet werden.\r\n"
-                          "Dazu gehören Dateien mit folgender Endkennung: >>*.qk6<< und >>*.qk7<<. Evtl. ist die "
-                          "gesuchte Datei auch nicht mehr am ursprünglichen Speicherort.",
-                          "Fehler...Datei ist keine >>*.qk8<< - Datei..."});
+        dialogs_.message(
+            {"Leider können Rechnungsdateien von früheren Versionen nicht geöffnet werden.\r\n"
+             "Dazu gehören Dateien mit folgender Endkennung: >>*.qk6<< und >>*.qk7<<. Evtl. ist die "
+             "gesuchte Datei auch nicht mehr am ursprünglichen Speicherort.",
+             "Fehler...Datei ist keine >>*.qk8<< - Datei..."});
         return false;
     }
     const Rechnungszustand::Sperre still(zustand_);

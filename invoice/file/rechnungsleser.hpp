@@ -16,8 +16,8 @@ namespace quittika {
 /// Reads an invoice file into the window.
 class Rechnungsleser {
 public:
-    Rechnungsleser(Form1& form1, PROGRAMMEINSTELLUNG& einstellung, Rechnungszustand& zustand, Rechnung& rechnung,
-                   Dialogs& dialogs);
+    Rechnungsleser(Form1& form1, PROGRAMMEINSTELLUNG& einstellung, Rechnungszustand& zustand,
+                   Rechnung& rechnung, Dialogs& dialogs);
 
     /// Resets the invoice and takes the file's lines into `DatenLesen` and its positions into the lists.
     /// A file that cannot be read raises its `Laufzeitfehler` and leaves the window as it was.

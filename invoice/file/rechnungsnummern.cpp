@@ -27,7 +27,11 @@ std::optional<int> zaehler_aus(const std::string& text) {
 
 Rechnungsnummern::Rechnungsnummern(Form1& form1, frm_einstellungen& einstellungen, Rechnungszustand& zustand,
                                    const Programmverzeichnis& verzeichnis, Dialogs& dialogs)
-    : form1_(form1), einstellungen_(einstellungen), zustand_(zustand), verzeichnis_(verzeichnis), dialogs_(dialogs) {}
+    : form1_(form1),
+      einstellungen_(einstellungen),
+      zustand_(zustand),
+      verzeichnis_(verzeichnis),
+      dialogs_(dialogs) {}
 
 void Rechnungsnummern::RNStartLesen() {
     const auto gelesen = zaehler_aus(DATEI_ERSTE_ZEILE(verzeichnis_.pfad("\\RN.txt")));
@@ -53,9 +57,10 @@ void Rechnungsnummern::NummerVerbrauchen() {
     try {
         DATEI_SCHREIBEN(verzeichnis_.pfad("\\RN.txt"), std::to_string(zaehler_));
     } catch (const Laufzeitfehler& fehler) {
-        dialogs_.message({"Die nächste Rechnungsnummer konnte nicht in >>RN.txt<< gespeichert werden. Fehlernr.: " +
-                              std::to_string(fehler.nummer()),
-                          "Achtung!", Buttons::Ok, Symbol::Exclamation});
+        dialogs_.message(
+            {"Die nächste Rechnungsnummer konnte nicht in >>RN.txt<< gespeichert werden. Fehlernr.: " +
+                 std::to_string(fehler.nummer()),
+             "Achtung!", Buttons::Ok, Symbol::Exclamation});
     }
 }
 

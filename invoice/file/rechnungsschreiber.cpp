@@ -20,13 +20,19 @@ std::string einzeilig(std::string text) {
     return text;
 }
 
-std::string numerisch_oder_null(const std::string& text) { return ist_numerisch(text) ? text : "0"; }
+std::string numerisch_oder_null(const std::string& text) {
+    return ist_numerisch(text) ? text : "0";
+}
 
 } // namespace
 
 Rechnungsschreiber::Rechnungsschreiber(Form1& form1, const PROGRAMMEINSTELLUNG& einstellung,
                                        const Rechnungszustand& zustand, Dialogs& dialogs, const Clock& uhr)
-    : form1_(form1), einstellung_(einstellung), zustand_(zustand), dialogs_(dialogs), uhr_(uhr),
+    : form1_(form1),
+      einstellung_(einstellung),
+      zustand_(zustand),
+      dialogs_(dialogs),
+      uhr_(uhr),
       felder_(DATEIFELDER(form1)) {}
 
 void Rechnungsschreiber::DateiDatenSammeln() {
@@ -80,9 +86,10 @@ bool Rechnungsschreiber::DateiSchreiben(const std::string& pfad) {
     PositionenAnfuegen(zeilen);
     try {
         const std::size_t ersetzt = schreiben(pfad, zeilen);
-        form1_.StatusBar1[3].Caption =
-            ersetzt == 0 ? std::string()
-                         : "Achtung: " + std::to_string(ersetzt) + " Zeichen kennt die Datei nicht, sie wurden ersetzt.";
+        form1_.StatusBar1[3].Caption = ersetzt == 0
+                                           ? std::string()
+                                           : "Achtung: " + std::to_string(ersetzt) +
+                                                 " Zeichen kennt die Datei nicht, sie wurden ersetzt.";
         return true;
     } catch (const Laufzeitfehler&) {
         dialogs_.message({"Fehler beim speichern", "FEHLER BEIM SPEICHERN"});

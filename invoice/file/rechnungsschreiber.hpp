@@ -21,8 +21,8 @@ public:
     /// Fills `DatenSchreiben` from the window.
     void DateiDatenSammeln();
     /// Writes `DatenSchreiben`, the time of saving and a line for each position; the old file stays until the
-    /// new one is complete. Shows a message and answers false when that fails. Characters that the file cannot
-    /// hold are named in panel 3.
+    /// new one is complete. Shows a message and answers false when that fails. Characters that the file
+    /// cannot hold are named in panel 3.
     bool DateiSchreiben(const std::string& pfad);
 
 private:

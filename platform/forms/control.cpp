@@ -6,14 +6,19 @@
 namespace quittika {
 
 Control::Control(Container& container, std::string_view name, std::string caption)
-    : Caption(*this, PropertyId::Caption, std::move(caption)), container_(container), form_(container.form()),
+    : Caption(*this, PropertyId::Caption, std::move(caption)),
+      container_(container),
+      form_(container.form()),
       name_(name) {
     form_.add(*this);
 }
 
 Control::Control(Container& container, ArrayIndex place, std::string caption)
-    : Caption(*this, PropertyId::Caption, std::move(caption)), container_(container), form_(container.form()),
-      name_(std::string(place.name) + "(" + std::to_string(place.index) + ")"), index_(place.index) {
+    : Caption(*this, PropertyId::Caption, std::move(caption)),
+      container_(container),
+      form_(container.form()),
+      name_(std::string(place.name) + "(" + std::to_string(place.index) + ")"),
+      index_(place.index) {
     form_.add(*this);
 }
 
@@ -43,7 +48,9 @@ void Control::SetFocus() {
     }
 }
 
-void Control::attach(std::unique_ptr<ControlView> view) { view_ = std::move(view); }
+void Control::attach(std::unique_ptr<ControlView> view) {
+    view_ = std::move(view);
+}
 
 void Control::changed(PropertyId id) {
     if (view_) {

@@ -130,7 +130,8 @@ private:
 };
 
 /// Calls an event if somebody listens.
-template <class... Args, class... Given> void fire_event(const std::function<void(Args...)>& event, Given&&... args) {
+template <class... Args, class... Given>
+void fire_event(const std::function<void(Args...)>& event, Given&&... args) {
     if (event) {
         event(std::forward<Given>(args)...);
     }
@@ -164,8 +165,8 @@ private:
     template <std::size_t... I, class C, class... Args>
     ControlArray(std::index_sequence<I...>, ControlArray<C, N, First>& frames, std::string_view name,
                  const Args&... args)
-        : items_{{T(frames[First + static_cast<int>(I)], ArrayIndex{name, First + static_cast<int>(I)}, args...)...}} {
-    }
+        : items_{{T(frames[First + static_cast<int>(I)], ArrayIndex{name, First + static_cast<int>(I)},
+                    args...)...}} {}
 
     std::array<T, N> items_;
 };

@@ -16,7 +16,8 @@ void require(bool condition, int error) {
 }
 
 const std::string& item(const std::vector<std::string>& items, int index) {
-    return index >= 0 && index < static_cast<int>(items.size()) ? items[static_cast<std::size_t>(index)] : kNothing;
+    return index >= 0 && index < static_cast<int>(items.size()) ? items[static_cast<std::size_t>(index)]
+                                                                : kNothing;
 }
 
 constexpr int kInvalidCall = 5;
@@ -66,7 +67,8 @@ void OptionButton::changed(PropertyId id) {
 void OptionButton::switch_siblings_off() {
     for (Control* control : form().controls()) {
         auto* sibling = dynamic_cast<OptionButton*>(control);
-        if (sibling == nullptr || sibling == this || &sibling->container() != &container() || !sibling->Value()) {
+        if (sibling == nullptr || sibling == this || &sibling->container() != &container() ||
+            !sibling->Value()) {
             continue;
         }
         sibling->Value.adopt(false);
@@ -82,7 +84,9 @@ void OptionButton::fire_for(PropertyId id) {
     }
 }
 
-const std::string& ListBox::List(int index) const { return item(items_, index); }
+const std::string& ListBox::List(int index) const {
+    return item(items_, index);
+}
 
 void ListBox::AddItem(std::string text) {
     items_.push_back(std::move(text));
@@ -146,7 +150,9 @@ ComboBox::ComboBox(Container& container, std::string_view name, std::vector<std:
     BackColor.adopt(color::kWindow);
 }
 
-const std::string& ComboBox::List(int index) const { return item(items_, index); }
+const std::string& ComboBox::List(int index) const {
+    return item(items_, index);
+}
 
 void ComboBox::AddItem(std::string text) {
     items_.push_back(std::move(text));
@@ -182,7 +188,9 @@ void ComboBox::fire_for(PropertyId id) {
 }
 
 RangeControl::RangeControl(Container& container, std::string_view name, int min, int max, int value)
-    : Control(container, name), Min(*this, PropertyId::Min, min), Max(*this, PropertyId::Max, max),
+    : Control(container, name),
+      Min(*this, PropertyId::Min, min),
+      Max(*this, PropertyId::Max, max),
       Value(*this, PropertyId::Value, value) {}
 
 void RangeControl::check(PropertyId id, std::int64_t value) const {

@@ -65,7 +65,7 @@ public:
     std::string main_value() const override { return Text(); }
 
     Property<std::string> Text;
-    Property<bool> Locked{*this, PropertyId::Locked, false}; ///< shown and selectable, but not to be edited
+    Property<bool> Locked{*this, PropertyId::Locked, false};  ///< shown and selectable, but not to be edited
     Property<int> SelStart{*this, PropertyId::SelStart, 0};   ///< characters
     Property<int> SelLength{*this, PropertyId::SelLength, 0}; ///< characters
 
@@ -150,7 +150,8 @@ private:
 /// A drop-down list; with `editable` the text can be typed, too.
 class ComboBox final : public Control {
 public:
-    ComboBox(Container& container, std::string_view name, std::vector<std::string> items = {}, bool editable = false);
+    ComboBox(Container& container, std::string_view name, std::vector<std::string> items = {},
+             bool editable = false);
     std::string_view kind() const override { return "ComboBox"; }
     std::string main_value() const override { return Text(); }
 

@@ -7,13 +7,16 @@ namespace quittika {
 namespace {
 
 constexpr std::array<std::string_view, 25> kNames{
-    "Text",        "Value",       "Caption", "Enabled", "Visible", "BackColor", "ForeColor", "FontBold", "ListIndex",
-    "ListCount",   "Min",         "Max",     "Interval", "ToolTipText", "WindowState", "Left", "Top",    "Width",
-    "Height",      "Picture",     "Path",    "Tab",     "SelStart", "SelLength", "Locked"};
+    "Text",        "Value",     "Caption",   "Enabled", "Visible", "BackColor", "ForeColor",
+    "FontBold",    "ListIndex", "ListCount", "Min",     "Max",     "Interval",  "ToolTipText",
+    "WindowState", "Left",      "Top",       "Width",   "Height",  "Picture",   "Path",
+    "Tab",         "SelStart",  "SelLength", "Locked"};
 
 } // namespace
 
-std::string_view property_name(PropertyId id) { return kNames.at(static_cast<std::size_t>(id)); }
+std::string_view property_name(PropertyId id) {
+    return kNames.at(static_cast<std::size_t>(id));
+}
 
 std::optional<PropertyId> property_id(std::string_view name) {
     for (std::size_t i = 0; i < kNames.size(); ++i) {

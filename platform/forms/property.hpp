@@ -15,11 +15,13 @@ namespace color {
 constexpr Color kWhite = 0x00FFFFFF;
 constexpr Color kBlack = 0;
 constexpr Color kYellow = 65535;
-constexpr Color kGrey = 12632256;             ///< grey of the frames
-constexpr Color kButtonFace = -2147483633;    ///< the desktop's button colour
-constexpr Color kWindow = -2147483643;        ///< the desktop's colour of text fields
-constexpr Color kWindowText = -2147483640;    ///< the desktop's text colour
-constexpr Color rgb(int red, int green, int blue) { return red | (green << 8) | (blue << 16); }
+constexpr Color kGrey = 12632256;          ///< grey of the frames
+constexpr Color kButtonFace = -2147483633; ///< the desktop's button colour
+constexpr Color kWindow = -2147483643;     ///< the desktop's colour of text fields
+constexpr Color kWindowText = -2147483640; ///< the desktop's text colour
+constexpr Color rgb(int red, int green, int blue) {
+    return red | (green << 8) | (blue << 16);
+}
 } // namespace color
 
 enum class PropertyId : std::uint8_t {
@@ -85,7 +87,9 @@ private:
 /// What all properties share: their kind, and their value as a script sees it.
 class PropertyBase {
 public:
-    PropertyBase(PropertyHost& host, PropertyId id) : host_(host), next_(host.first_), id_(id) { host.first_ = this; }
+    PropertyBase(PropertyHost& host, PropertyId id) : host_(host), next_(host.first_), id_(id) {
+        host.first_ = this;
+    }
     PropertyBase(const PropertyBase&) = delete;
     PropertyBase& operator=(const PropertyBase&) = delete;
 
@@ -108,7 +112,8 @@ private:
 /// writing the value that already stands there does nothing.
 template <class T> class Property final : public PropertyBase {
 public:
-    Property(PropertyHost& host, PropertyId id, T start = T{}) : PropertyBase(host, id), value_(std::move(start)) {}
+    Property(PropertyHost& host, PropertyId id, T start = T{})
+        : PropertyBase(host, id), value_(std::move(start)) {}
 
     const T& operator()() const { return value_; }
 

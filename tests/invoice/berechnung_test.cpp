@@ -23,11 +23,26 @@ struct Fall {
 TEST(Berechnung, JederModusVonHandGerechnet) {
     const Fall faelle[] = {
         {"leer", {0, false, 0, Mwst_Modus::Ohne, 19, 0}, "-0,00", "0,00", "0,00", "0,00"},
-        {"ohne Mehrwertsteuer mit Versand", {100, false, 0, Mwst_Modus::Ohne, 19, 5.9}, "-0,00", "100,00", "0,00", "105,90"},
+        {"ohne Mehrwertsteuer mit Versand",
+         {100, false, 0, Mwst_Modus::Ohne, 19, 5.9},
+         "-0,00",
+         "100,00",
+         "0,00",
+         "105,90"},
         {"plus", {100, false, 0, Mwst_Modus::Plus, 19, 0}, "-0,00", "100,00", "19,00", "119,00"},
-        {"plus mit Rabatt und Versand", {200, true, 10, Mwst_Modus::Plus, 19, 5}, "-20,00", "180,00", "34,20", "219,20"},
+        {"plus mit Rabatt und Versand",
+         {200, true, 10, Mwst_Modus::Plus, 19, 5},
+         "-20,00",
+         "180,00",
+         "34,20",
+         "219,20"},
         {"minus zieht ab", {119, false, 0, Mwst_Modus::Minus, 19, 0}, "-0,00", "119,00", "-19,00", "100,00"},
-        {"minus mit Bruttoversand", {119, false, 0, Mwst_Modus::Minus, 19, 10}, "-0,00", "119,00", "-19,00", "110,00"},
+        {"minus mit Bruttoversand",
+         {119, false, 0, Mwst_Modus::Minus, 19, 10},
+         "-0,00",
+         "119,00",
+         "-19,00",
+         "110,00"},
         {"inklusive", {107, false, 0, Mwst_Modus::Inklusive, 7, 0}, "-0,00", "107,00", "7,00", "107,00"},
         {"Rabatt 0", {10, true, 0, Mwst_Modus::Ohne, 0, 0}, "-0,00", "10,00", "0,00", "10,00"},
         {"Satz -100 plus", {10, false, 0, Mwst_Modus::Plus, -100, 0}, "-0,00", "10,00", "-10,00", "0,00"},
@@ -145,7 +160,10 @@ void eine_rechnung(unsigned saat) {
     f.Text_MwSt.Text = satz.text(2);
     f.Check_mwst.Value = modus == 0 ? 0 : 1;
     if (modus > 0) {
-        (modus == 1 ? f.Option_mwst_plus : modus == 2 ? f.Option_mwst_minus : f.Option_inkl_MwSt).Value = true;
+        (modus == 1   ? f.Option_mwst_plus
+         : modus == 2 ? f.Option_mwst_minus
+                      : f.Option_inkl_MwSt)
+            .Value = true;
     }
     f.Check_Versandkosten.Value = versandmodus == 0 ? 0 : 1;
     f.Text_PreisVersankostenEingabe.Text = versand.text(2);
@@ -158,7 +176,10 @@ void eine_rechnung(unsigned saat) {
     const Bruch rest = summe - abzug;
     const Bruch faktor = satz / hundert + Bruch{1, 1};
     const Bruch netto = rest / faktor;
-    const Bruch mwst = modus == 1 ? rest * faktor - rest : modus == 2 ? netto - rest : modus == 3 ? rest - netto : Bruch{};
+    const Bruch mwst = modus == 1   ? rest * faktor - rest
+                       : modus == 2 ? netto - rest
+                       : modus == 3 ? rest - netto
+                                    : Bruch{};
     const Bruch betrag = modus == 1 ? rest * faktor : modus == 2 ? netto : rest;
     const Bruch eingabe = versandmodus == 0 ? Bruch{} : versand;
     const Bruch versandnetto = eingabe / Bruch{119, 100};
@@ -169,7 +190,8 @@ void eine_rechnung(unsigned saat) {
     EXPECT_EQ(f.Text_summemwst.Text(), mwst.text(2));
     EXPECT_EQ(f.Text_gesamtbetrag.Text(), (betrag + eingabe).text(2));
     EXPECT_EQ(f.Text_PreisVersankosten.Text(), (versandmodus == 2 ? versandnetto : eingabe).text(2));
-    EXPECT_EQ(f.Text_PreisVersankostenMwST.Text(), versandmodus >= 2 ? (eingabe - versandnetto).text(2) : "0,00");
+    EXPECT_EQ(f.Text_PreisVersankostenMwST.Text(),
+              versandmodus >= 2 ? (eingabe - versandnetto).text(2) : "0,00");
     EXPECT_TRUE(p.dialoge.boxen.empty());
 }
 

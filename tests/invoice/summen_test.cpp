@@ -61,7 +61,8 @@ TEST(Summen, SaetzeBehaltenBeiFalscherEingabeIhrenWert) {
 
 TEST(Summen, NurZahlenAusserhalbVonKommentarenZaehlen) {
     Pruefstand p;
-    for (const auto& [art, betrag] : {std::pair{"-", "10,50"}, {"K", "99,00"}, {"T", " "}, {"-", "kaputt"}, {"X", "1,00"}}) {
+    for (const auto& [art, betrag] :
+         {std::pair{"-", "10,50"}, {"K", "99,00"}, {"T", " "}, {"-", "kaputt"}, {"X", "1,00"}}) {
         p.form1.List_K.AddItem(art);
         p.form1.List_pos.AddItem("?");
         p.form1.List_Gesamtp.AddItem(betrag);

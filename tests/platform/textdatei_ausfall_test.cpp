@@ -1,6 +1,7 @@
 #include "platform/laufzeitfehler.hpp"
 #include "platform/textdatei.hpp"
 #include "platform/verzeichnis.hpp"
+#include "tests/ohne_vorrechte.hpp"
 #include "tests/pruefstand.hpp"
 
 #include <gtest/gtest.h>
@@ -73,14 +74,14 @@ TEST(TextdateiAusfall, HalbAngehaengteZeileWirdZurueckgenommen) {
 }
 
 TEST(TextdateiAusfall, SchreibgeschuetzteDatei) {
-    if (geteuid() == 0) {
-        GTEST_SKIP() << "root may write to a read-only file";
-    }
     const Probenordner o;
     o.schreiben("preise.txt", "alt\r\n");
-    chmod(o.pfad("preise.txt").c_str(), 0400);
-    EXPECT_EQ(nummer_aus([&] { schreiben(o.pfad("preise.txt"), {"neu"}); }), fehler::kZugriffVerweigert);
-    EXPECT_EQ(ZEILE_ANHAENGEN(o.pfad("preise.txt"), "neu").fehlernummer, fehler::kZugriffVerweigert);
+    {
+        const OhneVorrechte niemand(o.ordner(), o.pfad("preise.txt"));
+        chmod(o.pfad("preise.txt").c_str(), 0400);
+        EXPECT_EQ(nummer_aus([&] { schreiben(o.pfad("preise.txt"), {"neu"}); }), fehler::kZugriffVerweigert);
+        EXPECT_EQ(ZEILE_ANHAENGEN(o.pfad("preise.txt"), "neu").fehlernummer, fehler::kZugriffVerweigert);
+    }
     EXPECT_EQ(o.lesen("preise.txt"), "alt\r\n");
 }
 

@@ -1,6 +1,7 @@
 #include "platform/textdatei.hpp"
 
 #include "platform/verzeichnis.hpp"
+#include "tests/ohne_vorrechte.hpp"
 #include "tests/pruefstand.hpp"
 
 #include <gtest/gtest.h>
@@ -56,27 +57,6 @@ TEST(Textdatei, FehlerHabenIhreNummer) {
     EXPECT_EQ(schreibfehler("/dev/full"), fehler::kDatentraegerVoll);
     EXPECT_EQ(ZEILE_ANHAENGEN("/dev/full", "x").fehlernummer, fehler::kDatentraegerVoll);
 }
-
-/// Acts as a user who may not write everywhere, for its lifetime.
-class OhneVorrechte {
-public:
-    explicit OhneVorrechte(const std::string& ordner) : war_root_(geteuid() == 0) {
-        constexpr uid_t kNiemand = 65534;
-        if (war_root_ && (chown(ordner.c_str(), kNiemand, kNiemand) != 0 || seteuid(kNiemand) != 0)) {
-            ADD_FAILURE() << "cannot give up the rights of root";
-        }
-    }
-    OhneVorrechte(const OhneVorrechte&) = delete;
-    OhneVorrechte& operator=(const OhneVorrechte&) = delete;
-    ~OhneVorrechte() {
-        if (war_root_ && seteuid(0) != 0) {
-            ADD_FAILURE() << "cannot take back the rights of root";
-        }
-    }
-
-private:
-    bool war_root_;
-};
 
 TEST(Textdatei, GesperrterOrdnerLaesstDasAlteStehen) {
     const Probenordner o;

@@ -27,15 +27,44 @@ TEST(Zahlen, TextWirdZahlOderNicht) {
     };
     const std::string lang(600, '9');
     const Fall faelle[] = {
-        {"0", 0},          {"1,5", 1.5},       {"1,5 ", 1.5},       {" \t-1,5", -1.5}, {"1.234,5", 1234.5},
-        {"1.2", 12},       {"1e3", 1000},      {"1E+3", 1000},      {"2d-2", 0.02},    {",5", 0.5},
-        {"5,", 5},         {"+7", 7},          {"- 7", -7},         {"7-", -7},        {"0,1", 0.1},
-        {"1e-400", 0.0},   {"1e308", 1e308},   {"", std::nullopt},  {" ", std::nullopt}, {"-", std::nullopt},
-        {",", std::nullopt}, {"12a", std::nullopt}, {"1,2,3", std::nullopt}, {"1,2.3", std::nullopt},
-        {"1e", std::nullopt}, {"1e+", std::nullopt}, {"e5", std::nullopt}, {"--1", std::nullopt},
-        {"-1-", std::nullopt}, {"nan", std::nullopt}, {"inf", std::nullopt}, {"0x10", std::nullopt},
-        {"1e400", std::nullopt}, {"001e999", std::nullopt}, {"1 2", std::nullopt}, {".5", std::nullopt},
-        {"5€", std::nullopt}, {lang.c_str(), std::nullopt},
+        {"0", 0},
+        {"1,5", 1.5},
+        {"1,5 ", 1.5},
+        {" \t-1,5", -1.5},
+        {"1.234,5", 1234.5},
+        {"1.2", 12},
+        {"1e3", 1000},
+        {"1E+3", 1000},
+        {"2d-2", 0.02},
+        {",5", 0.5},
+        {"5,", 5},
+        {"+7", 7},
+        {"- 7", -7},
+        {"7-", -7},
+        {"0,1", 0.1},
+        {"1e-400", 0.0},
+        {"1e308", 1e308},
+        {"", std::nullopt},
+        {" ", std::nullopt},
+        {"-", std::nullopt},
+        {",", std::nullopt},
+        {"12a", std::nullopt},
+        {"1,2,3", std::nullopt},
+        {"1,2.3", std::nullopt},
+        {"1e", std::nullopt},
+        {"1e+", std::nullopt},
+        {"e5", std::nullopt},
+        {"--1", std::nullopt},
+        {"-1-", std::nullopt},
+        {"nan", std::nullopt},
+        {"inf", std::nullopt},
+        {"0x10", std::nullopt},
+        {"1e400", std::nullopt},
+        {"001e999", std::nullopt},
+        {"1 2", std::nullopt},
+        {".5", std::nullopt},
+        {"5€", std::nullopt},
+        {lang.c_str(), std::nullopt},
     };
     for (const Fall& f : faelle) {
         EXPECT_EQ(double_versuch(f.text), f.wert) << "»" << f.text << "«";
@@ -48,7 +77,8 @@ TEST(Zahlen, TextWirdZahlOderNicht) {
 }
 
 TEST(Zahlen, GanzzahlenRundenZurGeraden) {
-    const std::pair<double, int> gut[] = {{2.5, 2}, {3.5, 4}, {-2.5, -2}, {0.5, 0}, {32767.4, 32767}, {32766.5, 32766}, {-32768.5, -32768}};
+    const std::pair<double, int> gut[] = {{2.5, 2},         {3.5, 4},         {-2.5, -2},        {0.5, 0},
+                                          {32767.4, 32767}, {32766.5, 32766}, {-32768.5, -32768}};
     for (const auto& [wert, erwartet] : gut) {
         EXPECT_EQ(nach_int16(wert), erwartet) << wert;
     }
@@ -91,17 +121,33 @@ TEST(Zahlen, FormateRundenDenDezimaltext) {
         const char* text;
     };
     const Fall faelle[] = {
-        {1.005, "0.00", "1,01"},   {2.675, "0.00", "2,68"},    {0.1 + 0.2, "0.00", "0,30"},  {-0.005, "0.00", "-0,01"},
-        {-0.004, "0.00", "0,00"},  {0, "-0.00", "-0,00"},      {5, "-0.00", "-5,00"},        {-5, "-0.00", "--5,00"},
-        {7, "000", "007"},         {1234, "000", "1234"},      {-7, "000", "-007"},          {2.5, "0", "3"},
-        {99.995, "0.00", "100,00"}, {0.5, "0", "1"},           {0.4, "0", "0"},              {1234567.891, "0.00", "1234567,89"},
-        {1e15, "0.00", "1000000000000000,00"}, {1e-300, "0.000", "0,000"}, {12.3456, "0.0000", "12,3456"}, {9.9995, "0.000", "10,000"},
+        {1.005, "0.00", "1,01"},
+        {2.675, "0.00", "2,68"},
+        {0.1 + 0.2, "0.00", "0,30"},
+        {-0.005, "0.00", "-0,01"},
+        {-0.004, "0.00", "0,00"},
+        {0, "-0.00", "-0,00"},
+        {5, "-0.00", "-5,00"},
+        {-5, "-0.00", "--5,00"},
+        {7, "000", "007"},
+        {1234, "000", "1234"},
+        {-7, "000", "-007"},
+        {2.5, "0", "3"},
+        {99.995, "0.00", "100,00"},
+        {0.5, "0", "1"},
+        {0.4, "0", "0"},
+        {1234567.891, "0.00", "1234567,89"},
+        {1e15, "0.00", "1000000000000000,00"},
+        {1e-300, "0.000", "0,000"},
+        {12.3456, "0.0000", "12,3456"},
+        {9.9995, "0.000", "10,000"},
     };
     for (const Fall& f : faelle) {
         EXPECT_EQ(format_zahl(f.wert, f.muster), f.text) << f.wert << " " << f.muster;
     }
     EXPECT_EQ(format_zahl(1.5, "0.00", Locale{'.', ',', "True", "False"}), "1.50");
-    EXPECT_EQ(fehlernummer([] { format_zahl(std::numeric_limits<double>::quiet_NaN(), "0.00"); }), fehler::kUeberlauf);
+    EXPECT_EQ(fehlernummer([] { format_zahl(std::numeric_limits<double>::quiet_NaN(), "0.00"); }),
+              fehler::kUeberlauf);
 }
 
 TEST(Zahlen, WahrheitswerteInAllenSchreibweisen) {

@@ -17,9 +17,7 @@ template <class F> std::unique_ptr<Form> make() {
 }
 
 /// Every form that has a window; the settings are forms without one.
-inline const std::vector<MakeForm> kForms{make<Form1>,
-                                          make<Form_START>,
-                                          make<Form_ueber_QUITTIKA>,
+inline const std::vector<MakeForm> kForms{make<Form1>, make<Form_START>, make<Form_ueber_QUITTIKA>,
                                           make<Form_Lieferschein_opt>};
 
 } // namespace quittika::test

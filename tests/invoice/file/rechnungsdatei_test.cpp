@@ -16,7 +16,8 @@ namespace {
 
 std::string ohne_zeitzeile(const std::string& datei) {
     const std::size_t anfang = datei.find("Gespeichert am: ");
-    return anfang == std::string::npos ? datei : datei.substr(0, anfang) + datei.substr(datei.find("\r\n", anfang));
+    return anfang == std::string::npos ? datei
+                                       : datei.substr(0, anfang) + datei.substr(datei.find("\r\n", anfang));
 }
 
 /// Fills every field of the invoice with something of its own.
@@ -31,7 +32,8 @@ void fuellen(Pruefstand& p, unsigned saat) {
             }
         } else if (auto* haken = dynamic_cast<CheckBox*>(feld.steuerelement)) {
             haken->Value = jeder() ? 1 : 0;
-        } else if (auto* option = dynamic_cast<OptionButton*>(feld.steuerelement); option != nullptr && jeder()) {
+        } else if (auto* option = dynamic_cast<OptionButton*>(feld.steuerelement);
+                   option != nullptr && jeder()) {
             option->Value = true;
         } else if (dynamic_cast<Label*>(feld.steuerelement) != nullptr) {
             feld.steuerelement->Caption = "Spalte " + std::to_string(feld.zeile);
@@ -44,7 +46,8 @@ void fuellen(Pruefstand& p, unsigned saat) {
     f.Check_K.Value = 0;
     for (unsigned i = zufall() % 20; i > 0; --i) {
         f.Check_K.Value = jeder() ? 1 : 0;
-        p.zeile(std::to_string(1 + zufall() % 9), "Leistung " + std::to_string(i), "1,9" + std::to_string(zufall() % 10));
+        p.zeile(std::to_string(1 + zufall() % 9), "Leistung " + std::to_string(i),
+                "1,9" + std::to_string(zufall() % 10));
         if (zufall() % 5 == 0) {
             p.positionen.Command_Trennzeile_Click();
         }
@@ -68,7 +71,8 @@ TEST(Rechnungsdatei, GespeichertGeoeffnetGespeichertIstDieselbe) {
                 if (auto* text = dynamic_cast<TextBox*>(&ziel)) {
                     text->Text = dynamic_cast<TextBox&>(*feld.steuerelement).Text();
                 } else {
-                    dynamic_cast<CheckBox&>(ziel).Value = dynamic_cast<CheckBox&>(*feld.steuerelement).Value();
+                    dynamic_cast<CheckBox&>(ziel).Value =
+                        dynamic_cast<CheckBox&>(*feld.steuerelement).Value();
                 }
             }
         }
@@ -99,13 +103,39 @@ TEST(Rechnungsdatei, JedeZeileStehtAnIhrerStelle) {
     const std::vector<std::string> zeilen = lesen(p.ordner.pfad("a.qk8"));
     ASSERT_EQ(zeilen.size(), 1003U);
     const std::pair<std::size_t, const char*> erwartet[] = {
-        {0, "qk8"},         {1, "RECHNUNG"},  {2, "05.03.2008"}, {3, "Müller"},          {8, "m1"},
-        {34, "p9"},         {35, "0"},        {36, "False"},     {38, "19,00"},          {40, "Anschreiben 2"},
-        {51, "g9"},         {52, "10,00"},    {54, "10,00"},     {58, "1"},              {59, "2"},
-        {60, "19"},         {61, "Arial"},    {74, "-0,00"},     {76, "Versandkosten:"}, {80, "0042"},
-        {81, "1"},          {82, "0"},        {215, "letztes Rasterfeld"}, {218, "Es liegen keine Notizen vor..."},
-        {219, "0,00"},      {224, "Bemerkung 4"}, {225, "Pos."}, {229, "Gesamtpreis[EUR]"}, {230, " "},
-        {231, "0"},         {232, "#**#"},    {1000, "#**#"},    {1001, "Gespeichert am: 05.03.2008 10:20:30"},
+        {0, "qk8"},
+        {1, "RECHNUNG"},
+        {2, "05.03.2008"},
+        {3, "Müller"},
+        {8, "m1"},
+        {34, "p9"},
+        {35, "0"},
+        {36, "False"},
+        {38, "19,00"},
+        {40, "Anschreiben 2"},
+        {51, "g9"},
+        {52, "10,00"},
+        {54, "10,00"},
+        {58, "1"},
+        {59, "2"},
+        {60, "19"},
+        {61, "Arial"},
+        {74, "-0,00"},
+        {76, "Versandkosten:"},
+        {80, "0042"},
+        {81, "1"},
+        {82, "0"},
+        {215, "letztes Rasterfeld"},
+        {218, "Es liegen keine Notizen vor..."},
+        {219, "0,00"},
+        {224, "Bemerkung 4"},
+        {225, "Pos."},
+        {229, "Gesamtpreis[EUR]"},
+        {230, " "},
+        {231, "0"},
+        {232, "#**#"},
+        {1000, "#**#"},
+        {1001, "Gespeichert am: 05.03.2008 10:20:30"},
         {1002, "#qk8LIST#;1;-;2;Stuhl;5,00;10,00"},
     };
     for (const auto& [nummer, text] : erwartet) {
@@ -162,7 +192,9 @@ TEST(Rechnungsdatei, LesenEndetNachHoechstzahl) {
     Pruefstand p;
     std::string datei = "qk8\r\nTITEL\r\n";
     for (int i = 2; i < 40000; ++i) {
-        datei += i == 32000 ? "#qk8LIST#;1;-;1;drin;1,00;1,00\n" : i == 32001 ? "#qk8LIST#;2;-;1;draußen;1,00;1,00\n" : "x\n";
+        datei += i == 32000   ? "#qk8LIST#;1;-;1;drin;1,00;1,00\n"
+                 : i == 32001 ? "#qk8LIST#;2;-;1;draußen;1,00;1,00\n"
+                              : "x\n";
     }
     p.ordner.schreiben("lang.qk8", datei);
     EXPECT_TRUE(p.oeffnen("lang.qk8"));
@@ -181,7 +213,8 @@ TEST(Rechnungsdatei, SchlechteDateienKostenNichts) {
         {"rauschen mit kennung", "qk8\n" + rauschen},
         {"nullen", nullen},
         {"leer", ""},
-        {"eine Zeile von 10 MB", "qk8\r\n" + std::string(10U << 20U, 'x') + "\r\n#qk8LIST#;1;-;1;" + std::string(1U << 20U, 'y') + ";1,00;1,00\r\n"},
+        {"eine Zeile von 10 MB", "qk8\r\n" + std::string(10U << 20U, 'x') + "\r\n#qk8LIST#;1;-;1;" +
+                                     std::string(1U << 20U, 'y') + ";1,00;1,00\r\n"},
     };
     for (const auto& [name, bytes] : dateien) {
         SCOPED_TRACE(name);
@@ -257,7 +290,8 @@ TEST(Rechnungsdatei, WasDerZeichensatzNichtKenntWirdGesagt) {
     const std::vector<std::string> zeilen = lesen(p.ordner.pfad("a.qk8"));
     EXPECT_EQ(zeilen[3], "Lukasz Novácek ?");
     EXPECT_EQ(zeilen[4], "Straße 5 €");
-    EXPECT_EQ(p.form1.StatusBar1[3].Caption(), "Achtung: 3 Zeichen kennt die Datei nicht, sie wurden ersetzt.");
+    EXPECT_EQ(p.form1.StatusBar1[3].Caption(),
+              "Achtung: 3 Zeichen kennt die Datei nicht, sie wurden ersetzt.");
     p.form1.Text_Kunde_1.Text = "Lukasz";
     ASSERT_TRUE(p.speichern("a.qk8"));
     EXPECT_EQ(p.form1.StatusBar1[3].Caption(), "");
