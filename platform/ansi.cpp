@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
-#include <cstring>
 #include <utility>
 
 namespace quittika {
@@ -139,21 +138,6 @@ std::string_view ersatz_fuer(char32_t c) {
         }
     }
     return c >= 0x0300 && c <= 0x036F ? "" : "?";
-}
-
-/// Length of the run of ASCII characters at `anfang`: most text is nothing else, and is copied as it stands.
-std::size_t ascii_lauf(std::string_view text, std::size_t anfang) {
-    std::size_t i = anfang;
-    for (std::uint64_t acht = 0; i + sizeof acht <= text.size(); i += sizeof acht) {
-        std::memcpy(&acht, text.data() + i, sizeof acht);
-        if ((acht & 0x8080808080808080U) != 0) {
-            break;
-        }
-    }
-    while (i < text.size() && static_cast<unsigned char>(text[i]) < 0x80) {
-        ++i;
-    }
-    return i - anfang;
 }
 
 } // namespace

@@ -18,8 +18,9 @@ std::size_t stelle(std::string_view text, std::size_t nummer) {
 } // namespace
 
 std::size_t zeichenzahl(std::string_view text) {
-    std::size_t anzahl = 0;
-    for (std::size_t i = 0; i < text.size(); i += utf8_zeichen(text, i).laenge) {
+    const std::size_t ascii = ascii_lauf(text, 0);
+    std::size_t anzahl = ascii;
+    for (std::size_t i = ascii; i < text.size(); i += utf8_zeichen(text, i).laenge) {
         ++anzahl;
     }
     return anzahl;

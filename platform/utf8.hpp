@@ -1,6 +1,8 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
+#include <cstring>
 #include <string_view>
 
 namespace quittika {
@@ -37,6 +39,21 @@ inline Utf8Zeichen utf8_zeichen(std::string_view text, std::size_t i) {
     const bool ueberlang = (laenge == 3 && wert < 0x800) || (laenge == 4 && wert < 0x10000);
     const bool ersatzzeichen = wert >= 0xD800 && wert <= 0xDFFF;
     return ueberlang || ersatzzeichen || wert > 0x10FFFF ? kUngueltig : Utf8Zeichen{wert, laenge};
+}
+
+/// Length of the run of ASCII characters at `anfang`: most text is nothing else, and is quickly done with.
+inline std::size_t ascii_lauf(std::string_view text, std::size_t anfang) {
+    std::size_t i = anfang;
+    for (std::uint64_t acht = 0; i + sizeof acht <= text.size(); i += sizeof acht) {
+        std::memcpy(&acht, text.data() + i, sizeof acht);
+        if ((acht & 0x8080808080808080U) != 0) {
+            break;
+        }
+    }
+    while (i < text.size() && static_cast<unsigned char>(text[i]) < 0x80) {
+        ++i;
+    }
+    return i - anfang;
 }
 
 } // namespace quittika

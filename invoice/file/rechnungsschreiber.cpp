@@ -67,7 +67,6 @@ void Rechnungsschreiber::PositionenAnfuegen(std::vector<std::string>& zeilen) co
     const std::array<const ListBox*, 6> listen{&f.List_pos,      &f.List_K,     &f.List_Menge,
                                                &f.List_Leistung, &f.List_Preis, &f.List_Gesamtp};
     constexpr std::size_t kUebrigeFelder = 64;
-    zeilen.reserve(zeilen.size() + f.List_Gesamtp.items().size());
     for (int i = 0; i < f.List_Gesamtp.ListCount(); ++i) {
         std::string zeile;
         zeile.reserve(f.List_Leistung.List(i).size() + kUebrigeFelder);
@@ -81,7 +80,9 @@ void Rechnungsschreiber::PositionenAnfuegen(std::vector<std::string>& zeilen) co
 }
 
 bool Rechnungsschreiber::DateiSchreiben(const std::string& pfad) {
-    std::vector<std::string> zeilen = DatenSchreiben.alle();
+    std::vector<std::string> zeilen;
+    zeilen.reserve(DatenSchreiben.alle().size() + 1 + form1_.List_Gesamtp.items().size());
+    zeilen = DatenSchreiben.alle();
     zeilen.push_back("Gespeichert am: " + datum_zeit_text(uhr_.now()));
     PositionenAnfuegen(zeilen);
     try {
