@@ -4,7 +4,7 @@
 
 namespace quittika {
 
-AmountField::AmountField(QWidget *parent) : QLineEdit(parent) {
+AmountField::AmountField(QWidget* parent) : QLineEdit(parent) {
     setFrame(false);
     setReadOnly(true);
     setAlignment(Qt::AlignRight | Qt::AlignVCenter);
@@ -24,7 +24,7 @@ void AmountField::clear_ground() {
     setPalette(clear);
 }
 
-void AmountField::changeEvent(QEvent *event) {
+void AmountField::changeEvent(QEvent* event) {
     QLineEdit::changeEvent(event);
     // A palette that was taken back leaves the field without a ground again.
     if (event->type() == QEvent::PaletteChange && !testAttribute(Qt::WA_SetPalette)) {

@@ -9,12 +9,12 @@ namespace quittika {
 class AmountField : public QLineEdit {
     Q_OBJECT
 public:
-    explicit AmountField(QWidget *parent = nullptr);
+    explicit AmountField(QWidget* parent = nullptr);
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }
 
 protected:
-    void changeEvent(QEvent *event) override;
+    void changeEvent(QEvent* event) override;
 
 private:
     void clear_ground();

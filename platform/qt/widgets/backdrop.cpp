@@ -6,12 +6,12 @@
 
 namespace quittika {
 
-Backdrop::Backdrop(QWidget *parent) : QLabel(parent) {
+Backdrop::Backdrop(QWidget* parent) : QLabel(parent) {
     setAttribute(Qt::WA_TransparentForMouseEvents);
 }
 
-void Backdrop::showEvent(QShowEvent *event) {
-    QWidget *surface = parentWidget();
+void Backdrop::showEvent(QShowEvent* event) {
+    QWidget* surface = parentWidget();
     if (surface->layout() != nullptr) {
         surface->layout()->removeWidget(this);
     }
@@ -22,14 +22,14 @@ void Backdrop::showEvent(QShowEvent *event) {
     QLabel::showEvent(event);
 }
 
-void Backdrop::paintEvent(QPaintEvent * /*event*/) {
+void Backdrop::paintEvent(QPaintEvent* /*event*/) {
     const QPixmap tile = pixmap(Qt::ReturnByValue);
     if (!tile.isNull()) {
         QPainter(this).drawTiledPixmap(rect(), tile);
     }
 }
 
-bool Backdrop::eventFilter(QObject *watched, QEvent *event) {
+bool Backdrop::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::Resize && watched == parentWidget()) {
         setGeometry(parentWidget()->rect());
     }

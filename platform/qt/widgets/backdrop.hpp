@@ -9,12 +9,12 @@ namespace quittika {
 class Backdrop : public QLabel {
     Q_OBJECT
 public:
-    explicit Backdrop(QWidget *parent = nullptr);
+    explicit Backdrop(QWidget* parent = nullptr);
 
 protected:
-    void showEvent(QShowEvent *event) override;
-    void paintEvent(QPaintEvent *event) override;
-    bool eventFilter(QObject *watched, QEvent *event) override;
+    void showEvent(QShowEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 };
 
 } // namespace quittika

@@ -15,7 +15,7 @@ constexpr double kRadius = 5.0;
 
 } // namespace
 
-Card::Card(QWidget *parent) : QGroupBox(parent) {}
+Card::Card(QWidget* parent) : QGroupBox(parent) {}
 
 QFont Card::title_font() const {
     QFont bold = font();
@@ -31,7 +31,7 @@ QColor Card::panel_color() const {
     return window.lightness() < 128 ? window.lighter(118) : theme::mix(Qt::white, window, 0.72);
 }
 
-bool Card::event(QEvent *event) {
+bool Card::event(QEvent* event) {
     const bool handled = QGroupBox::event(event);
     if (event->type() == QEvent::ContentsRectChange || event->type() == QEvent::Polish) {
         // The style reserves a frame that is not drawn here.
@@ -43,7 +43,7 @@ bool Card::event(QEvent *event) {
     return handled;
 }
 
-void Card::paintEvent(QPaintEvent * /*event*/) {
+void Card::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     const QColor panel = panel_color();

@@ -10,11 +10,11 @@ namespace quittika {
 class Card : public QGroupBox {
     Q_OBJECT
 public:
-    explicit Card(QWidget *parent = nullptr);
+    explicit Card(QWidget* parent = nullptr);
 
 protected:
-    bool event(QEvent *event) override;
-    void paintEvent(QPaintEvent *event) override;
+    bool event(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
 
 private:
     QFont title_font() const;

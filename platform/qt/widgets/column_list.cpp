@@ -23,13 +23,13 @@ QFont fixed_pitch(double points) {
     return font;
 }
 
-double character_width(const QFont &font) {
+double character_width(const QFont& font) {
     return QFontMetricsF(font).horizontalAdvance(QString(100, QLatin1Char('0'))) / 100.0;
 }
 
 } // namespace
 
-ColumnList::ColumnList(QWidget *parent) : QListView(parent) {
+ColumnList::ColumnList(QWidget* parent) : QListView(parent) {
     setFont(fixed_pitch(kSmallestFont));
     setUniformItemSizes(true);
     setAlternatingRowColors(true);
@@ -77,7 +77,7 @@ void ColumnList::fit_font() {
     }
 }
 
-void ColumnList::resizeEvent(QResizeEvent *event) {
+void ColumnList::resizeEvent(QResizeEvent* event) {
     QListView::resizeEvent(event);
     fit_font();
 }

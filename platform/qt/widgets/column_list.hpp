@@ -9,7 +9,7 @@ class ColumnList : public QListView {
     Q_OBJECT
     Q_PROPERTY(int columns READ columns WRITE setColumns)
 public:
-    explicit ColumnList(QWidget *parent = nullptr);
+    explicit ColumnList(QWidget* parent = nullptr);
 
     int columns() const { return columns_; }
     void setColumns(int columns);
@@ -22,7 +22,7 @@ public:
     QSize minimumSizeHint() const override;
 
 protected:
-    void resizeEvent(QResizeEvent *event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
     int chrome_width() const;

@@ -14,20 +14,20 @@ class ColumnRow : public QWidget {
     Q_OBJECT
     Q_PROPERTY(QString list READ list WRITE setList)
 public:
-    explicit ColumnRow(QWidget *parent = nullptr);
+    explicit ColumnRow(QWidget* parent = nullptr);
 
     /// Object name of the list in the same window.
     QString list() const { return list_name_; }
-    void setList(const QString &name) { list_name_ = name; }
+    void setList(const QString& name) { list_name_ = name; }
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }
 
 protected:
-    bool event(QEvent *event) override;
-    bool eventFilter(QObject *watched, QEvent *event) override;
+    bool event(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    ColumnList *find_list();
+    ColumnList* find_list();
     void place_children();
 
     QString list_name_;

@@ -1,8 +1,13 @@
 #include "platform/qt/widgets/disclosure_button.hpp"
 
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QStyleOptionToolButton>
+#include <QTimer>
+
 namespace quittika {
 
-DisclosureButton::DisclosureButton(QWidget *parent) : QToolButton(parent) {
+DisclosureButton::DisclosureButton(QWidget* parent) : QToolButton(parent) {
     setCheckable(true);
     setAutoRaise(true);
     setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
@@ -11,8 +16,27 @@ DisclosureButton::DisclosureButton(QWidget *parent) : QToolButton(parent) {
     connect(this, &QToolButton::toggled, this, &DisclosureButton::show_state);
 }
 
+void DisclosureButton::initStyleOption(QStyleOptionToolButton* option) const {
+    QToolButton::initStyleOption(option);
+    // It stands on the window itself, so it takes the window's text colour.
+    option->palette.setBrush(QPalette::ButtonText, palette().windowText());
+}
+
 void DisclosureButton::show_state(bool open) {
     setArrowType(open ? Qt::DownArrow : Qt::RightArrow);
+    if (open) {
+        // The layout has to make room first.
+        QTimer::singleShot(0, this, &DisclosureButton::scroll_up);
+    }
+}
+
+void DisclosureButton::scroll_up() {
+    for (QWidget* outer = parentWidget(); outer != nullptr; outer = outer->parentWidget()) {
+        if (auto* area = qobject_cast<QScrollArea*>(outer)) {
+            area->verticalScrollBar()->setValue(mapTo(area->widget(), QPoint()).y());
+            return;
+        }
+    }
 }
 
 } // namespace quittika

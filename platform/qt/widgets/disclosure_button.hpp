@@ -5,13 +5,18 @@
 namespace quittika {
 
 /// Heading of a part of a window that can be folded away; switched on, the part is open.
+/// In a scroll area an opened part comes into view.
 class DisclosureButton : public QToolButton {
     Q_OBJECT
 public:
-    explicit DisclosureButton(QWidget *parent = nullptr);
+    explicit DisclosureButton(QWidget* parent = nullptr);
+
+protected:
+    void initStyleOption(QStyleOptionToolButton* option) const override;
 
 private:
     void show_state(bool open);
+    void scroll_up();
 };
 
 } // namespace quittika

@@ -7,7 +7,7 @@
 
 namespace quittika {
 
-ElidedLabel::ElidedLabel(QWidget *parent) : QLabel(parent) {
+ElidedLabel::ElidedLabel(QWidget* parent) : QLabel(parent) {
     setTextFormat(Qt::PlainText);
 }
 
@@ -25,7 +25,7 @@ QString ElidedLabel::shown_text() const {
     return fontMetrics().elidedText(text(), mode_, contentsRect().width() - 2 * margin());
 }
 
-void ElidedLabel::paintEvent(QPaintEvent * /*event*/) {
+void ElidedLabel::paintEvent(QPaintEvent* /*event*/) {
     QStylePainter painter(this);
     const QRect box = contentsRect().adjusted(margin(), margin(), -margin(), -margin());
     const auto place = QStyle::visualAlignment(layoutDirection(), alignment());
@@ -33,9 +33,9 @@ void ElidedLabel::paintEvent(QPaintEvent * /*event*/) {
                          foregroundRole());
 }
 
-bool ElidedLabel::event(QEvent *event) {
+bool ElidedLabel::event(QEvent* event) {
     if (event->type() == QEvent::ToolTip && toolTip().isEmpty() && shown_text() != text()) {
-        QToolTip::showText(static_cast<QHelpEvent *>(event)->globalPos(), text(), this);
+        QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), text(), this);
         return true;
     }
     return QLabel::event(event);

@@ -9,14 +9,14 @@ class ElidedLabel : public QLabel {
     Q_OBJECT
     Q_PROPERTY(Qt::TextElideMode elideMode READ elideMode WRITE setElideMode)
 public:
-    explicit ElidedLabel(QWidget *parent = nullptr);
+    explicit ElidedLabel(QWidget* parent = nullptr);
     Qt::TextElideMode elideMode() const { return mode_; }
     void setElideMode(Qt::TextElideMode mode);
     QSize minimumSizeHint() const override;
 
 protected:
-    void paintEvent(QPaintEvent *event) override;
-    bool event(QEvent *event) override;
+    void paintEvent(QPaintEvent* event) override;
+    bool event(QEvent* event) override;
 
 private:
     QString shown_text() const;

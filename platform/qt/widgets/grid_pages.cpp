@@ -21,13 +21,13 @@ constexpr int kQuantityWidth = 90;
 constexpr int kAmountWidth = 110;
 constexpr int kButtonWidth = 28;
 
-QString element(const char *name, int row, int page) {
+QString element(const char* name, int row, int page) {
     return QStringLiteral("%1%2(%3)").arg(QLatin1String(name)).arg(row).arg(page);
 }
 
 template <class Field>
-Field *make_field(QWidget *frame, const QString &name, const QString &text, int width) {
-    auto *field = new Field(frame);
+Field* make_field(QWidget* frame, const QString& name, const QString& text, int width) {
+    auto* field = new Field(frame);
     field->setObjectName(name);
     field->setText(text);
     field->setAlignment(width > 0 ? Qt::AlignRight | Qt::AlignVCenter : Qt::AlignLeft | Qt::AlignVCenter);
@@ -39,20 +39,20 @@ Field *make_field(QWidget *frame, const QString &name, const QString &text, int 
 
 } // namespace
 
-GridPages::GridPages(QWidget *parent) : QWidget(parent) {
-    auto *pages = new QGridLayout(this);
+GridPages::GridPages(QWidget* parent) : QWidget(parent) {
+    auto* pages = new QGridLayout(this);
     pages->setContentsMargins(0, 0, 0, 0);
     for (int page = 0; page < kPages; ++page) {
-        QWidget *frame = make_page(page);
+        QWidget* frame = make_page(page);
         frame->setVisible(page == 0);
         pages->addWidget(frame, page, 0);
     }
 }
 
-QWidget *GridPages::make_page(int page) {
-    auto *frame = new QFrame(this);
+QWidget* GridPages::make_page(int page) {
+    auto* frame = new QFrame(this);
     frame->setObjectName(QStringLiteral("Frame_seite1(%1)").arg(page));
-    auto *grid = new QGridLayout(frame);
+    auto* grid = new QGridLayout(frame);
     grid->setContentsMargins(0, 0, 0, 0);
     grid->setHorizontalSpacing(6);
     grid->setVerticalSpacing(2);
@@ -62,11 +62,11 @@ QWidget *GridPages::make_page(int page) {
     return frame;
 }
 
-void GridPages::add_row(QGridLayout &grid, QWidget *frame, int page, int row) {
-    auto *tick = new QCheckBox(QStringLiteral("K"), frame);
+void GridPages::add_row(QGridLayout& grid, QWidget* frame, int page, int row) {
+    auto* tick = new QCheckBox(QStringLiteral("K"), frame);
     tick->setObjectName(element("Check_K", row, page));
     tick->setFixedWidth(kTickWidth);
-    auto *button = new QPushButton(QStringLiteral("+"), frame);
+    auto* button = new QPushButton(QStringLiteral("+"), frame);
     button->setObjectName(element("Command_PLUS_", row, page));
     button->setFixedWidth(kButtonWidth);
 

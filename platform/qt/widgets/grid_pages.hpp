@@ -11,11 +11,11 @@ namespace quittika {
 class GridPages : public QWidget {
     Q_OBJECT
 public:
-    explicit GridPages(QWidget *parent = nullptr);
+    explicit GridPages(QWidget* parent = nullptr);
 
 private:
-    QWidget *make_page(int page);
-    void add_row(QGridLayout &grid, QWidget *frame, int page, int row);
+    QWidget* make_page(int page);
+    void add_row(QGridLayout& grid, QWidget* frame, int page, int row);
 };
 
 } // namespace quittika

@@ -3,6 +3,9 @@
 #include <QApplication>
 #include <QFont>
 #include <QIcon>
+#include <QPalette>
+#include <QProxyStyle>
+#include <QStyleOption>
 #include <algorithm>
 
 namespace quittika::theme {
@@ -18,30 +21,37 @@ struct RoleColor {
     QRgb color;
 };
 
-constexpr QRgb kInk = 0xff1d2733;
-
 constexpr RoleColor kLight[] = {
-    {QPalette::Window, 0xffe9edf1},
-    {QPalette::WindowText, kInk},
-    {QPalette::Base, 0xffffffff},
-    {QPalette::AlternateBase, 0xfff4f7fa},
-    {QPalette::Text, kInk},
-    {QPalette::Button, 0xfff3f5f8},
-    {QPalette::ButtonText, kInk},
-    {QPalette::ToolTipBase, 0xfffffdf2},
-    {QPalette::ToolTipText, kInk},
-    {QPalette::PlaceholderText, 0xff7b8794},
-    {QPalette::Highlight, 0xff2b6fb0},
-    {QPalette::HighlightedText, 0xffffffff},
-    {QPalette::Light, 0xffffffff},
-    {QPalette::Midlight, 0xffdfe4ea},
-    {QPalette::Mid, 0xffb9c2cc},
-    {QPalette::Dark, 0xff93a0ad},
+    {QPalette::Window, 0xffe9edf1},      {QPalette::WindowText, 0xff1d2733},
+    {QPalette::Base, 0xffffffff},        {QPalette::AlternateBase, 0xfff4f7fa},
+    {QPalette::Text, 0xff1d2733},        {QPalette::Button, 0xfff3f5f8},
+    {QPalette::ButtonText, 0xff1d2733},  {QPalette::ToolTipBase, 0xfffffdf2},
+    {QPalette::ToolTipText, 0xff1d2733}, {QPalette::PlaceholderText, 0xff7b8794},
+    {QPalette::Highlight, 0xff2b6fb0},   {QPalette::HighlightedText, 0xffffffff},
+    {QPalette::Light, 0xffffffff},       {QPalette::Midlight, 0xffdfe4ea},
+    {QPalette::Mid, 0xffb9c2cc},         {QPalette::Dark, 0xff93a0ad},
 };
 
 constexpr RoleColor kLightDisabled[] = {
     {QPalette::WindowText, 0xff8a95a1}, {QPalette::Text, 0xff8a95a1},      {QPalette::ButtonText, 0xff8a95a1},
     {QPalette::Base, 0xffeef1f4},       {QPalette::Highlight, 0xffb9c2cc},
+};
+
+/// Entries of a menu bar in the text colour of the window that they stand on, whatever its colour.
+class ProgramStyle : public QProxyStyle {
+public:
+    ProgramStyle() : QProxyStyle(QStringLiteral("fusion")) {}
+
+    void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override {
+        const auto* entry = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
+        if (element != CE_MenuBarItem || entry == nullptr) {
+            return QProxyStyle::drawControl(element, option, painter, widget);
+        }
+        QStyleOptionMenuItem own(*entry);
+        own.palette.setBrush(QPalette::ButtonText, own.palette.windowText());
+        QProxyStyle::drawControl(element, &own, painter, widget);
+    }
 };
 
 bool is_dark(const QColor& color) {
@@ -70,24 +80,12 @@ QColor accent() {
 }
 
 void apply(QApplication& application) {
-    QApplication::setStyle(QStringLiteral("fusion"));
+    QApplication::setStyle(new ProgramStyle); // taken over by the application
     QApplication::setPalette(program_palette(QApplication::palette()));
     QFont font = QApplication::font();
     font.setPointSizeF(std::clamp(font.pointSizeF(), kSmallestFont, kLargestFont));
     QApplication::setFont(font);
     application.setWindowIcon(QIcon(QStringLiteral(":/icons/quittika.png")));
-}
-
-QPalette on_background(QPalette base, const QColor& background) {
-    const QColor text = is_dark(background) ? QColor(Qt::white) : QColor(kInk);
-    for (const auto role : {QPalette::Window, QPalette::Button, QPalette::Base}) {
-        base.setColor(role, background);
-    }
-    for (const auto role : {QPalette::WindowText, QPalette::ButtonText, QPalette::Text}) {
-        base.setColor(role, text);
-        base.setColor(QPalette::Disabled, role, mix(text, background, 0.55));
-    }
-    return base;
 }
 
 QColor mix(const QColor& a, const QColor& b, double share) {

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QColor>
-#include <QPalette>
 
 class QApplication;
 
@@ -12,12 +11,9 @@ QColor accent();
 
 /// Style, palette and font size of the whole program. Call once, before the first window.
 /// A dark desktop keeps its own palette, with the program's accent.
-void apply(QApplication &application);
-
-/// `base` with `background` as its window, button and field colour, and text that stays readable on it.
-QPalette on_background(QPalette base, const QColor &background);
+void apply(QApplication& application);
 
 /// `share` (0 to 1) of `a` mixed with `b`.
-QColor mix(const QColor &a, const QColor &b, double share);
+QColor mix(const QColor& a, const QColor& b, double share);
 
 } // namespace quittika::theme

@@ -13,7 +13,7 @@ constexpr double kRadius = 4.0;
 
 } // namespace
 
-TileButton::TileButton(QWidget *parent) : QToolButton(parent) {
+TileButton::TileButton(QWidget* parent) : QToolButton(parent) {
     setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
     setIconSize({24, 24});
     setFocusPolicy(Qt::TabFocus);
@@ -38,7 +38,7 @@ QColor TileButton::ground() const {
                : QColor(text.red(), text.green(), text.blue(), qRound(shade * 255));
 }
 
-void TileButton::paintEvent(QPaintEvent * /*event*/) {
+void TileButton::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     const QColor fill = ground();
@@ -51,8 +51,8 @@ void TileButton::paintEvent(QPaintEvent * /*event*/) {
                         iconSize().height());
     icon().paint(&painter, picture, Qt::AlignCenter, isEnabled() ? QIcon::Normal : QIcon::Disabled);
 
-    const QPalette colors = fill.alpha() == 255 ? theme::on_background(palette(), fill) : palette();
-    painter.setPen(colors.color(isEnabled() ? QPalette::Active : QPalette::Disabled, QPalette::WindowText));
+    const auto role = testAttribute(Qt::WA_SetPalette) ? QPalette::ButtonText : QPalette::WindowText;
+    painter.setPen(palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, role));
     const QRect line = content.adjusted(0, iconSize().height(), 0, 0);
     painter.drawText(line, Qt::AlignCenter | Qt::TextShowMnemonic, text());
 }

@@ -4,17 +4,17 @@
 
 namespace quittika {
 
-/// A flat button with its icon over its text. Only a palette of its own gives it a ground
-/// (its Button colour); the text stays readable on any.
+/// A flat button with its icon over its text. Only a palette of its own gives it a ground,
+/// in the palette's Button and ButtonText colours.
 class TileButton : public QToolButton {
     Q_OBJECT
 public:
-    explicit TileButton(QWidget *parent = nullptr);
+    explicit TileButton(QWidget* parent = nullptr);
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }
 
 protected:
-    void paintEvent(QPaintEvent *event) override;
+    void paintEvent(QPaintEvent* event) override;
 
 private:
     QColor ground() const;
