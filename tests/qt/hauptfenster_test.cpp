@@ -1,0 +1,122 @@
+#include "app/programm.hpp"
+#include "invoice/form1.hpp"
+#include "platform/qt/qt_platform.hpp"
+#include "tests/pruefstand.hpp"
+
+#include <gtest/gtest.h>
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QApplication>
+#include <QLineEdit>
+#include <QListView>
+#include <QMessageBox>
+#include <QTest>
+#include <QTimer>
+
+namespace quittika::test {
+
+namespace {
+
+/// The program with its real main window, worked by keyboard.
+class Hauptfenstertest : public ::testing::Test {
+protected:
+    Hauptfenstertest() {
+        programm.hauptfenster_zeigen();
+        QApplication::setActiveWindow(fenster());
+        QTest::qWait(10);
+    }
+
+    Form1& f() { return dynamic_cast<Form1&>(programm.hauptfenster()); }
+    QWidget* fenster() { return plattform.desktop().window(f()); }
+    template <class W> W* feld(const char* name) {
+        return fenster()->findChild<W*>(QString::fromLatin1(name));
+    }
+    void tippen(const char* name, const char* text) {
+        auto* eingabe = feld<QLineEdit>(name);
+        eingabe->setFocus();
+        eingabe->selectAll();
+        QTest::keyClicks(eingabe, QString::fromUtf8(text));
+    }
+    void zeile(const char* menge, const char* leistung, const char* preis) {
+        tippen("Text_Menge", menge);
+        tippen("Text_leistung", leistung);
+        tippen("Text_preis", preis);
+        QTest::keyClick(feld<QLineEdit>("Text_preis"), Qt::Key_Return);
+        QTest::qWait(1);
+    }
+
+    Probenordner ordner;
+    QtPlatform plattform;
+    Programm programm{plattform.platform(), ordner.ordner()};
+};
+
+TEST_F(Hauptfenstertest, EingabetasteNimmtDieZeileAuf) {
+    zeile("2", "Stuhl", "12,5");
+    zeile("1", "Tisch", "80");
+    EXPECT_EQ(f().List_Leistung.items(), (std::vector<std::string>{"Stuhl", "Tisch"}));
+    EXPECT_EQ(feld<QLineEdit>("Text_gesamtbetrag")->text(), "105,00");
+    EXPECT_EQ(feld<QLineEdit>("Text_Menge")->text(), "0");
+    EXPECT_TRUE(feld<QLineEdit>("Text_Menge")->hasFocus());
+    EXPECT_EQ(feld<QListView>("List_DARSTELLUNG")->model()->rowCount(), 2);
+}
+
+TEST_F(Hauptfenstertest, EntfernenLoeschtDieGewaehlteZeile) {
+    zeile("2", "Stuhl", "12,5");
+    zeile("1", "Tisch", "80");
+    auto* liste = feld<QListView>("List_DARSTELLUNG");
+    liste->setFocus();
+    QTest::mouseClick(liste->viewport(), Qt::LeftButton, {},
+                      liste->visualRect(liste->model()->index(0, 0)).center());
+    EXPECT_EQ(feld<QLineEdit>("Text_leistung")->text(), "Stuhl") << "a click fetches the row";
+    QTest::keyClick(liste, Qt::Key_Delete);
+    QTest::qWait(1);
+    EXPECT_EQ(f().List_Leistung.items(), std::vector<std::string>{"Tisch"});
+    EXPECT_EQ(feld<QLineEdit>("Text_gesamtbetrag")->text(), "80,00");
+}
+
+TEST_F(Hauptfenstertest, TabulatorFolgtDerArbeit) {
+    feld<QLineEdit>("Text_Kunde_1")->setFocus();
+    for (const char* naechstes : {"Text_Kunde_2", "Text_Kunde_3", "Text_Kunde_4", "Text_KundennrK"}) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        EXPECT_EQ(QApplication::focusWidget()->objectName().toStdString(), naechstes);
+    }
+    feld<QLineEdit>("Text_Menge")->setFocus();
+    for (const char* naechstes : {"Text_leistung", "Text_preis", "Cmd_Add_To_list"}) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        EXPECT_EQ(QApplication::focusWidget()->objectName().toStdString(), naechstes);
+    }
+}
+
+TEST_F(Hauptfenstertest, UeblicheTastenkuerzel) {
+    const std::pair<const char*, const char*> kuerzel[] = {{"m_neu", "Ctrl+N"},
+                                                           {"m_oeffnen", "Ctrl+O"},
+                                                           {"m_speichern_kurz", "Ctrl+S"},
+                                                           {"m_Drucken", "Ctrl+P"}};
+    for (const auto& [name, taste] : kuerzel) {
+        const auto* aktion = feld<QAction>(name);
+        ASSERT_NE(aktion, nullptr) << name;
+        EXPECT_EQ(aktion->shortcut().toString().toStdString(), taste) << name;
+        EXPECT_TRUE(aktion->isEnabled()) << name;
+    }
+}
+
+TEST_F(Hauptfenstertest, NeuFragtMitDeutschenTasten) {
+    zeile("2", "Stuhl", "12,5");
+    QStringList tasten;
+    QTimer::singleShot(50, [&tasten] {
+        if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+            for (const QAbstractButton* taste : box->buttons()) {
+                tasten << taste->text().remove(QLatin1Char('&'));
+            }
+            box->reject();
+        }
+    });
+    feld<QAction>("m_neu")->trigger();
+    tasten.sort();
+    EXPECT_EQ(tasten, (QStringList{"Ja", "Nein"}));
+}
+
+} // namespace
+
+} // namespace quittika::test
