@@ -33,7 +33,7 @@ void MITGELIEFERTES_KOPIEREN(const fs::path& von, const fs::path& nach) {
 }
 
 fs::path PROGRAMMORDNER(const fs::path& programmdatei, const fs::path& datenordner) {
-    const fs::path ordner = programmdatei.parent_path();
+    fs::path ordner = programmdatei.parent_path();
     if (access(ordner.c_str(), W_OK) == 0) {
         return ordner;
     }

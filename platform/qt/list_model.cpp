@@ -14,8 +14,8 @@ QVariant ListModel::data(const QModelIndex& index, int role) const {
     if (role != Qt::DisplayRole) {
         return {};
     }
-    constexpr int kShown = 1000;               // characters
-    constexpr std::size_t kBytes = 4 * kShown; // enough for them in any case
+    constexpr int kShown = 1000;         // characters
+    constexpr std::size_t kBytes = 4000; // enough for them in any case
     QString text = to_qt(std::string_view(list_.List(index.row())).substr(0, kBytes)).left(kShown);
     for (QChar& character : text) {
         if (character == QLatin1Char('\r') || character == QLatin1Char('\n') ||

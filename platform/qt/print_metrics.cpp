@@ -11,9 +11,9 @@ namespace quittika {
 
 namespace {
 
-constexpr int kEm = 1000;                       ///< pixels at which outlines are measured
+constexpr int kEm = 1000; ///< pixels at which outlines are measured
 constexpr double kMmPerPoint = 25.4 / 72;
-constexpr char16_t kTableEnd = 0x250;           ///< end of the Latin letters whose widths are kept
+constexpr char16_t kTableEnd = 0x250; ///< end of the Latin letters whose widths are kept
 constexpr const char* kFallbackFamily = "Liberation Sans";
 
 struct Substitution {
@@ -78,7 +78,8 @@ struct QtFontMetrics::Face {
     /// In pixels of the measuring size.
     double width(std::string_view text) {
         double sum = 0;
-        if (std::all_of(text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80; })) {
+        if (std::all_of(text.begin(), text.end(),
+                        [](char c) { return static_cast<unsigned char>(c) < 0x80; })) {
             for (const char c : text) {
                 sum += width_of(static_cast<char16_t>(c));
             }

@@ -29,7 +29,8 @@ bool PainterDevice::begin(QPaintDevice& device, double pixels_per_mm) {
     if (!painter_.begin(&device)) {
         return false;
     }
-    painter_.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing | QPainter::SmoothPixmapTransform);
+    painter_.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing |
+                            QPainter::SmoothPixmapTransform);
     return true;
 }
 
@@ -62,9 +63,9 @@ void PainterDevice::line(double x1, double y1, double x2, double y2, Color color
 }
 
 void PainterDevice::picture(double left, double top, double width, double height, const std::string& path) {
-    painter_.drawImage(QRectF(left * pixels_per_mm_, top * pixels_per_mm_, width * pixels_per_mm_,
-                              height * pixels_per_mm_),
-                       load(path));
+    painter_.drawImage(
+        QRectF(left * pixels_per_mm_, top * pixels_per_mm_, width * pixels_per_mm_, height * pixels_per_mm_),
+        load(path));
 }
 
 const QImage& PainterDevice::load(const std::string& path) {

@@ -51,7 +51,9 @@ QtPdfDevice::QtPdfDevice(const QtFontMetrics& metrics, QString path, const std::
     }
 }
 
-QtPdfDevice::~QtPdfDevice() { end(); }
+QtPdfDevice::~QtPdfDevice() {
+    end();
+}
 
 void QtPdfDevice::new_page() {
     if (!writer_.newPage()) {

@@ -30,7 +30,9 @@ QtPictureDevice::QtPictureDevice(const QtFontMetrics& metrics, int dpi, int only
     QtPictureDevice::new_page();
 }
 
-QtPictureDevice::~QtPictureDevice() { end(); }
+QtPictureDevice::~QtPictureDevice() {
+    end();
+}
 
 void QtPictureDevice::new_page() {
     end();
