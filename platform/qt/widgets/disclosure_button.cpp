@@ -18,6 +18,7 @@ DisclosureButton::DisclosureButton(QWidget* parent) : QToolButton(parent) {
 
 void DisclosureButton::initStyleOption(QStyleOptionToolButton* option) const {
     QToolButton::initStyleOption(option);
+    option->state.setFlag(QStyle::State_On, false); // the arrow tells
     // It stands on the window itself, so it takes the window's text colour.
     option->palette.setBrush(QPalette::ButtonText, palette().windowText());
 }
