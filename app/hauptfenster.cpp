@@ -40,14 +40,6 @@ void Hauptfenster::m_beenden_Click() {
     t_.form1.Close();
 }
 
-void Hauptfenster::m_speichern_kurz_Click() {
-    if (t_.zustand.AktuellerPfad.empty()) {
-        t_.dateibefehle.m_speichern_Click();
-    } else {
-        t_.dateibefehle.m_speichern_direkt_Click();
-    }
-}
-
 void Hauptfenster::ueber_QUITTIKA_Click() {
     Form_ueber_QUITTIKA form;
     form.Label_Version.Caption = t_.werte.VERSIONSTEXT;
@@ -106,6 +98,12 @@ void Hauptfenster::Satz_Click(const std::string& satz) {
         t_.form1.Text_MwSt.Text = satz;
         geaendert_und_rechnen();
     }
+}
+
+void Hauptfenster::Text_MwSt_LostFocus() {
+    t_.summen.jetztberechnen_List();
+    const Rechnungszustand::Sperre still(t_.zustand);
+    SatzAuswahlZeigen(t_.form1, t_.werte);
 }
 
 void Hauptfenster::geaendert_und_rechnen() {

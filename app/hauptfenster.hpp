@@ -46,13 +46,13 @@ private:
 
     void Form_QueryUnload(bool& abbrechen);
     void m_beenden_Click();
-    void m_speichern_kurz_Click();
     void ueber_QUITTIKA_Click();
     void m_Schlagwortsuche_Click();
     void Check_LIEFERDATUM_Click();
     void Check_abgemahnt_Click();
     void Option_anschreiben_Click();
     void Satz_Click(const std::string& satz);
+    void Text_MwSt_LostFocus();
     void DOKUMENT_OEFFNEN(const std::string& dokument);
     /// Recalculates after a change by the user, and notes the change.
     void geaendert_und_rechnen();

@@ -40,7 +40,7 @@ void Hauptfenster::MenueVerdrahten() {
     f.m_speichern.Click = [&datei] { datei.m_speichern_Click(); };
     f.Command_jetztSpeichern.Click = [&datei] { datei.m_speichern_Click(); };
     f.m_speichern_direkt.Click = [&datei] { datei.m_speichern_direkt_Click(); };
-    f.m_speichern_kurz.Click = [this] { m_speichern_kurz_Click(); };
+    f.m_speichern_kurz.Click = [&datei] { datei.m_speichern_kurz_Click(); };
     f.m_R1.Click = [&datei] { datei.m_R_Click(1); };
     f.m_R2.Click = [&datei] { datei.m_R_Click(2); };
     f.m_R3.Click = [&datei] { datei.m_R_Click(3); };
@@ -130,6 +130,7 @@ void Hauptfenster::BetraegeVerdrahten() {
         feld->Change = [this] { t_.zustand.aendern(); };
         feld->LostFocus = [this] { t_.summen.jetztberechnen_List(); };
     }
+    f.Text_MwSt.LostFocus = [this] { Text_MwSt_LostFocus(); };
     f.Command_berechnen.Click = [this] { t_.summen.jetztberechnen_List(); };
 }
 

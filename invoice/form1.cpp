@@ -41,9 +41,8 @@ Form1::Form1()
     Text_LIEFERDATUM.Enabled.adopt(false);
     Image_hintergrund.Visible.adopt(false);
     Image_WASSERZ.Visible.adopt(false);
-    for (Control* versteckt :
-         {static_cast<Control*>(&Text1), static_cast<Control*>(&Text_Notiz),
-          static_cast<Control*>(&Check_tele_nichtdrucken), static_cast<Control*>(&Label_gesamtbetrag)}) {
+    for (Control* versteckt : {static_cast<Control*>(&Text1), static_cast<Control*>(&Text_Notiz),
+                               static_cast<Control*>(&Label_gesamtbetrag)}) {
         versteckt->Visible.adopt(false);
     }
     for (TextBox* ergebnis :

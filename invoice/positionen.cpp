@@ -21,15 +21,21 @@ Positionen::Eingabe Positionen::EingabePruefen() {
     if (form1_.Check_K.ticked()) {
         return Eingabe::Gueltig;
     }
+    // What is added is what the fields show once they are left, by mouse and by the return key alike.
+    summen_.EingabezeileVerlassen();
     const std::optional<double> menge = summen_.Menge();
-    if (menge && summen_.Preis()) {
-        return *menge == 0 ? Eingabe::Menge_Null : Eingabe::Gueltig;
-    }
     if (menge && *menge == 0) {
         return Eingabe::Menge_Null;
     }
-    dialogs_.message({"Ihre Eingabe ist nicht gültig!", "Achtung Fehler!"});
+    if (menge && summen_.Preis()) {
+        return Eingabe::Gueltig;
+    }
+    EingabeAblehnen();
     return Eingabe::Ungueltig;
+}
+
+void Positionen::EingabeAblehnen() {
+    dialogs_.message({"Ihre Eingabe ist nicht gültig!", "Achtung Fehler!"});
 }
 
 void Positionen::MengeNullMelden() {
@@ -47,8 +53,7 @@ void Positionen::Cmd_Add_To_list_Click() {
     } else if (eingabe == Eingabe::Menge_Null) {
         MengeNullMelden();
     }
-    StillAuswaehlen(form1_.List_DARSTELLUNG.ListCount() - 1);
-    form1_.Text_Menge.SetFocus();
+    NaechsteEingabe();
 }
 
 void Positionen::Command_AENDERN_Click() {
@@ -56,25 +61,24 @@ void Positionen::Command_AENDERN_Click() {
     if (alte_zeile < 0) {
         return;
     }
-    zustand_.aendern();
-    if (!summen_.MengeIstZahl()) {
-        form1_.Text_Menge.Text = vorgabe::kMenge;
-    }
     const Eingabe eingabe = EingabePruefen();
-    if (eingabe == Eingabe::Ungueltig) {
+    if (eingabe == Eingabe::Ungueltig || (eingabe == Eingabe::Gueltig && !ZeileHinzufuegen(false))) {
         return;
     }
-    if (eingabe == Eingabe::Gueltig) {
-        ZeileHinzufuegen(false);
-    }
-    form1_.Text_Menge.SetFocus();
+    zustand_.aendern();
     StillAuswaehlen(alte_zeile);
     ZeileEntfernen();
     ListenAbschliessen();
-    StillAuswaehlen(form1_.List_DARSTELLUNG.ListCount() - 1);
+    NaechsteEingabe();
     if (eingabe == Eingabe::Menge_Null) {
         MengeNullMelden();
     }
+}
+
+void Positionen::NaechsteEingabe() {
+    StillAuswaehlen(form1_.List_DARSTELLUNG.ListCount() - 1);
+    form1_.Text_Menge.SetFocus();
+    form1_.Text_Menge.select_all();
 }
 
 void Positionen::md_Del_artikel_Click() {
@@ -94,15 +98,19 @@ void Positionen::Command_Trennzeile_Click() {
     StillAuswaehlen(form1_.List_DARSTELLUNG.ListCount() - 1);
 }
 
-void Positionen::ZeileHinzufuegen(bool Trennzeile) {
+bool Positionen::ZeileHinzufuegen(bool Trennzeile) {
     summen_.jetztberechnen_List();
+    if (!Trennzeile && !summen_.ZeilensummeGueltig()) {
+        EingabeAblehnen();
+        return false;
+    }
     {
         const Rechnungszustand::Sperre still(zustand_);
         ZeileEinfuegen(form1_.List_DARSTELLUNG.ListIndex() + 1, Trennzeile);
         rechnung_.EingabezeileLeeren();
     }
-    EingabefelderZeigen();
     ListenAbschliessen();
+    return true;
 }
 
 void Positionen::ZeileEinfuegen(int stelle, bool Trennzeile) {
@@ -132,6 +140,7 @@ void Positionen::StillAuswaehlen(int zeile) {
         const Rechnungszustand::Sperre still(zustand_);
         form1_.List_DARSTELLUNG.ListIndex = zeile;
     }
+    form1_.Command_AENDERN.Enabled = false;
     ZeileAuswaehlen(zeile, form1_.List_DARSTELLUNG);
 }
 
@@ -173,7 +182,7 @@ void Positionen::ZeileInEingabeHolen() {
         form1_.Text_preis.Text = form1_.List_Preis.Text();
         form1_.Text_gesamtp.Text = form1_.List_Gesamtp.Text();
     }
-    EingabefelderZeigen();
+    EingabefelderZeigen(form1_);
     form1_.Command_AENDERN.Enabled = true;
 }
 
@@ -181,7 +190,7 @@ void Positionen::Check_K_Click() {
     if (zustand_.gesperrt()) {
         return;
     }
-    EingabefelderZeigen();
+    EingabefelderZeigen(form1_);
     if (form1_.Text_Menge.Text() == kLeer) {
         form1_.Text_Menge.Text = vorgabe::kMenge;
     }
@@ -189,15 +198,6 @@ void Positionen::Check_K_Click() {
         form1_.Text_preis.Text = vorgabe::kBetrag;
     }
     summen_.jetztberechnen_List();
-}
-
-void Positionen::EingabefelderZeigen() {
-    const bool kommentar = form1_.Check_K.ticked();
-    for (Control* feld :
-         {static_cast<Control*>(&form1_.Text_Menge), static_cast<Control*>(&form1_.Text_preis),
-          static_cast<Control*>(&form1_.Check_mengenartDECIMAL), static_cast<Control*>(&form1_.Check_000)}) {
-        feld->Visible = !kommentar;
-    }
 }
 
 } // namespace quittika

@@ -25,22 +25,23 @@ public:
 
     /// Puts a row directly behind the selected one, at the top when none is selected: the input line,
     /// or a page break with `Trennzeile`. Resets the input line.
-    void ZeileHinzufuegen(bool Trennzeile);
+    /// A row whose total is no number is refused with a message; answers whether a row was added.
+    bool ZeileHinzufuegen(bool Trennzeile);
     /// Takes the selected row into the input line.
     void ZeileInEingabeHolen();
-    /// Shows what a position needs, hides it for a comment line.
-    void EingabefelderZeigen();
 
 private:
     enum class Eingabe { Gueltig, Menge_Null, Ungueltig };
     Eingabe EingabePruefen();
+    void EingabeAblehnen();
     void MengeNullMelden();
     void ZeileEinfuegen(int stelle, bool Trennzeile);
     void ZeileAuswaehlen(int zeile, const Control& quelle);
     void ZeileEntfernen();
-    /// Selects a row of `List_DARSTELLUNG` without fetching it into the input line.
+    /// Selects a row of `List_DARSTELLUNG` without fetching it: the input line does not belong to it then.
     void StillAuswaehlen(int zeile);
     void ListenAbschliessen();
+    void NaechsteEingabe();
 
     Form1& form1_;
     Rechnungszustand& zustand_;

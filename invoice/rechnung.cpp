@@ -3,6 +3,7 @@
 #include "invoice/compressor.hpp"
 #include "platform/datum.hpp"
 #include "platform/text.hpp"
+#include "platform/zahlen.hpp"
 
 #include <utility>
 #include <vector>
@@ -26,6 +27,22 @@ std::string Darstellungszeile(const Form1& form1, int zeile) {
 }
 
 } // namespace
+
+void SatzAuswahlZeigen(Form1& form1, const PROGRAMMEINSTELLUNG& einstellung) {
+    const auto wert = [](const std::string& satz) { return double_versuch(ZEICHENERSETZEN(satz, ".", ",")); };
+    const auto satz = wert(form1.Text_MwSt.Text());
+    form1.Option_Satz1.Value = satz && satz == wert(einstellung.MWST_SATZ1);
+    form1.Option_Satz2.Value = !form1.Option_Satz1.Value() && satz && satz == wert(einstellung.MWST_SATZ2);
+}
+
+void EingabefelderZeigen(Form1& form1) {
+    const bool kommentar = form1.Check_K.ticked();
+    for (Control* feld :
+         {static_cast<Control*>(&form1.Text_Menge), static_cast<Control*>(&form1.Text_preis),
+          static_cast<Control*>(&form1.Check_mengenartDECIMAL), static_cast<Control*>(&form1.Check_000)}) {
+        feld->Visible = !kommentar;
+    }
+}
 
 void LieferdatumFreigeben(Form1& form1) {
     const bool frei = form1.Check_LIEFERDATUM.ticked();
@@ -80,6 +97,7 @@ void Rechnung::EingabezeileLeeren() {
     form1_.Text_preis.Text = vorgabe::kBetrag;
     form1_.Text_gesamtp.Text = vorgabe::kBetrag;
     form1_.Check_K.Value = 0;
+    EingabefelderZeigen(form1_);
     form1_.Command_AENDERN.Enabled = false;
 }
 

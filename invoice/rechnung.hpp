@@ -3,6 +3,7 @@
 #include "invoice/form1.hpp"
 #include "invoice/rechnungszustand.hpp"
 #include "platform/shell.hpp"
+#include "settings/programmeinstellung.hpp"
 
 #include <string>
 
@@ -32,6 +33,12 @@ private:
     Rechnungszustand& zustand_;
     const Clock& uhr_;
 };
+
+/// Switches on the rate that `Text_MwSt` holds, or none of the two where it is another.
+void SatzAuswahlZeigen(Form1& form1, const PROGRAMMEINSTELLUNG& einstellung);
+
+/// Shows what a position needs in the input line, hides it for a comment.
+void EingabefelderZeigen(Form1& form1);
 
 /// Enables the delivery date and its colour by `Check_LIEFERDATUM`.
 void LieferdatumFreigeben(Form1& form1);

@@ -7,10 +7,11 @@ namespace quittika {
 /// What the program knows of the invoice in hand besides its controls.
 class Rechnungszustand {
 public:
-    std::string AktuellerPfad;    ///< file that the invoice was saved to or opened from; empty for none
-    std::string ZuletztGeoeffnet; ///< file chosen last in the open dialog
-    std::string Notiztext;        ///< note; a line break stands as "#$§$#"
-    bool OhneRueckfrage = false;  ///< "Neu" does not ask whether to save
+    std::string AktuellerPfad;     ///< file that the invoice was saved to or opened from; empty for none
+    std::string ZuletztGeoeffnet;  ///< file chosen last in the open dialog
+    std::string Notiztext;         ///< note; a line break stands as "#$§$#"
+    bool IstDateiDesPfads = false; ///< the invoice in the window is the one in `AktuellerPfad`
+    bool OhneRueckfrage = false;   ///< "Neu" does not ask whether to save
 
     /// True after a change by the user that is not saved yet.
     bool geaendert() const { return geaendert_; }

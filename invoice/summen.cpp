@@ -5,6 +5,7 @@
 #include "platform/text.hpp"
 #include "platform/zahlen.hpp"
 
+#include <cmath>
 #include <string>
 #include <utility>
 #include <vector>
@@ -146,6 +147,16 @@ void Summen::VersandAufteilen() {
                                                    : "Enthaltene MwSt. " + form1_.Text_MwSt.Text() + " %:";
 }
 
+/// A row beyond all bounds counts as none: it must not keep the list's totals from being right.
+void Summen::ZeilensummeBerechnen() {
+    Zeilensumme = Mengenwert * Preiswert;
+    zeilensumme_gueltig_ = std::isfinite(Zeilensumme);
+    if (!zeilensumme_gueltig_) {
+        Zeilensumme = 0;
+    }
+    schreiben(form1_.Text_gesamtp, Zeilensumme, form1_.Check_000.ticked() ? "0.000" : "0.00");
+}
+
 double Summen::ListensummeBerechnen() const {
     const std::vector<std::string>& betraege = form1_.List_Gesamtp.items();
     const std::vector<std::string>& arten = form1_.List_K.items();
@@ -178,7 +189,6 @@ void Summen::Anzeigen(const Rechenergebnis& ergebnis) {
     const bool drei = form1_.Check_000.ticked();
     const bool aufgeteilt = form1_.Check_VersandMwStEXTRA.ticked() || form1_.Check_VersandINKL_MwSt.ticked();
     const std::string_view weit = drei ? "0.000" : "0.00";
-    schreiben(form1_.Text_gesamtp, Zeilensumme, weit);
     schreiben(form1_.Text_summe, Listensumme, weit);
     schreiben(form1_.Text_summemwst, ergebnis.MwSt_Betrag, "0.00");
     schreiben(form1_.Text_gesamtbetrag, ergebnis.Gesamtbetrag, "0.00");
@@ -215,7 +225,7 @@ void Summen::rechnen() {
     if (form1_.Check_datum.ticked()) {
         form1_.Text_Datum.Text = datum_text(uhr_.now());
     }
-    Zeilensumme = endlich(Mengenwert * Preiswert);
+    ZeilensummeBerechnen();
     Listensumme = ListensummeBerechnen();
     const Mwst_Modus modus = mwst_modus();
     const Rechenergebnis ergebnis = RECHNUNGSBETRAEGE(
@@ -241,6 +251,8 @@ void Summen::jetztberechnen_List() {
 void Summen::EingabezeileVerlassen() {
     if (Menge() && Preis()) {
         jetztberechnen_List();
+    } else {
+        form1_.Text_gesamtp.Text = vorgabe::kBetrag;
     }
 }
 

@@ -23,8 +23,14 @@ public:
     /// amounts.
     void jetztberechnen_List();
 
-    /// Recalculates when a field of the input line is left; says nothing about what is no number yet.
+    /// Recalculates when a field of the input line is left; what is no number yet has no row total.
     void EingabezeileVerlassen();
+
+    /// Whether the row total of the input line was a number at the last calculation.
+    bool ZeilensummeGueltig() const { return zeilensumme_gueltig_; }
+
+    /// The split of the shipping costs that holds where the ticks demand none, such as that of a file.
+    void VersandMerken(Versandaufteilung versand) { versand_ = versand; }
 
     /// Renumbers `List_pos`: rows of kind "-" count, all others get a blank. Keeps the selection.
     void PositionenNummerieren();
@@ -41,6 +47,7 @@ private:
     void PreisLesen();
     void SatzLesen(TextBox& feld, double& variable);
     void VersandAufteilen();
+    void ZeilensummeBerechnen();
     double ListensummeBerechnen() const;
     Mwst_Modus mwst_modus() const;
     void Anzeigen(const Rechenergebnis& ergebnis);
@@ -61,6 +68,7 @@ private:
     double Versand_Eingabe = 0;
     Versandaufteilung versand_;
     double Zeilensumme = 0;
+    bool zeilensumme_gueltig_ = true;
     double Listensumme = 0;
     int Waechter = 2; ///< kept within 1 to 9
 };

@@ -1,5 +1,6 @@
 #include "masterdata/kunde_aufnehmen.hpp"
 
+#include "invoice/zeichenersatz.hpp"
 #include "platform/textdatei.hpp"
 
 namespace quittika {
@@ -19,6 +20,7 @@ KundeAufnehmen::KundeAufnehmen(Form1& form1, const Programmverzeichnis& verzeich
 void KundeAufnehmen::Command_KD_Add_Click() {
     const std::string pfad = verzeichnis_.pfad("\\Kundenliste.txt");
     const auto ergebnis = ZEILE_ANHAENGEN(pfad, KUNDENZEILE(form1_));
+    form1_.StatusBar1[3].Caption = ZEICHENERSATZ_MELDUNG(ergebnis.ersetzt);
     if (!ergebnis) {
         dialogs_.message({"Es ist ein Fehler beim hinzufügen des Kunden passiert. Bitte überprüfen Sie Ihre "
                           "Kundendatei >>Kundenliste.txt<< im Programmverzeichnis.",

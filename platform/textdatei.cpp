@@ -286,10 +286,11 @@ void DATEI_SCHREIBEN(const std::string& pfad, const std::string& text) {
 
 Dateiergebnis ZEILE_ANHAENGEN(const std::string& pfad, const std::string& zeile) {
     try {
-        anhaengen(ort_von(pfad), nach_ansi(zeile).bytes + "\r\n");
-        return {};
+        const Ansi ansi = nach_ansi(zeile);
+        anhaengen(ort_von(pfad), ansi.bytes + "\r\n");
+        return {true, 0, ansi.ersetzt};
     } catch (const Laufzeitfehler& f) {
-        return {false, f.nummer()};
+        return {false, f.nummer(), 0};
     }
 }
 

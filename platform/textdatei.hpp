@@ -39,6 +39,7 @@ void DATEI_SCHREIBEN(const std::string& pfad, const std::string& text);
 struct Dateiergebnis {
     bool gelungen = true;
     int fehlernummer = 0;
+    std::size_t ersetzt = 0; ///< characters that the code page lacks
     explicit operator bool() const { return gelungen; }
 };
 

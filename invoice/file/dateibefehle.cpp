@@ -3,6 +3,7 @@
 #include "invoice/file/dateiname.hpp"
 #include "invoice/programmname.hpp"
 #include "platform/laufzeitfehler.hpp"
+#include "platform/verzeichnis.hpp"
 
 namespace quittika {
 
@@ -45,6 +46,8 @@ void Dateibefehle::m_neu_Click() {
     nummern_.RNNUMMERZUWEISEN();
     form1_.StatusBar1[2].Caption = "";
     rechnung_.RechnungLeeren();
+    zustand_.IstDateiDesPfads = false;
+    summen_.VersandMerken({});
     summen_.jetztberechnen_List();
     zustand_.als_gespeichert_merken();
 }
@@ -89,7 +92,7 @@ void Dateibefehle::m_speichern_direkt_Click() {
     if (zustand_.AktuellerPfad.empty()) {
         return;
     }
-    if (antwort != Answer::Yes) {
+    if (antwort != Answer::Yes || !FremdeDateiUeberschreiben()) {
         form1_.StatusBar1[2].Caption = "SPEICHERN WURDE ABGEBROCHEN";
         return;
     }
@@ -100,7 +103,25 @@ void Dateibefehle::m_speichern_direkt_Click() {
         return;
     }
     zustand_.als_gespeichert_merken();
+    zustand_.IstDateiDesPfads = true;
     form1_.StatusBar1[2].Caption = "SPEICHERN ERFOLGREICH ABGESCHLOSSEN";
+}
+
+bool Dateibefehle::FremdeDateiUeberschreiben() {
+    if (zustand_.IstDateiDesPfads || !datei_vorhanden(zustand_.AktuellerPfad)) {
+        return true;
+    }
+    return dialogs_.message(
+               {"Soll die vorhandene Datei: >" + zustand_.AktuellerPfad + "< überschrieben werden?",
+                "Datei überschreiben?", Buttons::YesNo}) == Answer::Yes;
+}
+
+void Dateibefehle::m_speichern_kurz_Click() {
+    if (zustand_.IstDateiDesPfads) {
+        m_speichern_direkt_Click();
+    } else {
+        m_speichern_Click();
+    }
 }
 
 void Dateibefehle::SpeicherfehlerMelden() {
@@ -168,12 +189,19 @@ void Dateibefehle::PfadZeigen(const std::string& pfad) {
 
 void Dateibefehle::AktuellenPfadSetzen(const std::string& pfad) {
     zustand_.AktuellerPfad = pfad;
+    zustand_.IstDateiDesPfads = !pfad.empty();
     form1_.m_speichern_direkt.Enabled = !pfad.empty();
 }
 
 void Dateibefehle::Auffrischen() {
+    summen_.VersandMerken(leser_.VersandGelesen());
     summen_.jetztberechnen_List();
     rechnung_.DarstellungAufbauen();
+    {
+        // The six lists stand on their last row already; the next row is to follow it.
+        const Rechnungszustand::Sperre still(zustand_);
+        form1_.List_DARSTELLUNG.ListIndex = form1_.List_DARSTELLUNG.ListCount() - 1;
+    }
     zustand_.als_gespeichert_merken();
 }
 

@@ -23,6 +23,8 @@ public:
     bool m_speichern_Click();
     /// Saves to the current path after a question.
     void m_speichern_direkt_Click();
+    /// Saves to the current path if it is this invoice's own, else under a name that the user chooses.
+    void m_speichern_kurz_Click();
     void m_oeffnen_Click();
     /// Opens `pfad`, or the file that the user chooses when it is empty. Answers whether anything was read.
     bool oeffneRN(const std::string& pfad);
@@ -38,6 +40,8 @@ public:
 private:
     std::string SpeicherpfadWaehlen();
     bool SpeichernNach(const std::string& pfad);
+    /// Asks before another invoice's file is replaced by the one in the window.
+    bool FremdeDateiUeberschreiben();
     void SpeicherfehlerMelden();
     void OeffnungsfehlerMelden(const std::string& pfad);
     void PfadZeigen(const std::string& pfad);

@@ -141,7 +141,9 @@ void Rechnungsleser::VersandUebernehmen() {
     if (vorhanden) {
         HaekchenUebernehmen(form1_.Check_Versandkosten, DatenLesen[dateizeile::kVersand]);
         form1_.Text_Versandk.Text = DatenLesen[dateizeile::kVersandText];
-        form1_.Text_PreisVersankostenEingabe.Text = DatenLesen[dateizeile::kVersandEingabe];
+        const std::string& eingabe = DatenLesen[dateizeile::kVersandEingabe];
+        form1_.Text_PreisVersankostenEingabe.Text =
+            ist_numerisch(mit_komma(eingabe)) ? eingabe : vorgabe::kBetrag;
         HaekchenUebernehmen(form1_.Check_VersandMwStEXTRA, DatenLesen[dateizeile::kVersandExtra]);
         HaekchenUebernehmen(form1_.Check_VersandINKL_MwSt, DatenLesen[dateizeile::kVersandInklusive]);
     } else {
@@ -163,7 +165,15 @@ void Rechnungsleser::BetraegeUebernehmen() {
     form1_.Text_summeNACHRABATT.Text = normalisiert(DatenLesen[dateizeile::kNachRabatt]);
     if (ist_numerisch(mit_komma(DatenLesen[dateizeile::kMwStSatz]))) {
         form1_.Text_MwSt.Text = normalisiert(DatenLesen[dateizeile::kMwStSatz]);
+    } else if (!ist_numerisch(mit_komma(form1_.Text_MwSt.Text()))) {
+        form1_.Text_MwSt.Text = einstellung_.MWST_SATZ1;
     }
+    SatzAuswahlZeigen(form1_, einstellung_);
+}
+
+Versandaufteilung Rechnungsleser::VersandGelesen() const {
+    return {double_versuch(mit_komma(DatenLesen[dateizeile::kVersandNetto])).value_or(0),
+            double_versuch(mit_komma(DatenLesen[dateizeile::kVersandMwSt])).value_or(0)};
 }
 
 void Rechnungsleser::UebrigesUebernehmen() {

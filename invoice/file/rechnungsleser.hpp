@@ -1,5 +1,6 @@
 #pragma once
 
+#include "invoice/berechnung.hpp"
 #include "invoice/file/dateifelder.hpp"
 #include "invoice/form1.hpp"
 #include "invoice/rechnung.hpp"
@@ -25,6 +26,9 @@ public:
 
     /// The same with the bytes of a file.
     void InhaltUebernehmen(std::string_view bytes);
+
+    /// Split of the shipping costs as the file holds it; zeros where it holds none.
+    Versandaufteilung VersandGelesen() const;
 
     /// Moves `DatenLesen` to the window. Says so and answers false when the file is no invoice.
     bool DateiDatenAnzeigen();

@@ -1,5 +1,6 @@
 #include "invoice/file/rechnungsschreiber.hpp"
 
+#include "invoice/zeichenersatz.hpp"
 #include "platform/datum.hpp"
 #include "platform/laufzeitfehler.hpp"
 #include "platform/text.hpp"
@@ -87,10 +88,7 @@ bool Rechnungsschreiber::DateiSchreiben(const std::string& pfad) {
     PositionenAnfuegen(zeilen);
     try {
         const std::size_t ersetzt = schreiben(pfad, zeilen);
-        form1_.StatusBar1[3].Caption = ersetzt == 0
-                                           ? std::string()
-                                           : "Achtung: " + std::to_string(ersetzt) +
-                                                 " Zeichen kennt die Datei nicht, sie wurden ersetzt.";
+        form1_.StatusBar1[3].Caption = ZEICHENERSATZ_MELDUNG(ersetzt);
         return true;
     } catch (const Laufzeitfehler&) {
         dialogs_.message({"Fehler beim speichern", "FEHLER BEIM SPEICHERN"});

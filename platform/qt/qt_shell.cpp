@@ -2,11 +2,14 @@
 
 #include "platform/laufzeitfehler.hpp"
 #include "platform/qt/qt_text.hpp"
+#include "platform/verzeichnis.hpp"
 
 #include <QDateTime>
 #include <QDesktopServices>
 #include <QFileInfo>
 #include <QUrl>
+
+#include <string_view>
 
 namespace quittika {
 
@@ -15,7 +18,11 @@ namespace {
 /// An address is told from a path by its beginning; a drive letter is no scheme.
 QUrl address_of(const std::string& document) {
     const QString text = to_qt(document).trimmed();
-    for (const char* scheme : {"http://", "https://", "mailto:", "file://"}) {
+    constexpr std::string_view kFile = "file:///";
+    if (std::string_view(document).substr(0, kFile.size()) == kFile) {
+        return address_of(document.substr(kFile.size())); // the program's own form of a path stands behind it
+    }
+    for (const char* scheme : {"http://", "https://", "mailto:"}) {
         if (text.startsWith(QLatin1String(scheme), Qt::CaseInsensitive)) {
             return QUrl(text);
         }
@@ -23,7 +30,7 @@ QUrl address_of(const std::string& document) {
     if (text.startsWith(QLatin1String("www."), Qt::CaseInsensitive)) {
         return QUrl(QStringLiteral("http://") + text);
     }
-    const QFileInfo file(path_to_qt(document));
+    const QFileInfo file(path_to_qt(systempfad(document)));
     return file.exists() ? QUrl::fromLocalFile(file.absoluteFilePath()) : QUrl();
 }
 
