@@ -38,15 +38,18 @@ void Blatt::leerzeilen(int anzahl) {
     }
 }
 
-void DRUCKTEXT_LINKS(Blatt& blatt, std::string_view text, double x, double y, bool absolut, bool position_behalten) {
+void DRUCKTEXT_LINKS(Blatt& blatt, std::string_view text, double x, double y, bool absolut,
+                     bool position_behalten) {
     drucke(blatt, text, x, y, 0, absolut, position_behalten);
 }
 
-void DRUCKTEXT_MITTE(Blatt& blatt, std::string_view text, double x, double y, bool absolut, bool position_behalten) {
+void DRUCKTEXT_MITTE(Blatt& blatt, std::string_view text, double x, double y, bool absolut,
+                     bool position_behalten) {
     drucke(blatt, text, x, y, 0.5, absolut, position_behalten);
 }
 
-void DRUCKTEXT_RECHTS(Blatt& blatt, std::string_view text, double x, double y, bool absolut, bool position_behalten) {
+void DRUCKTEXT_RECHTS(Blatt& blatt, std::string_view text, double x, double y, bool absolut,
+                      bool position_behalten) {
     drucke(blatt, text, x, y, 1, absolut, position_behalten);
 }
 

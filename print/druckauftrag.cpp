@@ -11,10 +11,14 @@
 
 namespace quittika {
 
-Druckauftrag::Druckauftrag(Form1& form1, const frm_einstellungen& einstellungen, const PROGRAMMEINSTELLUNG& programm,
-                           Dialogs& dialogs, Printing& printing, Desktop& desktop,
-                           std::function<void()> jetztberechnen_List)
-    : form1_(form1), einstellungen_(einstellungen), dialogs_(dialogs), printing_(printing), desktop_(desktop),
+Druckauftrag::Druckauftrag(Form1& form1, const frm_einstellungen& einstellungen,
+                           const PROGRAMMEINSTELLUNG& programm, Dialogs& dialogs, Printing& printing,
+                           Desktop& desktop, std::function<void()> jetztberechnen_List)
+    : form1_(form1),
+      einstellungen_(einstellungen),
+      dialogs_(dialogs),
+      printing_(printing),
+      desktop_(desktop),
       jetztberechnen_List_(std::move(jetztberechnen_List)),
       rechnungsdruck_(form1, einstellungen, programm, lieferschein_opt_) {
     lieferschein_opt_.CMD_weiter.Click = [this] { lieferschein_opt_.Close(); };
@@ -31,7 +35,8 @@ void Druckauftrag::check_LIEFERSCHEIN_PRINT() {
 }
 
 std::string Druckauftrag::auftragstitel() const {
-    return "QK-> " + form1_.Text_Kunde_1.Text() + " " + form1_.Text_rechnung.Text() + " " + form1_.Text_RNnr.Text();
+    return "QK-> " + form1_.Text_Kunde_1.Text() + " " + form1_.Text_rechnung.Text() + " " +
+           form1_.Text_RNnr.Text();
 }
 
 void Druckauftrag::Command_printform_Click() {

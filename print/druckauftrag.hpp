@@ -20,7 +20,8 @@ class Druckauftrag {
 public:
     /// `jetztberechnen_List` brings the result fields of the main window up to date.
     Druckauftrag(Form1& form1, const frm_einstellungen& einstellungen, const PROGRAMMEINSTELLUNG& programm,
-                 Dialogs& dialogs, Printing& printing, Desktop& desktop, std::function<void()> jetztberechnen_List);
+                 Dialogs& dialogs, Printing& printing, Desktop& desktop,
+                 std::function<void()> jetztberechnen_List);
 
     /// Asks for the printer and prints the copies, each a job of its own. Says in panel 2 of the
     /// status bar how it ended; throws only what the recalculation throws.

@@ -15,11 +15,12 @@ constexpr double kSchriftFuss = 8;
 
 void Druckfuss::DRUCKE_BEMERKUNGEN(Blatt& blatt) const {
     const bool versand = form1_.Check_Versandkosten.ticked();
-    const bool versand_mwst = form1_.Check_VersandMwStEXTRA.ticked() || form1_.Check_VersandINKL_MwSt.ticked();
+    const bool versand_mwst =
+        form1_.Check_VersandMwStEXTRA.ticked() || form1_.Check_VersandINKL_MwSt.ticked();
     blatt.leerzeilen(!versand ? 4 : versand_mwst ? 2 : 3);
     blatt.surface.ForeColor = programm_.FARBE_BEMERKUNGEN;
-    for (const auto* zeile :
-         {&form1_.Text_Bemerkung1, &form1_.Text_Bemerkung2, &form1_.Text_Bemerkung3, &form1_.Text_Bemerkung4}) {
+    for (const auto* zeile : {&form1_.Text_Bemerkung1, &form1_.Text_Bemerkung2, &form1_.Text_Bemerkung3,
+                              &form1_.Text_Bemerkung4}) {
         blatt.surface.CurrentX = blatt.X(12);
         blatt.surface.Print((*zeile)[1].Text());
     }
@@ -69,7 +70,8 @@ void Druckfuss::DRUCKE_FUSSZEILE(Blatt& blatt, int seite, int seiten) const {
         DRUCKTEXT_MITTE(blatt, "Seite " + std::to_string(seite) + "/" + std::to_string(seiten), 100, y);
     }
     if (einstellungen_.Check_BANKLINIE.ticked()) {
-        blatt.surface.Line(blatt.X(0), blatt.Y(y + 5), blatt.X(kBlattbreite), blatt.Y(y + 5), programm_.FARBE_LINIEN);
+        blatt.surface.Line(blatt.X(0), blatt.Y(y + 5), blatt.X(kBlattbreite), blatt.Y(y + 5),
+                           programm_.FARBE_LINIEN);
     }
     blatt.schrift(kSchriftFuss, false);
     blatt.surface.ForeColor = programm_.FARBE_BANKDATEN;

@@ -8,13 +8,13 @@ namespace quittika {
 
 namespace {
 
-constexpr double kPositionsnummer = 20;      ///< right edge of the position number
-constexpr double kVersatz = 3;               ///< quantities and headings stand right of their column by it
-constexpr double kLinks = 12;                ///< left end of the rules
-constexpr double kRechts = 188;              ///< right end of the rules
-constexpr double kRechtsUnterKopf = 200;     ///< right end of the rule below the headings
-constexpr double kLinksZwischensumme = 112;  ///< left end of the rule below the subtotal
-constexpr double kAbstand = 2;               ///< above and below a rule
+constexpr double kPositionsnummer = 20;     ///< right edge of the position number
+constexpr double kVersatz = 3;              ///< quantities and headings stand right of their column by it
+constexpr double kLinks = 12;               ///< left end of the rules
+constexpr double kRechts = 188;             ///< right end of the rules
+constexpr double kRechtsUnterKopf = 200;    ///< right end of the rule below the headings
+constexpr double kLinksZwischensumme = 112; ///< left end of the rule below the subtotal
+constexpr double kAbstand = 2;              ///< above and below a rule
 
 Spalten spalten_fuer(bool positionsnummern, const Druckoptionen& optionen) {
     return positionsnummern ? Spalten{32, 40, 147, optionen.x_gesamt} : Spalten{26, 33, 141, 178};
@@ -41,7 +41,9 @@ void SUMMENZEILE(Blatt& blatt, std::string_view text, double x_gesamt) {
 
 Drucktabelle::Drucktabelle(const Form1& form1, const frm_einstellungen& einstellungen,
                            const PROGRAMMEINSTELLUNG& programm, const Druckoptionen& optionen)
-    : form1_(form1), einstellungen_(einstellungen), programm_(programm),
+    : form1_(form1),
+      einstellungen_(einstellungen),
+      programm_(programm),
       spalten_(spalten_fuer(einstellungen.Check_Positionendruck.ticked(), optionen)),
       preise_(!(optionen.lieferschein_ohne_preise && IST_LIEFERSCHEIN(form1))) {}
 
@@ -62,7 +64,8 @@ void Drucktabelle::ueberschriften(Blatt& blatt) const {
     DRUCKTEXT_RECHTS(blatt, form1_.Label_Menge.Caption(), spalten_.X_Menge + kVersatz, kUnveraendert);
     DRUCKTEXT_LINKS(blatt, form1_.Label_Leistung.Caption(), spalten_.X_Leistung, kUnveraendert);
     if (preise_) {
-        DRUCKTEXT_RECHTS(blatt, form1_.Label_preis.Caption(), spalten_.X_Einzelpreis + kVersatz, kUnveraendert);
+        DRUCKTEXT_RECHTS(blatt, form1_.Label_preis.Caption(), spalten_.X_Einzelpreis + kVersatz,
+                         kUnveraendert);
         DRUCKTEXT_RECHTS(blatt, form1_.Label_gesamtp.Caption(), spalten_.X_Gesamt + kVersatz, kUnveraendert);
     }
     blatt.surface.Print(" ");

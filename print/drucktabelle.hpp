@@ -27,8 +27,8 @@ bool IST_LIEFERSCHEIN(const Form1& form1);
 /// The lists are read by index; their selections stay as they are.
 class Drucktabelle {
 public:
-    Drucktabelle(const Form1& form1, const frm_einstellungen& einstellungen, const PROGRAMMEINSTELLUNG& programm,
-                 const Druckoptionen& optionen);
+    Drucktabelle(const Form1& form1, const frm_einstellungen& einstellungen,
+                 const PROGRAMMEINSTELLUNG& programm, const Druckoptionen& optionen);
 
     const Spalten& spalten() const { return spalten_; }
     bool zeigt_preise() const { return preise_; }

@@ -52,10 +52,10 @@ void drucke_zeile(Blatt& blatt, const std::string& text, const Platz& platz) {
 
 void drucke_block(Blatt& blatt, const frm_einstellungen& einstellungen, Color farbe, const Platz& platz) {
     // The eighth field stands after the fourth.
-    const std::array<const TextBox*, 8> zeilen{
-        &einstellungen.Text_firma_1, &einstellungen.Text_firma_2, &einstellungen.Text_firma_3,
-        &einstellungen.Text_firma_4, &einstellungen.Text_firma_8, &einstellungen.Text_firma_5,
-        &einstellungen.Text_firma_6, &einstellungen.Text_firma_7};
+    const std::array<const TextBox*, 8> zeilen{&einstellungen.Text_firma_1, &einstellungen.Text_firma_2,
+                                               &einstellungen.Text_firma_3, &einstellungen.Text_firma_4,
+                                               &einstellungen.Text_firma_8, &einstellungen.Text_firma_5,
+                                               &einstellungen.Text_firma_6, &einstellungen.Text_firma_7};
     blatt.surface.ForeColor = farbe;
     blatt.surface.CurrentY = blatt.Y(platz.y);
     blatt.surface.FontBold = einstellungen.Check_FETT_firma1.ticked();

@@ -8,7 +8,8 @@ namespace quittika {
 struct Form_Lieferschein_opt : Form {
     Form_Lieferschein_opt() : Form("Form_Lieferschein_opt", "Lieferschein") {}
     CheckBox Check_LIEFERSCH_WERBESPRUCH{*this, "Check_LIEFERSCH_WERBESPRUCH", "Werbespruch drucken..."};
-    CheckBox Check_LIEFERSCH_BEMERKUNGSTEXT{*this, "Check_LIEFERSCH_BEMERKUNGSTEXT", "Bemerkungstext drucken..."};
+    CheckBox Check_LIEFERSCH_BEMERKUNGSTEXT{*this, "Check_LIEFERSCH_BEMERKUNGSTEXT",
+                                            "Bemerkungstext drucken..."};
     CheckBox Check_LIEFERSCH_ANSCHREIBEN{*this, "Check_LIEFERSCH_ANSCHREIBEN", "Anschreiben drucken..."};
     CommandButton CMD_weiter{*this, "CMD_weiter", "&Weiter"};
 };

@@ -25,7 +25,8 @@ void NachsichtigesGeraet::line(double x1, double y1, double x2, double y2, Color
     nachsichtig([&] { geraet_.line(x1, y1, x2, y2, color); });
 }
 
-void NachsichtigesGeraet::picture(double left, double top, double width, double height, const std::string& path) {
+void NachsichtigesGeraet::picture(double left, double top, double width, double height,
+                                  const std::string& path) {
     nachsichtig([&] { geraet_.picture(left, top, width, height, path); });
 }
 

@@ -30,7 +30,8 @@ void Rechnungsdruck::DRUCKE_RECHNUNG(PrintSurface& surface, Druckjustierung just
                                      const Druckoptionen& optionen) const {
     Blatt blatt{surface, just};
     const Drucktabelle tabelle(form1_, einstellungen_, programm_, optionen);
-    const std::vector<Zeilenbereich> seiten = Seitenumbruch(form1_.List_K.ListCount(), ZEILENPROSEITE(einstellungen_));
+    const std::vector<Zeilenbereich> seiten =
+        Seitenumbruch(form1_.List_K.ListCount(), ZEILENPROSEITE(einstellungen_));
     const int anzahl = static_cast<int>(seiten.size());
     std::string uebertrag = "0";
     for (int seite = 1; seite <= anzahl; ++seite) {

@@ -15,13 +15,18 @@ namespace quittika {
 /// Draws the document in hand, page by page, in one of the built-in designs.
 class Rechnungsdruck {
 public:
-    Rechnungsdruck(const Form1& form1, const frm_einstellungen& einstellungen, const PROGRAMMEINSTELLUNG& programm,
-                   const Form_Lieferschein_opt& lieferschein_opt)
-        : form1_(form1), einstellungen_(einstellungen), programm_(programm), lieferschein_opt_(lieferschein_opt),
-          kopf_(form1, einstellungen, programm), fuss_(form1, einstellungen, programm) {}
+    Rechnungsdruck(const Form1& form1, const frm_einstellungen& einstellungen,
+                   const PROGRAMMEINSTELLUNG& programm, const Form_Lieferschein_opt& lieferschein_opt)
+        : form1_(form1),
+          einstellungen_(einstellungen),
+          programm_(programm),
+          lieferschein_opt_(lieferschein_opt),
+          kopf_(form1, einstellungen, programm),
+          fuss_(form1, einstellungen, programm) {}
 
     /// Draws all pages and ends the document. Throws what the surface throws.
-    void DRUCKE_RECHNUNG(PrintSurface& surface, Druckjustierung just, const Druckoptionen& optionen = {}) const;
+    void DRUCKE_RECHNUNG(PrintSurface& surface, Druckjustierung just,
+                         const Druckoptionen& optionen = {}) const;
 
 private:
     void kopf(Blatt& blatt, bool erste_seite) const;

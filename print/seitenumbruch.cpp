@@ -16,7 +16,8 @@ Seitengroesse ZEILENPROSEITE(bool kopf_alle_seiten, bool bemerkungen_alle_seiten
 }
 
 Seitengroesse ZEILENPROSEITE(const frm_einstellungen& einstellungen) {
-    return ZEILENPROSEITE(einstellungen.Option_RN_Kopf_alleSeiten.Value(), einstellungen.Option_RN_BM_alleSeite.Value(),
+    return ZEILENPROSEITE(einstellungen.Option_RN_Kopf_alleSeiten.Value(),
+                          einstellungen.Option_RN_BM_alleSeite.Value(),
                           einstellungen.Check_MitLogoadresseFFSeite.ticked());
 }
 

@@ -18,7 +18,9 @@ public:
     Summenblock(Blatt& blatt, const Form1& form1, Color farbe, double x_gesamt)
         : blatt_(blatt), form1_(form1), farbe_(farbe), x_gesamt_(x_gesamt) {}
 
-    void summe() const { SUMMENZEILE(blatt_, form1_.Label_summe.Caption() + "   " + form1_.Text_summe.Text(), x_gesamt_); }
+    void summe() const {
+        SUMMENZEILE(blatt_, form1_.Label_summe.Caption() + "   " + form1_.Text_summe.Text(), x_gesamt_);
+    }
 
     void rabatt() const {
         zeile("Rabatt " + form1_.Text_Rabatt.Text() + " %:", form1_.Text_summeRabatt);
