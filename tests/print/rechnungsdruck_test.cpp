@@ -1,0 +1,237 @@
+#include "tests/print/druckprobe.hpp"
+
+#include <gtest/gtest.h>
+
+namespace quittika {
+namespace {
+
+TEST(Druck, JedesLayoutStelltLogoUndAbsender) {
+    struct Fall {
+        int layout;
+        const char* bild; ///< left, top, width, height
+        double x_mit;     ///< left edge of the first line; its right edge where negative
+        double y_mit;
+        double x_ohne;
+        double y_ohne;
+    };
+    const Fall faelle[] = {
+        {1, "logo 145 8 45 30,0", -140, 8, -190, 8},  {2, "logo 12 8 45 30,0", 62, 7, 17, 8},
+        {3, "logo 145 8 45 30,0", 17, 8, 17, 8},      {4, "logo 100 8 90 30,0", 17, 8, 17, 8},
+        {5, "logo 12 8 45 30,0", -190, 8, -190, 8},   {6, "logo 173 6 23 45,0", -168, 8, -145, 8},
+        {7, "logo 6 5 190 35,0", -195, 45, -195, 45}, {8, "logo 149 8 45 30,0", -191, 43, -191, 43},
+    };
+    for (const Fall& f : faelle) {
+        SCOPED_TRACE(f.layout);
+        Druckprobe p;
+        p.einstellungen.Layouts().at(static_cast<std::size_t>(f.layout - 1))->Value = true;
+        p.einstellungen.Picture1.Picture = "logo";
+        const Papier mit = p.drucken();
+        EXPECT_EQ(mit.bilder, std::vector<std::string>{f.bild});
+        const GezeichneterText* zeile = mit.finden("MUSTERFIRMA");
+        ASSERT_NE(zeile, nullptr);
+        EXPECT_TRUE(zeile->fett);
+        EXPECT_DOUBLE_EQ(f.x_mit < 0 ? -zeile->rechts : zeile->links, f.x_mit);
+        EXPECT_DOUBLE_EQ(zeile->oben, f.y_mit);
+        EXPECT_DOUBLE_EQ(mit.finden("Faxnr")->oben, f.y_mit + 16) << "the eighth field stands fifth";
+        EXPECT_FALSE(mit.finden("Faxnr")->fett);
+        p.einstellungen.Check_keinlogo.Value = 1;
+        const Papier ohne = p.drucken();
+        EXPECT_TRUE(ohne.bilder.empty());
+        zeile = ohne.finden("MUSTERFIRMA");
+        EXPECT_DOUBLE_EQ(f.x_ohne < 0 ? -zeile->rechts : zeile->links, f.x_ohne);
+        EXPECT_DOUBLE_EQ(zeile->oben, f.y_ohne);
+    }
+}
+
+TEST(Druck, KopfStehtAufSeinenStellen) {
+    Druckprobe p;
+    p.werte.FARBE_KUNDENNR = 255;
+    p.werte.FARBE_WERBESPRUCH = 65280;
+    p.werte.GROESSE_RECHNUNG = 18;
+    p.werte.GROESSE_WERBUNG = 14;
+    const Papier papier = p.drucken({-4, 3});
+    struct Fall {
+        const char* text;
+        double x;
+        double y;
+        double groesse;
+        bool fett;
+        Color farbe;
+    };
+    const Fall faelle[] = {
+        {"05.03.2008", 168, 126, 11, false, 0},       {"Name, Vorname", 25, 58, 11, false, 0},
+        {"PLZ, Wohnort", 25, 66, 11, false, 0},       {"Kundennr:", 25, 82, 11, true, 255},
+        {"Ihr Werbespruch", 8, 108, 14, true, 65280}, {"RECHNUNG 7", 8, 128, 18, true, 0},
+    };
+    for (const Fall& f : faelle) {
+        SCOPED_TRACE(f.text);
+        const GezeichneterText* t = papier.finden(f.text);
+        ASSERT_NE(t, nullptr);
+        EXPECT_DOUBLE_EQ(t->links, f.x);
+        EXPECT_DOUBLE_EQ(t->oben, f.y);
+        EXPECT_DOUBLE_EQ(t->groesse, f.groesse);
+        EXPECT_EQ(t->fett, f.fett);
+        EXPECT_EQ(t->farbe, f.farbe);
+    }
+    EXPECT_DOUBLE_EQ(papier.linien[0].x1, 0) << "fold marks belong to the sheet's edge";
+    EXPECT_DOUBLE_EQ(papier.linien[0].y1, 102);
+    EXPECT_DOUBLE_EQ(papier.linien[1].y1, 201);
+    EXPECT_EQ(papier.linien[0].farbe, color::rgb(120, 120, 120));
+}
+
+TEST(Druck, TabelleHaeltIhreSpalten) {
+    for (const bool nummern : {true, false}) {
+        SCOPED_TRACE(nummern);
+        Druckprobe p;
+        p.einstellungen.Check_Positionendruck.Value = nummern ? 1 : 0;
+        p.zeile("2", "Stuhl", "12,50");
+        p.form1.Check_K.Value = 1;
+        p.form1.Text_leistung.Text = "Kommentar";
+        p.positionen.Cmd_Add_To_list_Click();
+        p.positionen.Command_Trennzeile_Click();
+        p.zeile("1", "Tisch", "80");
+        const Papier papier = p.drucken();
+        const double versatz = nummern ? 0 : -6;
+        const GezeichneterText* stuhl = papier.finden("Stuhl");
+        ASSERT_NE(stuhl, nullptr);
+        EXPECT_DOUBLE_EQ(stuhl->links, nummern ? 40 : 33);
+        EXPECT_DOUBLE_EQ(papier.finden("12,50")->rechts, 147 + versatz);
+        EXPECT_DOUBLE_EQ(papier.finden("25,00")->rechts, 184 + versatz);
+        EXPECT_DOUBLE_EQ(papier.finden("Menge")->rechts, 35 + versatz);
+        EXPECT_DOUBLE_EQ(papier.finden("Einzelpreis")->rechts, 150 + versatz) << "3 mm right of the values";
+        EXPECT_DOUBLE_EQ(papier.finden("Gesamtpreis")->rechts, 187 + versatz);
+        EXPECT_EQ(papier.finden("Pos.") != nullptr, nummern);
+        EXPECT_EQ(papier.finden("001") != nullptr, nummern);
+        EXPECT_DOUBLE_EQ(papier.finden("Kommentar")->oben, stuhl->oben + 4);
+        EXPECT_DOUBLE_EQ(papier.finden("Tisch")->oben, stuhl->oben + 8) << "a break row takes no line";
+        const GezeichneteLinie& erste = papier.linien.at(2);
+        EXPECT_DOUBLE_EQ(erste.y2, erste.y1 + 1) << "the first rule falls";
+        EXPECT_DOUBLE_EQ(erste.x2, 188);
+        EXPECT_DOUBLE_EQ(papier.linien.at(3).x2, 200);
+    }
+}
+
+TEST(Druck, UebertragUndZwischensummeUeberDreiSeiten) {
+    Druckprobe p;
+    p.zeilen(46);
+    p.form1.Text_Bemerkung1[1].Text = "Bemerkungen";
+    const Papier papier = p.drucken();
+    EXPECT_EQ(papier.seite, 3);
+    EXPECT_EQ(papier.enden, 1);
+    EXPECT_EQ(papier.finden("Übertrag", 1), nullptr);
+    EXPECT_EQ(papier.finden("Zwischensumme", 1)->text, "Zwischensumme:    170,00");
+    EXPECT_EQ(papier.finden("Übertrag", 2)->text, "Übertrag:   170,00");
+    EXPECT_EQ(papier.finden("Zwischensumme", 2)->text, "Zwischensumme:    450,00");
+    EXPECT_EQ(papier.finden("Übertrag", 3)->text, "Übertrag:   450,00");
+    EXPECT_EQ(papier.finden("Zwischensumme", 3), nullptr);
+    EXPECT_DOUBLE_EQ(papier.finden("Übertrag", 3)->rechts, 184);
+    EXPECT_EQ(papier.finden("Bemerkungen", 1), nullptr);
+    EXPECT_NE(papier.finden("Bemerkungen", 3), nullptr);
+    for (int seite = 1; seite <= 3; ++seite) {
+        EXPECT_EQ(papier.finden("Seite ", seite)->text, "Seite " + std::to_string(seite) + "/3");
+        EXPECT_NE(papier.finden("MUSTERFIRMA", seite), nullptr) << "the logo block on every page";
+        EXPECT_NE(papier.finden("INSTITUT", seite), nullptr);
+    }
+    EXPECT_EQ(papier.finden("Ihr Werbespruch", 2), nullptr) << "the full head only on the first";
+}
+
+TEST(Druck, ZweiteSeiteOhneBlockBeginntTiefer) {
+    Druckprobe p;
+    p.einstellungen.Check_MitLogoadresseFFSeite.Value = 0;
+    p.zeilen(20);
+    const Papier papier = p.drucken({0, 5});
+    EXPECT_EQ(papier.finden("MUSTERFIRMA", 2), nullptr);
+    EXPECT_DOUBLE_EQ(papier.finden("05.03.2008", 2)->oben, 35);
+    EXPECT_DOUBLE_EQ(papier.finden("RECHNUNG 7", 2)->oben, 35 + 4 + 5) << "the adjustment counts twice";
+}
+
+TEST(Druck, SummenblockFolgtDenHaekchen) {
+    struct Fall {
+        const char* name;
+        bool rabatt;
+        bool mwst;
+        bool versand;
+        bool versand_extra;
+        std::vector<std::string> zeilen;
+    };
+    const Fall faelle[] = {
+        {"nur Summe", false, false, false, false, {"Gesamtbetrag:   100,00", "Rechnungsbetrag:    100,00"}},
+        {"alles",
+         true,
+         true,
+         true,
+         true,
+         {"Gesamtbetrag (inkl. MwSt.) :   100,00", "Rabatt 0,00 %:    -0,00", "Summe nach Rabatt:    100,00",
+          "MwSt. 19,00 %:    19,00", "Versandkosten: (Netto)    10,00", "Versandk.-MwSt.: (19%)    1,90",
+          "Rechnungsbetrag:    130,90"}},
+        {"Versand einzeilig",
+         false,
+         false,
+         true,
+         false,
+         {"Gesamtbetrag:   100,00", "Versandkosten:    11,90", "Rechnungsbetrag:    111,90"}},
+    };
+    for (const Fall& f : faelle) {
+        SCOPED_TRACE(f.name);
+        Druckprobe p;
+        p.zeilen(10);
+        p.form1.Check_RABATT.Value = f.rabatt ? 1 : 0;
+        p.form1.Check_mwst.Value = f.mwst ? 1 : 0;
+        p.form1.Option_mwst_plus.Value = f.mwst;
+        p.form1.Check_Versandkosten.Value = f.versand ? 1 : 0;
+        p.form1.Text_PreisVersankostenEingabe.Text = "11,90";
+        p.form1.Check_VersandMwStEXTRA.Value = f.versand_extra ? 1 : 0;
+        p.summen.jetztberechnen_List();
+        const Papier papier = p.drucken();
+        std::vector<std::string> zeilen;
+        for (const GezeichneterText& t : papier.texte) {
+            if (t.rechts == 184 && t.text.find("    ") != std::string::npos) {
+                zeilen.push_back(t.text);
+            } else if (t.rechts == 184 && beginnt_mit(t.text, "Gesamtbetrag")) {
+                zeilen.push_back(t.text);
+            }
+        }
+        EXPECT_EQ(zeilen, f.zeilen);
+        EXPECT_TRUE(papier.finden("Rechnungsbetrag")->fett);
+        EXPECT_DOUBLE_EQ(papier.linien.back().x2, 200) << "the closing rule is longer";
+    }
+}
+
+TEST(Druck, FussInSeinenFormen) {
+    Druckprobe p;
+    p.einstellungen.Check_BANKLINIE.Value = 1;
+    p.werte.FARBE_BANKDATEN = 255;
+    Papier papier = p.drucken({2, 0});
+    EXPECT_DOUBLE_EQ(papier.finden("INSTITUT")->links, 23);
+    EXPECT_DOUBLE_EQ(papier.finden("INSTITUT")->oben, 279);
+    EXPECT_EQ(papier.finden("INSTITUT")->farbe, 255);
+    EXPECT_DOUBLE_EQ(papier.linien.back().y1, 277);
+    EXPECT_DOUBLE_EQ(papier.linien.back().x2, 299);
+    EXPECT_DOUBLE_EQ((papier.finden("Seite")->links + papier.finden("Seite")->rechts) / 2, 102);
+    p.einstellungen.Check_mit_IBAN_BIC_Drucken.Value = 1;
+    papier = p.drucken();
+    EXPECT_DOUBLE_EQ(papier.finden("KTO")->links, 70);
+    EXPECT_DOUBLE_EQ(papier.finden("IBAN")->links, 99);
+    EXPECT_DOUBLE_EQ(papier.finden("SWIFT")->links, 150);
+    p.einstellungen.Option_BankVerb_ZweiZeile.Value = true;
+    p.einstellungen.Check_Bankverb_Zeile2.Value = 1;
+    p.einstellungen.Check_Bankverb_Zeile3.Value = 1;
+    papier = p.drucken();
+    EXPECT_EQ(papier.finden("INSTITUT"), nullptr);
+    EXPECT_DOUBLE_EQ(papier.finden("Seite")->oben, 262);
+    EXPECT_DOUBLE_EQ(papier.finden("In diese Zeilen")->oben, 269);
+    EXPECT_DOUBLE_EQ(papier.texte.back().oben, 277);
+}
+
+TEST(Druck, ListenBehaltenIhreAuswahl) {
+    Druckprobe p;
+    p.zeilen(5);
+    p.form1.List_DARSTELLUNG.ListIndex = 1;
+    const int vorher = p.form1.List_K.ListIndex();
+    p.drucken();
+    EXPECT_EQ(p.form1.List_K.ListIndex(), vorher);
+    EXPECT_EQ(p.form1.List_DARSTELLUNG.ListIndex(), 1);
+}
+
+} // namespace
+} // namespace quittika
