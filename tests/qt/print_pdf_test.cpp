@@ -1,0 +1,104 @@
+#include "platform/laufzeitfehler.hpp"
+#include "platform/print_surface.hpp"
+#include "platform/qt/print_pdf.hpp"
+
+#include <gtest/gtest.h>
+
+#include <QProcess>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+
+namespace quittika::test {
+
+namespace {
+
+constexpr double kPointsPerMillimetre = 72 / 25.4;
+
+QString output_of(const QString& program, const QStringList& arguments) {
+    QProcess process;
+    process.start(program, arguments);
+    EXPECT_TRUE(process.waitForFinished(10000)) << program.toStdString();
+    return QString::fromUtf8(process.readAllStandardOutput());
+}
+
+/// Box of a word on a page of the PDF, in mm.
+struct Word {
+    double left = 0;
+    double top = 0;
+    double right = 0;
+};
+
+Word word_of(const QString& boxes, const QString& word) {
+    const QRegularExpression pattern(
+        "xMin=\"([0-9.]+)\" yMin=\"([0-9.]+)\" xMax=\"([0-9.]+)\" yMax=\"[0-9.]+\">" +
+        QRegularExpression::escape(word) + "<");
+    const QRegularExpressionMatch match = pattern.match(boxes);
+    EXPECT_TRUE(match.hasMatch()) << word.toStdString();
+    const auto millimetres = [&match](int group) {
+        return match.captured(group).toDouble() / kPointsPerMillimetre;
+    };
+    return {millimetres(1), millimetres(2), millimetres(3)};
+}
+
+class PdfTest : public ::testing::Test {
+protected:
+    QTemporaryDir folder;
+    QtFontMetrics metrics;
+    QString path = folder.filePath("probe.pdf");
+};
+
+TEST_F(PdfTest, WordsStandWhereTheyWereDrawn) {
+    QtPdfDevice device(metrics, path, "Rechnung für Müller");
+    PrintSurface surface(device, metrics);
+    surface.FontSize = 11;
+    surface.CurrentX = 25;
+    surface.CurrentY = 60;
+    surface.PrintOn("Überweisung");
+    const double width = surface.TextWidth("Überweisung");
+    surface.NewPage();
+    surface.FontBold = true;
+    surface.CurrentX = 100;
+    surface.CurrentY = 200;
+    surface.Print("Größe");
+    EXPECT_FALSE(QFile::exists(path)) << "a half-written document must not be taken for a whole one";
+    surface.EndDoc();
+
+    const QString info = output_of("pdfinfo", {path});
+    EXPECT_TRUE(info.contains(QRegularExpression("Pages: +2\\n"))) << info.toStdString();
+    EXPECT_TRUE(info.contains("(A4)")) << info.toStdString();
+    EXPECT_TRUE(info.contains("Rechnung für Müller"));
+    const QString boxes = output_of("pdftotext", {"-bbox", path, "-"});
+    const Word first = word_of(boxes, "Überweisung");
+    EXPECT_NEAR(first.left, 25, 0.2);
+    EXPECT_NEAR(first.right - first.left, width, 0.2) << "what was measured is what was drawn";
+    EXPECT_NEAR(first.top, 60, 1.0);
+    EXPECT_NEAR(word_of(boxes, "Größe").left, 100, 0.2);
+}
+
+TEST_F(PdfTest, AFileThatCannotBeWrittenIsAPrinterError) {
+    QtPdfDevice device(metrics, folder.filePath("fehlt/probe.pdf"), "x");
+    PrintSurface surface(device, metrics);
+    surface.Print("x");
+    try {
+        surface.EndDoc();
+        FAIL() << "no error";
+    } catch (const Laufzeitfehler& f) {
+        EXPECT_EQ(f.nummer(), fehler::kDrucker);
+    }
+}
+
+TEST_F(PdfTest, MeasuresInMillimetres) {
+    // Arial and its twin have digits of 1139 units of 2048: ten of them at 72 points are 400,4 points wide.
+    EXPECT_NEAR(metrics.text_width({"Arial", 72, false}, "0123456789"), 400.4 / kPointsPerMillimetre, 0.3);
+    EXPECT_NEAR(metrics.text_width({"Courier New", 10, false}, "iiii"),
+                metrics.text_width({"Courier New", 10, false}, "WWWW"), 1e-9);
+    EXPECT_NEAR(metrics.text_width({"Arial", 10, false}, "AVAV"),
+                2 * metrics.text_width({"Arial", 10, false}, "AV"), 1e-9)
+        << "no kerning";
+    EXPECT_GT(metrics.text_width({"Arial", 10, true}, "Menge"),
+              metrics.text_width({"Arial", 10, false}, "Menge"));
+}
+
+} // namespace
+
+} // namespace quittika::test
