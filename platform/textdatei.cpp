@@ -254,20 +254,22 @@ std::vector<std::string> lesen(const std::string& pfad, std::size_t hoechstens) 
     return zeilen;
 }
 
+void Textpuffer::zeile(std::string_view text) {
+    ersetzt_ += ansi_anhaengen(bytes_, text);
+    bytes_ += "\r\n";
+}
+
+void schreiben(const std::string& pfad, const Textpuffer& zeilen) {
+    bytes_schreiben(pfad, zeilen.bytes());
+}
+
 std::size_t schreiben(const std::string& pfad, const std::vector<std::string>& zeilen) {
-    std::size_t laenge = 0;
+    Textpuffer puffer;
     for (const std::string& zeile : zeilen) {
-        laenge += zeile.size() + 2;
+        puffer.zeile(zeile);
     }
-    std::string bytes;
-    bytes.reserve(laenge);
-    std::size_t ersetzt = 0;
-    for (const std::string& zeile : zeilen) {
-        ersetzt += ansi_anhaengen(bytes, zeile);
-        bytes += "\r\n";
-    }
-    bytes_schreiben(pfad, bytes);
-    return ersetzt;
+    schreiben(pfad, puffer);
+    return puffer.ersetzt();
 }
 
 std::string DATEI_ERSTE_ZEILE(const std::string& pfad) {

@@ -24,9 +24,23 @@ void zeilen_durchgehen(std::string_view bytes, const std::function<bool(std::str
 std::vector<std::string> lesen(const std::string& pfad,
                                std::size_t hoechstens = std::numeric_limits<std::size_t>::max());
 
+/// Lines on their way into a file.
+class Textpuffer {
+public:
+    void zeile(std::string_view text);
+    const std::string& bytes() const { return bytes_; }
+    /// Characters so far that the code page lacks.
+    std::size_t ersetzt() const { return ersetzt_; }
+
+private:
+    std::string bytes_;
+    std::size_t ersetzt_ = 0;
+};
+
 /// Replaces a file by these lines. They are written beside it first and take its place when they are
-/// completely on disk, so that the old content is there until then. Returns how many characters the code page
-/// lacks.
+/// completely on disk, so that the old content is there until then.
+void schreiben(const std::string& pfad, const Textpuffer& zeilen);
+/// The same; returns how many characters the code page lacks.
 std::size_t schreiben(const std::string& pfad, const std::vector<std::string>& zeilen);
 
 /// First line of a file; "FEHLER" if it is missing, unreadable or empty.

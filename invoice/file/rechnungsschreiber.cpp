@@ -63,32 +63,32 @@ void Rechnungsschreiber::BesondereZeilen() {
     }
 }
 
-void Rechnungsschreiber::PositionenAnfuegen(std::vector<std::string>& zeilen) const {
+void Rechnungsschreiber::PositionenAnfuegen(Textpuffer& datei) const {
     const Form1& f = form1_;
     const std::array<const ListBox*, 6> listen{&f.List_pos,      &f.List_K,     &f.List_Menge,
                                                &f.List_Leistung, &f.List_Preis, &f.List_Gesamtp};
-    constexpr std::size_t kUebrigeFelder = 64;
+    std::string zeile;
     for (int i = 0; i < f.List_Gesamtp.ListCount(); ++i) {
-        std::string zeile;
-        zeile.reserve(f.List_Leistung.List(i).size() + kUebrigeFelder);
-        zeile += kListenmarke;
+        zeile = kListenmarke;
         for (const ListBox* liste : listen) {
             zeile += ';';
             zeile += liste->List(i);
         }
-        zeilen.push_back(einzeilig(std::move(zeile)));
+        zeile = einzeilig(std::move(zeile));
+        datei.zeile(zeile);
     }
 }
 
 bool Rechnungsschreiber::DateiSchreiben(const std::string& pfad) {
-    std::vector<std::string> zeilen;
-    zeilen.reserve(DatenSchreiben.alle().size() + 1 + form1_.List_Gesamtp.items().size());
-    zeilen = DatenSchreiben.alle();
-    zeilen.push_back("Gespeichert am: " + datum_zeit_text(uhr_.now()));
-    PositionenAnfuegen(zeilen);
+    Textpuffer datei;
+    for (const std::string& zeile : DatenSchreiben.alle()) {
+        datei.zeile(zeile);
+    }
+    datei.zeile("Gespeichert am: " + datum_zeit_text(uhr_.now()));
+    PositionenAnfuegen(datei);
     try {
-        const std::size_t ersetzt = schreiben(pfad, zeilen);
-        form1_.StatusBar1[3].Caption = ZEICHENERSATZ_MELDUNG(ersetzt);
+        schreiben(pfad, datei);
+        form1_.StatusBar1[3].Caption = ZEICHENERSATZ_MELDUNG(datei.ersetzt());
         return true;
     } catch (const Laufzeitfehler&) {
         dialogs_.message({"Fehler beim speichern", "FEHLER BEIM SPEICHERN"});

@@ -5,6 +5,7 @@
 #include "invoice/rechnungszustand.hpp"
 #include "platform/dialogs.hpp"
 #include "platform/shell.hpp"
+#include "platform/textdatei.hpp"
 #include "settings/programmeinstellung.hpp"
 
 #include <string>
@@ -27,7 +28,7 @@ public:
 
 private:
     void BesondereZeilen();
-    void PositionenAnfuegen(std::vector<std::string>& zeilen) const;
+    void PositionenAnfuegen(Textpuffer& datei) const;
 
     Form1& form1_;
     const PROGRAMMEINSTELLUNG& einstellung_;

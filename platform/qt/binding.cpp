@@ -7,6 +7,7 @@
 #include "platform/qt/qt_text.hpp"
 #include "platform/qt/range_views.hpp"
 #include "platform/qt/text_views.hpp"
+#include "platform/qt/widgets/late_content.hpp"
 
 #include <QDebug>
 #include <QHash>
@@ -164,18 +165,39 @@ std::string finding(const Control& control, const QList<QObject*>& widgets) {
     return {};
 }
 
-} // namespace
-
-void bind(Form& form, QWidget& window) {
+/// Ties the controls that nothing shows yet; returns the names of those for which there is no widget.
+std::vector<std::string> bind_missing(Form& form, QWidget& window) {
+    std::vector<std::string> missing;
     const QMultiHash<QString, QObject*> parts = named_parts(form, window);
     for (Control* control : form.controls()) {
+        if (control->view() != nullptr || control->kind() == kWithoutWidget) {
+            continue;
+        }
         QObject* object = parts.value(to_qt(control->name()));
         const Pair* pair = object == nullptr ? nullptr : pair_of(*control, *object);
         if (pair != nullptr) {
             control->attach(pair->tie(*control, *object));
-        } else if (control->kind() != kWithoutWidget) {
-            qWarning("%s.%s is not shown", form.name().c_str(), control->name().c_str());
+        } else {
+            missing.push_back(control->name());
         }
+    }
+    return missing;
+}
+
+} // namespace
+
+void bind(Form& form, QWidget& window) {
+    bool complete = true;
+    for (LateContent* late : window.findChildren<LateContent*>()) {
+        if (!late->is_complete()) {
+            complete = false;
+            QObject::connect(late, &LateContent::completed, late,
+                             [&form, &window] { bind_missing(form, window); });
+        }
+    }
+    const std::vector<std::string> missing = bind_missing(form, window);
+    for (const std::string& name : complete ? missing : std::vector<std::string>{}) {
+        qWarning("%s.%s is not shown", form.name().c_str(), name.c_str());
     }
 }
 
@@ -186,6 +208,9 @@ void unbind(Form& form) {
 }
 
 std::vector<std::string> check_binding(Form& form, QWidget& window) {
+    for (LateContent* late : window.findChildren<LateContent*>()) {
+        late->complete();
+    }
     std::vector<std::string> findings;
     const QMultiHash<QString, QObject*> parts = named_parts(form, window);
     for (const Control* control : form.controls()) {

@@ -88,6 +88,18 @@ TEST_F(Hauptfenstertest, TabulatorFolgtDerArbeit) {
     }
 }
 
+TEST_F(Hauptfenstertest, RasterEntstehtBeimAufklappen) {
+    f().Raster[0].Text_leistung[0].Text = "vorher";
+    EXPECT_EQ(feld<QLineEdit>("Text_leistung1(0)"), nullptr) << "not made before it is looked at";
+    feld<QAbstractButton>("ui_Raster_Kopf")->click();
+    QTest::qWait(1);
+    auto* eingabe = feld<QLineEdit>("Text_leistung1(0)");
+    ASSERT_NE(eingabe, nullptr);
+    EXPECT_EQ(eingabe->text(), "vorher");
+    tippen("Text_leistung9(0)", "Griff");
+    EXPECT_EQ(f().Raster[8].Text_leistung[0].Text(), "Griff");
+}
+
 TEST_F(Hauptfenstertest, UeblicheTastenkuerzel) {
     const std::pair<const char*, const char*> kuerzel[] = {{"m_neu", "Ctrl+N"},
                                                            {"m_oeffnen", "Ctrl+O"},

@@ -39,7 +39,7 @@ Field* make_field(QWidget* frame, const QString& name, const QString& text, int 
 
 } // namespace
 
-GridPages::GridPages(QWidget* parent) : QWidget(parent) {
+void GridPages::build() {
     auto* pages = new QGridLayout(this);
     pages->setContentsMargins(0, 0, 0, 0);
     for (int page = 0; page < kPages; ++page) {

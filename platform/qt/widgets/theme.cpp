@@ -5,6 +5,7 @@
 #include <QIcon>
 #include <QPalette>
 #include <QProxyStyle>
+#include <QStyle>
 #include <QStyleOption>
 #include <algorithm>
 
