@@ -53,9 +53,6 @@ Form1::Form1()
     for (int seite = 0; seite < kSeiten; ++seite) {
         CMD_Seite1[seite].Caption.adopt("Seite " + std::to_string(seite + 1));
         Frame_seite1[seite].Visible.adopt(seite == 0);
-        for (Rasterzeile& zeile : Raster) {
-            zeile.Text_gesamtp[seite].Locked.adopt(true);
-        }
     }
     for (Menu* m : {&m_R1, &m_R2, &m_R3}) {
         m->Visible.adopt(false);

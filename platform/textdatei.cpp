@@ -69,6 +69,8 @@ public:
             scheitern(errno, pfad);
         }
     }
+    /// Takes over a file that is open already.
+    explicit Datei(int nummer) : nummer_(nummer) {}
     Datei(const Datei&) = delete;
     Datei& operator=(const Datei&) = delete;
     ~Datei() {
@@ -142,11 +144,32 @@ void ordner_sichern(const std::string& pfad) {
     }
 }
 
+/// A file that did not exist before, in the folder of `ziel`: it takes nobody's place and follows no link.
+struct NeueDatei {
+    std::string pfad;
+    int nummer;
+};
+
+NeueDatei neue_datei_neben(const std::string& ziel, mode_t rechte) {
+    const std::string ordner = ziel.substr(0, ziel.rfind('/') + 1);
+    for (int versuch = 0;; ++versuch) {
+        std::string pfad =
+            ordner + ".quittika-" + std::to_string(getpid()) + "-" + std::to_string(versuch) + ".neu";
+        const int nummer = open(pfad.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, rechte);
+        if (nummer >= 0) {
+            return {std::move(pfad), nummer};
+        }
+        if (errno != EEXIST) {
+            scheitern(errno, ziel);
+        }
+    }
+}
+
 void neben_der_alten_schreiben(const std::string& ziel, std::string_view bytes, mode_t rechte,
                                bool vorhanden) {
-    const std::string neu = ziel + ".neu";
+    const NeueDatei neu = neue_datei_neben(ziel, rechte);
     try {
-        Datei datei(neu, O_WRONLY | O_CREAT | O_TRUNC, rechte);
+        Datei datei(neu.nummer);
         datei.schreiben(bytes, ziel);
         if (vorhanden) {
             fchmod(datei.nummer(), rechte);
@@ -155,11 +178,11 @@ void neben_der_alten_schreiben(const std::string& ziel, std::string_view bytes, 
             scheitern(errno, ziel);
         }
         datei.schliessen(ziel);
-        if (rename(neu.c_str(), ziel.c_str()) != 0) {
+        if (rename(neu.pfad.c_str(), ziel.c_str()) != 0) {
             scheitern(errno, ziel);
         }
     } catch (const Laufzeitfehler&) {
-        unlink(neu.c_str());
+        unlink(neu.pfad.c_str());
         throw;
     }
     ordner_sichern(ziel);
@@ -208,10 +231,10 @@ void anhaengen(const std::string& ort, const std::string& bytes) {
 
 std::string bytes_lesen(const std::string& pfad) {
     const std::string ort = ort_von(pfad);
-    const Datei datei(ort, O_RDONLY);
+    const Datei datei(ort, O_RDONLY | O_NONBLOCK); // a pipe without a writer must not hold the program
     struct stat auskunft {};
-    if (fstat(datei.nummer(), &auskunft) == 0 && S_ISDIR(auskunft.st_mode)) {
-        scheitern(EISDIR, ort);
+    if (fstat(datei.nummer(), &auskunft) != 0 || !S_ISREG(auskunft.st_mode)) {
+        scheitern(EISDIR, ort); // neither a folder nor a device nor a pipe is a text file
     }
     std::string inhalt;
     constexpr std::size_t kStueck = 65536;

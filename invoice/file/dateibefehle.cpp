@@ -45,6 +45,7 @@ void Dateibefehle::m_neu_Click() {
     }
     nummern_.RNNUMMERZUWEISEN();
     form1_.StatusBar1[2].Caption = "";
+    form1_.StatusBar1[3].Caption = "";
     rechnung_.RechnungLeeren();
     zustand_.IstDateiDesPfads = false;
     summen_.VersandMerken({});
@@ -71,13 +72,13 @@ std::string Dateibefehle::SpeicherpfadWaehlen() {
 bool Dateibefehle::SpeichernNach(const std::string& pfad) {
     PfadZeigen(pfad);
     form1_.StatusBar1[2].Caption = "SPEICHERN VON: " + pfad;
-    zuletzt_.ZuletztGeoeffnetMerken(pfad);
     schreiber_.DateiDatenSammeln();
     if (!schreiber_.DateiSchreiben(pfad)) {
         PfadZeigen(zustand_.AktuellerPfad);
         form1_.StatusBar1[2].Caption = kSpeicherfehler;
         return false;
     }
+    zuletzt_.ZuletztGeoeffnetMerken(pfad); // a file that was not written is none of the recent ones
     zustand_.als_gespeichert_merken();
     nummern_.NummerVerbrauchen();
     form1_.StatusBar1[2].Caption = "SPEICHERN ABGESCHLOSSEN";
@@ -148,14 +149,14 @@ bool Dateibefehle::oeffneRN(const std::string& pfad) {
             gewaehlt = dialogs_.open_file({"Quittika 2008  Dateien (*.qk8)|*.qk8", {}, {}});
             zustand_.ZuletztGeoeffnet = gewaehlt;
         }
-        zuletzt_.ZuletztGeoeffnetMerken(gewaehlt);
         leser_.DateiEinlesen(gewaehlt);
+        zuletzt_.ZuletztGeoeffnetMerken(gewaehlt);
         const bool rechnung = leser_.DateiDatenAnzeigen();
         PfadZeigen(gewaehlt);
         Auffrischen();
         form1_.StatusBar1[2].Caption = "GEÖFFNETE DATEI: " + gewaehlt;
         CMD_Seite1_Click(0);
-        AktuellenPfadSetzen(rechnung ? gewaehlt : std::string());
+        AktuellenPfadSetzen(rechnung && !leser_.Abgeschnitten() ? gewaehlt : std::string());
         return true;
     } catch (const Laufzeitfehler& fehler) {
         if (fehler.nummer() != kDialogAbgebrochen) {
@@ -169,7 +170,7 @@ void Dateibefehle::m_R_Click(int n) {
     const std::string pfad = zuletzt_.Eintrag(n);
     try {
         leser_.DateiEinlesen(pfad);
-        AktuellenPfadSetzen(leser_.DateiDatenAnzeigen() ? pfad : std::string());
+        AktuellenPfadSetzen(leser_.DateiDatenAnzeigen() && !leser_.Abgeschnitten() ? pfad : std::string());
         PfadZeigen(pfad);
         form1_.StatusBar1[2].Caption = "GEÖFFNETE DATEI: " + pfad;
         Auffrischen();
@@ -194,6 +195,8 @@ void Dateibefehle::AktuellenPfadSetzen(const std::string& pfad) {
 }
 
 void Dateibefehle::Auffrischen() {
+    form1_.StatusBar1[3].Caption =
+        leser_.Abgeschnitten() ? "Achtung: Die Datei hat zu viele Zeilen, es fehlen Positionen." : "";
     summen_.VersandMerken(leser_.VersandGelesen());
     summen_.jetztberechnen_List();
     rechnung_.DarstellungAufbauen();

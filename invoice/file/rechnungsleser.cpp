@@ -52,10 +52,12 @@ void Rechnungsleser::InhaltUebernehmen(std::string_view bytes) {
     rechnung_.RechnungLeeren();
     DatenLesen.leeren();
     Dateiformat.clear();
+    abgeschnitten_ = false;
     int gelesen = 0;
     int nummer = 0;
     zeilen_durchgehen(bytes, [&](std::string_view zeile) {
         if (gelesen == kHoechstzeilen) {
+            abgeschnitten_ = true;
             return false;
         }
         if (gelesen++ == 0) {
@@ -104,6 +106,13 @@ bool Rechnungsleser::DateiDatenAnzeigen() {
 }
 
 void Rechnungsleser::FelderUebernehmen() {
+    // What a file does not set must not be left from the invoice before.
+    for (CheckBox* haekchen :
+         {&form1_.Check_mwst, &form1_.Check_mengenartDECIMAL, &form1_.Check_000, &form1_.Check_RABATT,
+          &form1_.Check_VersandMwStEXTRA, &form1_.Check_VersandINKL_MwSt}) {
+        haekchen->Value = 0;
+    }
+    form1_.Combo1_mahnung.ListIndex = -1;
     for (const Dateifeld& feld : felder_) {
         FeldUebernehmen(feld);
     }

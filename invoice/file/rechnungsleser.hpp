@@ -30,6 +30,9 @@ public:
     /// Split of the shipping costs as the file holds it; zeros where it holds none.
     Versandaufteilung VersandGelesen() const;
 
+    /// Whether the file held more lines than are read.
+    bool Abgeschnitten() const { return abgeschnitten_; }
+
     /// Moves `DatenLesen` to the window. Says so and answers false when the file is no invoice.
     bool DateiDatenAnzeigen();
 
@@ -50,6 +53,7 @@ private:
     std::vector<Dateifeld> felder_;
     Dateizeilen DatenLesen;
     std::string Dateiformat; ///< first line of the file
+    bool abgeschnitten_ = false;
 };
 
 } // namespace quittika

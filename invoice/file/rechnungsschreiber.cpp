@@ -17,8 +17,18 @@ namespace {
 
 /// A line of the file holds no line end of its own.
 std::string einzeilig(std::string text) {
-    std::replace(text.begin(), text.end(), '\n', ' ');
+    if (text.find_first_of("\r\n") != std::string::npos) {
+        text = ersetzen(text, "\r\n", " ");
+        std::replace(text.begin(), text.end(), '\r', ' ');
+        std::replace(text.begin(), text.end(), '\n', ' ');
+    }
     return text;
+}
+
+/// A field that begins like a position would be read as one: a blank in front keeps it a field.
+std::string feldzeile(std::string text) {
+    text = einzeilig(std::move(text));
+    return beginnt_mit(text, kListenmarke) ? " " + text : text;
 }
 
 std::string numerisch_oder_null(const std::string& text) {
@@ -42,7 +52,7 @@ void Rechnungsschreiber::DateiDatenSammeln() {
         DatenSchreiben.setzen(zeile, kNichtGesetzt);
     }
     for (const Dateifeld& feld : felder_) {
-        DatenSchreiben.setzen(feld.zeile, einzeilig(Feldtext(*feld.steuerelement)));
+        DatenSchreiben.setzen(feld.zeile, feldzeile(Feldtext(*feld.steuerelement)));
     }
     BesondereZeilen();
 }
@@ -59,7 +69,7 @@ void Rechnungsschreiber::BesondereZeilen() {
         {dateizeile::kVersandNetto, numerisch_oder_null(form1_.Text_PreisVersankosten.Text())},
     };
     for (const auto& [zeile, text] : zeilen) {
-        DatenSchreiben.setzen(zeile, einzeilig(text));
+        DatenSchreiben.setzen(zeile, feldzeile(text));
     }
 }
 

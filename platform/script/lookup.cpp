@@ -80,6 +80,9 @@ Control& control(const ScriptDesktop& desktop, std::string_view name) {
 std::string value(const ScriptDesktop& desktop, std::string_view name) {
     const Dotted parts = split(name, name.find('.'));
     const Form& owner = form(desktop, parts.head);
+    if (parts.tail.empty()) {
+        return owner.Caption();
+    }
     if (const Control* const whole = owner.find(parts.tail)) {
         return whole->main_value();
     }

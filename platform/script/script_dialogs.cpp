@@ -64,9 +64,11 @@ const char* answer_name(Answer answer) {
 
 Answer ScriptDialogs::message(const MessageBox& box) {
     Answer answer = box.buttons == Buttons::Ok ? Answer::Ok : Answer::No;
-    if (!answers_.empty() && has_button(box.buttons, answers_.front())) {
-        answer = answers_.front();
-        answers_.pop_front();
+    const auto fitting = std::find_if(answers_.begin(), answers_.end(),
+                                      [&box](Answer queued) { return has_button(box.buttons, queued); });
+    if (fitting != answers_.end()) {
+        answer = *fitting;
+        answers_.erase(fitting);
     }
     boxes_.push_back(
         line_of({"box", box.title, kButtons.at(static_cast<std::size_t>(box.buttons)),

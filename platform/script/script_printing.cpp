@@ -48,6 +48,11 @@ void ScriptPrinting::print_to(std::string path) {
     if (!pdf_) {
         throw CommandError("Es gibt keine Ausgabe in PDF-Dateien");
     }
+    std::error_code unknown;
+    const std::filesystem::path folder = std::filesystem::absolute(path, unknown).parent_path();
+    if (!std::filesystem::is_directory(folder, unknown)) {
+        throw CommandError("Es gibt keinen Ordner " + folder.string());
+    }
     pdf_path_ = std::move(path);
     pdf_jobs_.clear();
 }

@@ -101,7 +101,7 @@ const Acts kActs[] = {
      "get form1.Caption\nget Form_Notiz.Text\nget form1.Ziel\nget form1.Log.BackColor\nitems form1.Text1\n"
      "click form1.Text1.Text\ncontrols Foo\n",
      "error: Es gibt kein Steuerelement form1.Foo\nerror: Es gibt kein Fenster Foo\n"
-     "error: Es gibt kein Steuerelement form1\nerror: form1.Text1 hat keine Eigenschaft Interval\n\nok\n"
+     "Haupt\nok\nerror: form1.Text1 hat keine Eigenschaft Interval\n\nok\n"
      "error: Es gibt kein Steuerelement form1.Feld(2)\nHaupt\nok\n\nok\nhierher\nok\n255\nok\n"
      "error: form1.Text1 hat keine Einträge\nerror: Es gibt kein Steuerelement form1.Text1.Text\n"
      "error: Es gibt kein Fenster Foo\n",

@@ -52,6 +52,9 @@ TEST(Textdatei, FehlerHabenIhreNummer) {
     EXPECT_EQ(lesefehler(o.pfad("fehlt")), fehler::kDateiFehlt);
     EXPECT_EQ(lesefehler(o.pfad("kein/ordner")), fehler::kPfadFehlt);
     EXPECT_EQ(lesefehler(o.pfad("ordner")), fehler::kPfadZugriff);
+    ASSERT_EQ(mkfifo(o.pfad("rohr").c_str(), 0600), 0);
+    EXPECT_EQ(lesefehler(o.pfad("rohr")), fehler::kPfadZugriff) << "a pipe must not hold the program";
+    EXPECT_EQ(lesefehler("/dev/zero"), fehler::kPfadZugriff);
     EXPECT_EQ(schreibfehler(o.pfad("ordner")), fehler::kPfadZugriff);
     EXPECT_EQ(schreibfehler(o.pfad("kein/ordner")), fehler::kPfadFehlt);
     EXPECT_EQ(schreibfehler("/dev/full"), fehler::kDatentraegerVoll);
@@ -69,7 +72,8 @@ TEST(Textdatei, GesperrterOrdnerLaesstDasAlteStehen) {
         chmod(o.ordner().c_str(), 0700);
     }
     EXPECT_EQ(o.lesen("a.txt"), "alt\r\n");
-    EXPECT_FALSE(std::filesystem::exists(o.pfad("a.txt.neu")));
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(o.ordner()), {}), 1)
+        << "nothing is left over";
 }
 
 TEST(Textdatei, ErsetzenBehaeltRechteUndFolgtVerweisen) {
@@ -83,6 +87,18 @@ TEST(Textdatei, ErsetzenBehaeltRechteUndFolgtVerweisen) {
     struct stat auskunft {};
     ASSERT_EQ(stat(o.pfad("echt.txt").c_str(), &auskunft), 0);
     EXPECT_EQ(auskunft.st_mode & 0777U, 0640U);
+}
+
+TEST(Textdatei, ErsetzenTrifftKeineAndereDatei) {
+    const Probenordner o;
+    o.schreiben("a.txt", "alt");
+    o.schreiben("opfer", "fremd");
+    std::filesystem::create_symlink(o.pfad("opfer"),
+                                    o.pfad(".quittika-" + std::to_string(getpid()) + "-0.neu"));
+    schreiben(o.pfad("a.txt"), {"neu"});
+    EXPECT_EQ(o.lesen("opfer"), "fremd");
+    EXPECT_EQ(o.lesen("a.txt"), "neu\r\n");
+    EXPECT_FALSE(std::filesystem::is_symlink(o.pfad("a.txt")));
 }
 
 TEST(Textdatei, ErsteZeileIstDieFrageNachDerDatei) {

@@ -244,6 +244,62 @@ TEST(Rechnungsdatei, WasNichtZuOeffnenIstLaesstDieRechnungStehen) {
     }
 }
 
+TEST(Rechnungsdatei, VerschwundeneDateiDerListeLaesstDieRechnungStehen) {
+    Pruefstand p;
+    ASSERT_TRUE(p.speichern("weg.qk8"));
+    std::filesystem::remove(p.ordner.pfad("weg.qk8"));
+    p.form1.Text_Kunde_1.Text = "Bleibt";
+    p.befehle.m_R_Click(1);
+    ASSERT_EQ(p.dialoge.boxen.size(), 1U);
+    EXPECT_EQ(p.dialoge.boxen[0].text, "Fehler beim öffnen dieser Datei.");
+    EXPECT_EQ(p.form1.StatusBar1[2].Caption(), "FEHLER BEIM ÖFFNEN VON DATEI: " + p.ordner.pfad("weg.qk8"));
+    EXPECT_EQ(p.form1.Text_Kunde_1.Text(), "Bleibt");
+}
+
+TEST(Rechnungsdatei, AbgeschnitteneDateiWirdNichtUeberschrieben) {
+    Pruefstand p;
+    std::string datei = "qk8\r\n";
+    for (int i = 0; i < 32001; ++i) {
+        datei += "#qk8LIST#;1;-;1;s;1,00;1,00\r\n";
+    }
+    p.ordner.schreiben("lang.qk8", datei);
+    EXPECT_TRUE(p.oeffnen("lang.qk8"));
+    EXPECT_EQ(p.form1.List_K.ListCount(), 32000);
+    EXPECT_EQ(p.zustand.AktuellerPfad, "");
+    EXPECT_EQ(p.form1.StatusBar1[3].Caption(),
+              "Achtung: Die Datei hat zu viele Zeilen, es fehlen Positionen.");
+}
+
+TEST(Rechnungsdatei, FelderDieWiePositionenAussehenBleibenFelder) {
+    Pruefstand p;
+    p.form1.Text_Kunde_1.Text = "#qk8LIST#;1";
+    p.form1.Text_Kunde_2.Text = "zwei\r\nZeilen\r";
+    ASSERT_TRUE(p.speichern("a.qk8"));
+    ASSERT_TRUE(p.oeffnen("a.qk8"));
+    EXPECT_EQ(p.form1.Text_Kunde_1.Text(), " #qk8LIST#;1");
+    EXPECT_EQ(p.form1.Text_Kunde_2.Text(), "zwei Zeilen ");
+    EXPECT_EQ(p.form1.List_K.ListCount(), 0);
+}
+
+TEST(Rechnungsdatei, EineAlteDateiErbtNichtsVonDerVorigen) {
+    Pruefstand p;
+    p.form1.Check_mwst.Value = 1;
+    p.form1.Check_RABATT.Value = 1;
+    p.form1.Check_VersandMwStEXTRA.Value = 1;
+    p.form1.Text_MwSt.Text = "50";
+    p.form1.Check_Versandkosten.Value = 1;
+    p.form1.Text_PreisVersankostenEingabe.Text = "70";
+    p.summen.jetztberechnen_List();
+    p.ordner.schreiben("alt.qk8", "qk8\r\nALT\r\n");
+    EXPECT_TRUE(p.oeffnen("alt.qk8"));
+    for (const CheckBox* haekchen :
+         {&p.form1.Check_mwst, &p.form1.Check_RABATT, &p.form1.Check_VersandMwStEXTRA}) {
+        EXPECT_EQ(haekchen->Value(), 0) << haekchen->name();
+    }
+    EXPECT_EQ(p.form1.Text_MwSt.Text(), "19,00");
+    EXPECT_EQ(p.form1.Text_gesamtbetrag.Text(), "0,00");
+}
+
 /// A limit on the size of files, standing in for a full disk.
 class VolleScheibe {
 public:
@@ -272,7 +328,8 @@ TEST(Rechnungsdatei, MisslungenesSpeichernKostetNichts) {
         EXPECT_FALSE(p.speichern("a.qk8"));
     }
     EXPECT_EQ(p.ordner.lesen("a.qk8"), alt);
-    EXPECT_FALSE(std::filesystem::exists(p.ordner.pfad("a.qk8.neu")));
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(p.ordner.ordner()), {}), 2)
+        << "nothing is left over";
     EXPECT_EQ(p.form1.StatusBar1[2].Caption(), "FEHLER BEIM SPEICHERN");
     ASSERT_EQ(p.dialoge.boxen.size(), 1U);
     EXPECT_EQ(p.dialoge.boxen[0].text, "Fehler beim speichern");
