@@ -1,5 +1,6 @@
 #include "print/drucktabelle.hpp"
 
+#include "platform/laufzeitfehler.hpp"
 #include "platform/zahlen.hpp"
 
 #include <cmath>
@@ -83,8 +84,8 @@ void Drucktabelle::zeile(Blatt& blatt, int index) const {
 
 void Drucktabelle::position(Blatt& blatt, int index) const {
     const std::string& menge = form1_.List_Menge.List(index);
-    if (double_versuch(menge).value_or(0) == 0) {
-        return;
+    if (double_versuch(menge) == 0.0) {
+        return; // what is no number at all is billed, so it is printed
     }
     if (einstellungen_.Check_Positionendruck.ticked()) {
         const std::string& nummer = form1_.List_pos.List(index);
@@ -122,7 +123,12 @@ std::string Drucktabelle::SUMME_SEITE(Zeilenbereich zeilen) const {
 }
 
 std::string Drucktabelle::ZWISCHENSUMME(Zeilenbereich zeilen, const std::string& uebertrag) const {
-    return betrag(double_versuch(SUMME_SEITE(zeilen)).value_or(0) + double_versuch(uebertrag).value_or(0));
+    try {
+        return betrag(double_versuch(SUMME_SEITE(zeilen)).value_or(0) +
+                      double_versuch(uebertrag).value_or(0));
+    } catch (const Laufzeitfehler&) {
+        return uebertrag; // a sum beyond all bounds must not cost the rest of the document
+    }
 }
 
 std::string Drucktabelle::betrag(double wert) const {

@@ -2,6 +2,10 @@
 # Rules of the code base that no compiler knows.
 set -u
 cd "$(dirname "$0")/.."
+git ls-files --error-unmatch CMakeLists.txt >/dev/null || {
+    echo "regeln: git does not list the files here"
+    exit 1
+}
 failed=0
 complain() {
     echo "regeln: $1"
@@ -22,7 +26,9 @@ hits=$(grep -rnE '#include "app/' --include='*.cpp' --include='*.hpp' . | grep -
 hits=$(git ls-files -- '*.hpp' | xargs -r grep -L '#pragma once')
 [ -n "$hits" ] && complain "headers without an include guard" "$hits"
 
-if command -v clang-format >/dev/null; then
+if ! command -v clang-format >/dev/null; then
+    complain "clang-format is missing" "apt-get install clang-format"
+else
     hits=$(git ls-files -- '*.cpp' '*.hpp' | xargs -r clang-format --dry-run 2>&1 | grep -c 'warning')
     [ "$hits" -gt 0 ] && complain "clang-format finds $hits places" "clang-format -i \$(git ls-files -- '*.cpp' '*.hpp')"
 fi

@@ -223,6 +223,31 @@ TEST(Druck, FussInSeinenFormen) {
     EXPECT_DOUBLE_EQ(papier.texte.back().oben, 277);
 }
 
+TEST(Druck, WasBerechnetWirdStehtAuchAufDemPapier) {
+    Druckprobe p;
+    p.zeilen(18);
+    const auto menge = [&p](int zeile, const char* text) {
+        p.form1.List_Menge.RemoveItem(zeile);
+        p.form1.List_Menge.AddItem(text, zeile);
+    };
+    menge(1, "4 Std");
+    menge(2, "0");
+    p.form1.Check_tele_nichtdrucken.Value = 1;
+    p.form1.Text_Kunde_4.Text = "0815/4711";
+    Papier papier = p.drucken();
+    EXPECT_NE(papier.finden("4 Std"), nullptr);
+    EXPECT_NE(papier.finden("002"), nullptr);
+    EXPECT_EQ(papier.finden("003"), nullptr) << "without a quantity nothing is printed";
+    EXPECT_EQ(papier.finden("0815/4711"), nullptr);
+    for (int zeile : {0, 3}) {
+        p.form1.List_Gesamtp.RemoveItem(zeile);
+        p.form1.List_Gesamtp.AddItem("1e308", zeile);
+    }
+    papier = p.drucken();
+    EXPECT_EQ(papier.enden, 1) << "a sum beyond all bounds does not cost the document";
+    EXPECT_NE(papier.finden("Seite 2/2", 2), nullptr);
+}
+
 TEST(Druck, ListenBehaltenIhreAuswahl) {
     Druckprobe p;
     p.zeilen(5);
