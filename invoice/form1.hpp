@@ -96,7 +96,7 @@ struct Form1 : Form {
     TextBox Text_Kunde_4{Frame_Kundendaten, "Text_Kunde_4", vorgabe::kKunde4};
     CheckBox Check_tele_nichtdrucken{Frame_Kundendaten, "Check_tele_nichtdrucken", "Telefon nicht drucken"};
     TextBox Text_KundennrK{Frame_Kundendaten, "Text_KundennrK", vorgabe::kKundennr};
-    CommandButton Command_KD_Add{Frame_Kundendaten, "Command_KD_Add", "In Kundenliste aufnehmen"};
+    CommandButton Command_KD_Add{Frame_Kundendaten, "Command_KD_Add", "Kunde aufnehmen"};
     CommandButton CMD_FORM_HELFERLEIN{Frame_Kundendaten, "CMD_FORM_HELFERLEIN", "HELFER"};
 
     // --- logo, as the chosen page design shows it ---

@@ -96,6 +96,8 @@ TEST_F(Hauptfenstertest, RasterEntstehtBeimAufklappen) {
     auto* eingabe = feld<QLineEdit>("Text_leistung1(0)");
     ASSERT_NE(eingabe, nullptr);
     EXPECT_EQ(eingabe->text(), "vorher");
+    QTest::qWait(20);
+    EXPECT_GE(eingabe->height(), eingabe->minimumSizeHint().height()) << "rows have room to be read";
     tippen("Text_leistung9(0)", "Griff");
     EXPECT_EQ(f().Raster[8].Text_leistung[0].Text(), "Griff");
 }

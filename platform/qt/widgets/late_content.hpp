@@ -22,6 +22,9 @@ protected:
     void showEvent(QShowEvent* event) override;
 
 private:
+    /// Tells everything around that there is more to show now.
+    void claim_room();
+
     bool complete_ = false;
 };
 
