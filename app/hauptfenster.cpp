@@ -2,6 +2,7 @@
 
 #include "app/form_ueber_quittika.hpp"
 #include "invoice/programmname.hpp"
+#include "platform/datum.hpp"
 #include "platform/laufzeitfehler.hpp"
 #include "platform/text.hpp"
 
@@ -61,6 +62,13 @@ void Hauptfenster::DOKUMENT_OEFFNEN(const std::string& dokument) {
                                      "Achtung!  Fehlernr.:" + std::to_string(fehler.nummer()), Buttons::Ok,
                                      Symbol::Exclamation});
     }
+}
+
+void Hauptfenster::Check_datum_Click() {
+    if (!t_.zustand.gesperrt() && t_.form1.Check_datum.ticked()) {
+        t_.form1.Text_Datum.Text = datum_text(t_.platform.clock.now());
+    }
+    geaendert_und_rechnen();
 }
 
 void Hauptfenster::Check_LIEFERDATUM_Click() {

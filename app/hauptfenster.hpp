@@ -48,6 +48,7 @@ private:
     void m_beenden_Click();
     void ueber_QUITTIKA_Click();
     void m_Schlagwortsuche_Click();
+    void Check_datum_Click();
     void Check_LIEFERDATUM_Click();
     void Check_abgemahnt_Click();
     void Option_anschreiben_Click();

@@ -70,7 +70,7 @@ void Hauptfenster::KopfVerdrahten() {
         feld->Change = [this] { t_.zustand.aendern(); };
     }
     f.Check_LIEFERDATUM.Click = [this] { Check_LIEFERDATUM_Click(); };
-    f.Check_datum.Click = [this] { geaendert_und_rechnen(); };
+    f.Check_datum.Click = [this] { Check_datum_Click(); };
     f.Command_KD_Add.Click = [this] { t_.kunde_aufnehmen.Command_KD_Add_Click(); };
     f.Option_anschreiben.Click = [this] { Option_anschreiben_Click(); };
     f.Option_Bemerkungen.Click = [this] { Option_anschreiben_Click(); };

@@ -222,7 +222,7 @@ void Summen::rechnen() {
     SatzLesen(form1_.Text_Rabatt, Rabattprozent);
     SatzLesen(form1_.Text_PreisVersankostenEingabe, Versand_Eingabe);
     VersandAufteilen();
-    if (form1_.Check_datum.ticked()) {
+    if (form1_.Check_datum.ticked() && !zustand_.IstDateiDesPfads) { // an invoice on disk keeps its date
         form1_.Text_Datum.Text = datum_text(uhr_.now());
     }
     ZeilensummeBerechnen();

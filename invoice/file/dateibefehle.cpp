@@ -152,11 +152,11 @@ bool Dateibefehle::oeffneRN(const std::string& pfad) {
         leser_.DateiEinlesen(gewaehlt);
         zuletzt_.ZuletztGeoeffnetMerken(gewaehlt);
         const bool rechnung = leser_.DateiDatenAnzeigen();
+        AktuellenPfadSetzen(rechnung && !leser_.Abgeschnitten() ? gewaehlt : std::string());
         PfadZeigen(gewaehlt);
         Auffrischen();
         form1_.StatusBar1[2].Caption = "GEÖFFNETE DATEI: " + gewaehlt;
         CMD_Seite1_Click(0);
-        AktuellenPfadSetzen(rechnung && !leser_.Abgeschnitten() ? gewaehlt : std::string());
         return true;
     } catch (const Laufzeitfehler& fehler) {
         if (fehler.nummer() != kDialogAbgebrochen) {
