@@ -13,6 +13,7 @@ namespace {
 
 constexpr int kEigenesLayout = 9;
 constexpr int kTwipsJePixel = 15;
+constexpr int kRahmen = 40 * kTwipsJePixel; ///< title bar and the desktop's own bar
 
 std::string satztext(const std::string& satz) {
     const auto wert = double_versuch(satz);
@@ -142,7 +143,7 @@ void Ladefolge::Zentrieren() {
     const int hoehe = z_.platform.desktop.screen_height();
     if (f.Width() == 0) {
         f.Width = std::min(breite, 1360 * kTwipsJePixel);
-        f.Height = std::min(hoehe, 860 * kTwipsJePixel);
+        f.Height = std::min(hoehe - kRahmen, 860 * kTwipsJePixel);
     }
     f.Left = (breite - f.Width()) / 2;
     f.Top = (hoehe - f.Height()) / 2;
