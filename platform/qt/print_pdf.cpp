@@ -15,24 +15,45 @@ namespace quittika {
 namespace {
 
 constexpr int kResolution = 1200; ///< dots per inch
+constexpr int kAttempts = 100;    ///< names tried for a new file
 
-bool write_file(const QString& path, const QByteArray& content) {
-    QFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.flush();
+bool write(QFile& file, const QByteArray& content) {
+    return file.write(content) == content.size() && file.flush();
+}
+
+/// Opens a file that did not exist before, beside `path`: it takes nobody's place and follows no link.
+bool open_beside(QFile& file, const QString& path) {
+    for (int attempt = 0; attempt < kAttempts; ++attempt) {
+        file.setFileName(path + QStringLiteral(".%1.neu").arg(attempt));
+        if (file.open(QIODevice::WriteOnly | QIODevice::NewOnly)) {
+            return true;
+        }
+        if (!file.exists()) {
+            return false;
+        }
+    }
+    return false;
 }
 
 /// Writes beside the target first, so that a failure leaves the old file as it was.
 bool replace_file(const QString& path, const QByteArray& content) {
     const QFileInfo target(path);
     if (target.exists() && !target.isFile()) {
-        return write_file(path, content);
+        QFile device(path);
+        return device.open(QIODevice::WriteOnly) && write(device, content);
     }
-    const QString fresh = path + QStringLiteral(".neu");
-    if (write_file(fresh, content) &&
-        std::rename(QFile::encodeName(fresh).constData(), QFile::encodeName(path).constData()) == 0) {
+    const QString place = target.exists() ? target.canonicalFilePath() : path;
+    QFile fresh;
+    if (!open_beside(fresh, place)) {
+        return false;
+    }
+    const bool written = write(fresh, content);
+    fresh.close();
+    if (written && std::rename(QFile::encodeName(fresh.fileName()).constData(),
+                               QFile::encodeName(place).constData()) == 0) {
         return true;
     }
-    QFile::remove(fresh);
+    fresh.remove();
     return false;
 }
 

@@ -28,9 +28,16 @@ public:
 
 class KeinDesktop : public Desktop {
 public:
-    void adopt(Form&) override {}
+    std::vector<std::string> gezeigt; ///< names of the modal windows
+
+    void adopt(Form& form) override { form.attach(*this, nullptr); }
     void release(Form&) override {}
-    void show(Form&, Modality) override {}
+    void show(Form& form, Modality modality) override {
+        if (modality == Modality::Modal) {
+            gezeigt.push_back(form.name());
+            static_cast<CommandButton*>(form.find("CMD_weiter"))->Click();
+        }
+    }
     void hide(Form&) override {}
     void raise(Form&) override {}
     void set_focus(Control&) override {}
@@ -100,6 +107,27 @@ TEST(Druckauftrag, AbbruchUndFehlerStehenInDerStatuszeile) {
         EXPECT_TRUE(p.druckdialoge.boxen.empty());
         EXPECT_EQ(p.drucker.papier.enden, 0);
     }
+}
+
+TEST(Druckauftrag, NurFuerEinenLieferscheinWirdGefragt) {
+    Auftragsprobe p;
+    p.drucken();
+    EXPECT_TRUE(p.desktop.gezeigt.empty());
+    for (OptionButton* art : {&p.form1.Option_LIEFERSCHEIN, &p.form1.Option_LIEFERSCHEIN_KOPIE}) {
+        art->Value = true;
+        EXPECT_EQ(p.drucken(), "DRUCKEN...");
+        EXPECT_EQ(p.desktop.gezeigt, std::vector<std::string>{"Form_Lieferschein_opt"});
+        EXPECT_FALSE(p.auftrag.lieferschein_opt().shown());
+        p.desktop.gezeigt.clear();
+    }
+    EXPECT_NE(p.drucker.papier.finden("Rechnungsbetrag"), nullptr) << "on paper it shows its prices";
+}
+
+TEST(Druckauftrag, OhneLayoutWirdNichtsGedruckt) {
+    Auftragsprobe p;
+    p.einstellungen.Option2_Layout.Value = false;
+    EXPECT_EQ(p.drucken(), "DRUCKEN...");
+    EXPECT_TRUE(p.drucker.titel.empty());
 }
 
 TEST(Druckauftrag, EinFehlendesBildKostetNurSichSelbst) {

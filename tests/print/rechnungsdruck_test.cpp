@@ -248,6 +248,98 @@ TEST(Druck, WasBerechnetWirdStehtAuchAufDemPapier) {
     EXPECT_NE(papier.finden("Seite 2/2", 2), nullptr);
 }
 
+TEST(Druck, BemerkungenWeichenDenVersandkosten) {
+    struct Fall {
+        const char* name;
+        bool versand;
+        bool mwst_extra;
+        bool mwst_enthalten;
+        int leerzeilen;
+    };
+    const Fall faelle[] = {
+        {"ohne Versand", false, true, true, 4},
+        {"eine Zeile Versand", true, false, false, 3},
+        {"mit getrennter MwSt.", true, true, false, 2},
+        {"mit enthaltener MwSt.", true, false, true, 2},
+    };
+    for (const Fall& f : faelle) {
+        SCOPED_TRACE(f.name);
+        Druckprobe p;
+        p.form1.Text_Bemerkung1[1].Text = "Bemerkung";
+        p.form1.Check_Versandkosten.Value = f.versand ? 1 : 0;
+        p.form1.Check_VersandMwStEXTRA.Value = f.mwst_extra ? 1 : 0;
+        p.form1.Check_VersandINKL_MwSt.Value = f.mwst_enthalten ? 1 : 0;
+        const Papier papier = p.drucken();
+        // The totals end 2 mm below their closing rule; a line is 4 mm high.
+        EXPECT_DOUBLE_EQ(papier.finden("Bemerkung")->oben, papier.linien.back().y1 + 2 + 4 * f.leerzeilen);
+    }
+}
+
+TEST(Druck, LieferscheinOhnePreiseNurWoEsVerlangtIst) {
+    struct Fall {
+        const char* name;
+        bool lieferschein;
+        bool kopie;
+        bool verlangt;
+        bool bemerkung_angekreuzt;
+        bool preise;
+        bool bemerkung;
+    };
+    const Fall faelle[] = {
+        {"Rechnung in der Vorschau", false, false, true, false, true, true},
+        {"Lieferschein auf dem Drucker", true, false, false, false, true, true},
+        {"Lieferschein in der Vorschau", true, false, true, false, false, false},
+        {"Kopie in der Vorschau", false, true, true, false, false, false},
+        {"mit Bemerkungstext", true, false, true, true, false, true},
+    };
+    for (const Fall& f : faelle) {
+        SCOPED_TRACE(f.name);
+        Druckprobe p;
+        p.zeilen(18);
+        p.form1.Text_Bemerkung1[1].Text = "Bemerkung";
+        if (f.lieferschein || f.kopie) {
+            (f.kopie ? p.form1.Option_LIEFERSCHEIN_KOPIE : p.form1.Option_LIEFERSCHEIN).Value = true;
+        }
+        p.lieferschein.Check_LIEFERSCH_BEMERKUNGSTEXT.Value = f.bemerkung_angekreuzt ? 1 : 0;
+        const Papier papier = p.drucken({0, 0}, {f.verlangt, 185});
+        EXPECT_NE(papier.finden("Posten"), nullptr);
+        for (const char* preis : {"10,00", "Einzelpreis", "Gesamtpreis", "Zwischensumme"}) {
+            EXPECT_EQ(papier.finden(preis) != nullptr, f.preise) << preis;
+        }
+        EXPECT_EQ(papier.finden("Übertrag", 2) != nullptr, f.preise);
+        EXPECT_EQ(papier.finden("Rechnungsbetrag", 2) != nullptr, f.preise);
+        EXPECT_EQ(papier.finden("Bemerkung", 2) != nullptr, f.bemerkung);
+        if (f.preise) {
+            EXPECT_DOUBLE_EQ(papier.finden("Rechnungsbetrag", 2)->rechts, 185);
+        }
+    }
+}
+
+TEST(Druck, DreiNachkommastellenGeltenAuchFuerDenUebertrag) {
+    Druckprobe p;
+    p.form1.Check_000.Value = 1;
+    for (int i = 0; i < 18; ++i) {
+        p.zeile("1", "Posten", "0,125");
+    }
+    const Papier papier = p.drucken();
+    EXPECT_EQ(papier.finden("Zwischensumme")->text, "Zwischensumme:    2,125");
+    EXPECT_EQ(papier.finden("Übertrag", 2)->text, "Übertrag:   2,125");
+}
+
+TEST(Druck, LeereSeiteUndUebertragVonNull) {
+    Druckprobe p;
+    Papier papier = p.drucken();
+    EXPECT_EQ(papier.seite, 1);
+    for (const char* text : {"RECHNUNG 7", "Leistung", "Rechnungsbetrag", "Seite 1/1", "INSTITUT"}) {
+        EXPECT_NE(papier.finden(text), nullptr) << text;
+    }
+    for (int i = 0; i < 18; ++i) {
+        p.zeile("1", "Gratis", "0");
+    }
+    papier = p.drucken();
+    EXPECT_EQ(papier.finden("Übertrag", 2)->text, "Übertrag:   0,00");
+}
+
 TEST(Druck, ListenBehaltenIhreAuswahl) {
     Druckprobe p;
     p.zeilen(5);

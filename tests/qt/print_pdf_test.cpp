@@ -4,6 +4,9 @@
 
 #include <gtest/gtest.h>
 
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
 #include <QProcess>
 #include <QRegularExpression>
 #include <QTemporaryDir>
@@ -85,6 +88,28 @@ TEST_F(PdfTest, AFileThatCannotBeWrittenIsAPrinterError) {
     } catch (const Laufzeitfehler& f) {
         EXPECT_EQ(f.nummer(), fehler::kDrucker);
     }
+}
+
+TEST_F(PdfTest, ReplacesTheFileThatALinkNamesAndNoOther) {
+    const QString target = folder.filePath("alt.pdf");
+    const QString neighbour = target + ".0.neu";
+    for (const QString& name : {target, neighbour}) {
+        QFile file(name);
+        ASSERT_TRUE(file.open(QFile::WriteOnly));
+        file.write("alt");
+    }
+    ASSERT_TRUE(QFile::link(target, path));
+    QtPdfDevice device(metrics, path, "x");
+    PrintSurface(device, metrics).EndDoc();
+
+    EXPECT_TRUE(QFileInfo(path).isSymLink());
+    QFile written(target);
+    ASSERT_TRUE(written.open(QFile::ReadOnly));
+    EXPECT_TRUE(written.readAll().startsWith("%PDF"));
+    QFile kept(neighbour);
+    ASSERT_TRUE(kept.open(QFile::ReadOnly));
+    EXPECT_EQ(kept.readAll(), "alt");
+    EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files).size(), 3) << "nothing is left behind";
 }
 
 TEST_F(PdfTest, MeasuresInMillimetres) {
