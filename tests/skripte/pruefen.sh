@@ -1,42 +1,79 @@
 #!/usr/bin/env bash
-# Plays a script in a fresh folder and compares its answers, and the files it left, with what stands beside it:
-# NAME.qks        the script; @ORDNER@ stands for the folder
-# NAME.vorher     a shell script that prepares the folder (optional)
-# NAME.txt        the expected answers
-# NAME.dateien/   files that the folder must hold afterwards, byte for byte (optional)
-# With NEU=1 in the environment the expectations are written instead of compared.
+# Plays a script in a fresh folder and compares its answers with those that stand in it.
+#   click form1.m_neu     a command for the script runner; @ORDNER@ stands for the folder
+#   #$ qk8 a.qk8          a command for the shell, in the folder; lesen and qk8 (below) print files
+#   #= 0,00               what the command above it answers, the closing "ok" left out
+# With NEU=1 in the environment the answers are written into the script instead of compared.
 set -u
 runner=$1
 script=$(realpath "$2")
-base=${script%.qks}
-folder=$(mktemp -d)
-trap 'chmod -R u+w "$folder" 2>/dev/null; rm -rf "$folder"' EXIT
-[ -e "$base.vorher" ] && (cd "$folder" && bash "$base.vorher")
+here=$(dirname "$(realpath "$0")")
+work=$(mktemp -d)
+folder=$work/ordner
+mkdir "$folder"
+trap 'chmod -R u+w "$work" 2>/dev/null; rm -rf "$work"' EXIT
 
-answers=$(sed "s|@ORDNER@|$folder|g" "$script" | "$runner" 2>"$folder.err" | sed "s|$folder|@ORDNER@|g"; exit "${PIPESTATUS[1]}")
+# A text file of the program, its line ends made visible where they are not CR LF.
+lesen() { iconv -f cp1252 -t utf-8 "$1" | awk '{ print sub(/\r$/, "") ? $0 : $0 "<LF>" }'; }
+# An invoice file with ten fields a line, a run of unset fields as one.
+qk8() { lesen "$1" | awk -f "$here/qk8.awk"; }
+export -f lesen qk8
+export here
+
+# The answer of the runner to one command; recorded pages come one printed line a line.
+answer() {
+    local line
+    while IFS= read -r -u "${RUNNER[0]}" line; do
+        [ "$line" = ok ] && return
+        printf '%s\n' "$line"
+        if [[ $line == error:* ]]; then
+            return
+        fi
+    done
+    echo "<the runner has ended>"
+}
+
+play() {
+    local line
+    while IFS= read -r line; do
+        case $line in
+        '#='*) continue ;;
+        '#$'*) (cd "$folder" && bash -c "${line#'#$'}" 2>&1) >"$work/answer" ;;
+        '' | '#'*) : >"$work/answer" ;;
+        *)
+            printf '%s\n' "${line//@ORDNER@/$folder}" >&"${RUNNER[1]}"
+            answer >"$work/answer"
+            if [ "$line" = pages ]; then
+                awk -f "$here/seiten.awk" "$work/answer" >"$work/pages"
+                mv "$work/pages" "$work/answer"
+            fi
+            ;;
+        esac
+        printf '%s\n' "$line"
+        sed "s|$folder|@ORDNER@|g; s|^|#= |; s|^#= \$|#=|" "$work/answer"
+    done <"$script"
+}
+
+coproc RUNNER { exec "$runner" 2>"$work/errors"; }
+pid=$RUNNER_PID
+play >"$work/played"
+exec {RUNNER[1]}>&-
+wait "$pid"
 status=$?
-errors=$(grep -v XDG_RUNTIME_DIR "$folder.err")
-rm -f "$folder.err"
 
 if [ "${NEU:-0}" = 1 ]; then
-    printf '%s\n' "$answers" >"$base.txt"
+    cp "$work/played" "$script"
     exit 0
 fi
 failed=0
-printf '%s\n' "$answers" | diff -u "$base.txt" - || failed=1
-if [ -n "$errors" ]; then
-    echo "Unexpected error output:"
-    echo "$errors"
+diff -u "$script" "$work/played" || failed=1
+if grep -v XDG_RUNTIME_DIR "$work/errors"; then
+    echo "is unexpected error output"
     failed=1
 fi
-if grep -q '^error:' "$base.txt"; then want=1; else want=0; fi
+if grep -q '^#= error:' "$script"; then want=1; else want=0; fi
 if [ "$status" -ne "$want" ]; then
     echo "Exit status $status instead of $want"
     failed=1
-fi
-if [ -d "$base.dateien" ]; then
-    for file in "$base.dateien"/*; do
-        cmp "$file" "$folder/$(basename "$file")" || failed=1
-    done
 fi
 exit $failed
