@@ -1,5 +1,6 @@
 #include "app/hauptfenster.hpp"
 
+#include "app/fenstertitel.hpp"
 #include "app/form_ueber_quittika.hpp"
 #include "invoice/programmname.hpp"
 #include "platform/datum.hpp"
@@ -31,6 +32,11 @@ void Hauptfenster::Form_QueryUnload(bool& abbrechen) {
     if (!ohne_frage_schliessen_) {
         abbrechen = !t_.dateibefehle.VorherSpeichern(Buttons::YesNoCancel);
     }
+}
+
+void Hauptfenster::TitelZeigen() {
+    t_.form1.Caption = FENSTERTITEL(t_.zustand);
+    t_.form1.Modified = t_.zustand.geaendert();
 }
 
 void Hauptfenster::m_beenden_Click() {

@@ -45,6 +45,7 @@ private:
     void SpaeteresSperren();
 
     void Form_QueryUnload(bool& abbrechen);
+    void TitelZeigen();
     void m_beenden_Click();
     void ueber_QUITTIKA_Click();
     void m_Schlagwortsuche_Click();

@@ -1,27 +1,50 @@
 #pragma once
 
+#include <functional>
 #include <string>
+#include <utility>
 
 namespace quittika {
 
 /// What the program knows of the invoice in hand besides its controls.
 class Rechnungszustand {
 public:
-    std::string AktuellerPfad;     ///< file that the invoice was saved to or opened from; empty for none
-    std::string ZuletztGeoeffnet;  ///< file chosen last in the open dialog
-    std::string Notiztext;         ///< note; a line break stands as "#$§$#"
-    bool IstDateiDesPfads = false; ///< the invoice in the window is the one in `AktuellerPfad`
-    bool OhneRueckfrage = false;   ///< "Neu" does not ask whether to save
+    std::string ZuletztGeoeffnet; ///< file chosen last in the open dialog
+    std::string Notiztext;        ///< note; a line break stands as "#$§$#"
+    bool OhneRueckfrage = false;  ///< "Neu" does not ask whether to save
+
+    /// Called when the file in hand, or whether there are unsaved changes, may be another than before.
+    std::function<void()> Gewechselt;
+
+    /// File that the invoice was saved to or opened from; empty for none.
+    const std::string& AktuellerPfad() const { return pfad_; }
+    /// Whether the invoice in the window is the one in `AktuellerPfad`.
+    bool IstDateiDesPfads() const { return ist_datei_; }
+    /// The invoice in the window is the one in this file; an empty path is none.
+    void DateiSetzen(std::string pfad) {
+        pfad_ = std::move(pfad);
+        ist_datei_ = !pfad_.empty();
+        melden();
+    }
+    /// The invoice in the window is another than the one in `AktuellerPfad`.
+    void DateiLoesen() {
+        ist_datei_ = false;
+        melden();
+    }
 
     /// True after a change by the user that is not saved yet.
     bool geaendert() const { return geaendert_; }
     /// Notes a change by the user; nothing while the program itself fills the controls.
     void aendern() {
-        if (sperren_ == 0) {
+        if (sperren_ == 0 && !geaendert_) {
             geaendert_ = true;
+            melden();
         }
     }
-    void als_gespeichert_merken() { geaendert_ = false; }
+    void als_gespeichert_merken() {
+        geaendert_ = false;
+        melden();
+    }
 
     /// True while the program fills the controls: what their events do for a user must not happen then.
     bool gesperrt() const { return sperren_ > 0; }
@@ -39,6 +62,14 @@ public:
     };
 
 private:
+    void melden() const {
+        if (Gewechselt) {
+            Gewechselt();
+        }
+    }
+
+    std::string pfad_;
+    bool ist_datei_ = false;
     bool geaendert_ = false;
     int sperren_ = 0;
 };

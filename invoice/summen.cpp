@@ -212,7 +212,7 @@ void Summen::PositionenNummerieren() {
 
 void Summen::rechnen() {
     const Rechnungszustand::Sperre still(zustand_);
-    form1_.m_speichern_direkt.Enabled = !zustand_.AktuellerPfad.empty();
+    form1_.m_speichern_direkt.Enabled = !zustand_.AktuellerPfad().empty();
     MengeLesen();
     PreisLesen();
     if (Waechter < 1 || Waechter > 9) {
@@ -222,7 +222,7 @@ void Summen::rechnen() {
     SatzLesen(form1_.Text_Rabatt, Rabattprozent);
     SatzLesen(form1_.Text_PreisVersankostenEingabe, Versand_Eingabe);
     VersandAufteilen();
-    if (form1_.Check_datum.ticked() && !zustand_.IstDateiDesPfads) { // an invoice on disk keeps its date
+    if (form1_.Check_datum.ticked() && !zustand_.IstDateiDesPfads()) { // an invoice on disk keeps its date
         form1_.Text_Datum.Text = datum_text(uhr_.now());
     }
     ZeilensummeBerechnen();

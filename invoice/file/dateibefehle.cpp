@@ -47,7 +47,7 @@ void Dateibefehle::m_neu_Click() {
     form1_.StatusBar1[2].Caption = "";
     form1_.StatusBar1[3].Caption = "";
     rechnung_.RechnungLeeren();
-    zustand_.IstDateiDesPfads = false;
+    zustand_.DateiLoesen();
     summen_.VersandMerken({});
     summen_.jetztberechnen_List();
     zustand_.als_gespeichert_merken();
@@ -74,7 +74,7 @@ bool Dateibefehle::SpeichernNach(const std::string& pfad) {
     form1_.StatusBar1[2].Caption = "SPEICHERN VON: " + pfad;
     schreiber_.DateiDatenSammeln();
     if (!schreiber_.DateiSchreiben(pfad)) {
-        PfadZeigen(zustand_.AktuellerPfad);
+        PfadZeigen(zustand_.AktuellerPfad());
         form1_.StatusBar1[2].Caption = kSpeicherfehler;
         return false;
     }
@@ -90,7 +90,7 @@ void Dateibefehle::m_speichern_direkt_Click() {
     const Answer antwort =
         dialogs_.message({"Möchten sie die aktuellen Änderungen dieser Rechnung speichern?",
                           "Aktuelle Änderungen speichern...", Buttons::YesNo});
-    if (zustand_.AktuellerPfad.empty()) {
+    if (zustand_.AktuellerPfad().empty()) {
         return;
     }
     if (antwort != Answer::Yes || !FremdeDateiUeberschreiben()) {
@@ -99,26 +99,26 @@ void Dateibefehle::m_speichern_direkt_Click() {
     }
     summen_.jetztberechnen_List();
     schreiber_.DateiDatenSammeln();
-    if (!schreiber_.DateiSchreiben(zustand_.AktuellerPfad)) {
+    if (!schreiber_.DateiSchreiben(zustand_.AktuellerPfad())) {
         form1_.StatusBar1[2].Caption = kSpeicherfehler;
         return;
     }
     zustand_.als_gespeichert_merken();
-    zustand_.IstDateiDesPfads = true;
+    zustand_.DateiSetzen(zustand_.AktuellerPfad());
     form1_.StatusBar1[2].Caption = "SPEICHERN ERFOLGREICH ABGESCHLOSSEN";
 }
 
 bool Dateibefehle::FremdeDateiUeberschreiben() {
-    if (zustand_.IstDateiDesPfads || !datei_vorhanden(zustand_.AktuellerPfad)) {
+    if (zustand_.IstDateiDesPfads() || !datei_vorhanden(zustand_.AktuellerPfad())) {
         return true;
     }
     return dialogs_.message(
-               {"Soll die vorhandene Datei: >" + zustand_.AktuellerPfad + "< überschrieben werden?",
+               {"Soll die vorhandene Datei: >" + zustand_.AktuellerPfad() + "< überschrieben werden?",
                 "Datei überschreiben?", Buttons::YesNo}) == Answer::Yes;
 }
 
 void Dateibefehle::m_speichern_kurz_Click() {
-    if (zustand_.IstDateiDesPfads) {
+    if (zustand_.IstDateiDesPfads()) {
         m_speichern_direkt_Click();
     } else {
         m_speichern_Click();
@@ -189,8 +189,7 @@ void Dateibefehle::PfadZeigen(const std::string& pfad) {
 }
 
 void Dateibefehle::AktuellenPfadSetzen(const std::string& pfad) {
-    zustand_.AktuellerPfad = pfad;
-    zustand_.IstDateiDesPfads = !pfad.empty();
+    zustand_.DateiSetzen(pfad);
     form1_.m_speichern_direkt.Enabled = !pfad.empty();
 }
 

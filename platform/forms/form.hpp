@@ -49,7 +49,8 @@ public:
     bool loaded() const { return loaded_; }
     bool shown() const { return shown_; }
 
-    Property<std::string> Caption;
+    Property<std::string> Caption; ///< " [*]" in it is where the platform marks unsaved changes
+    Property<bool> Modified{*this, PropertyId::Modified, false}; ///< what it shows is not saved
     Property<Color> BackColor{*this, PropertyId::BackColor, color::kButtonFace};
     Property<Color> ForeColor{*this, PropertyId::ForeColor, color::kWindowText};
     Property<bool> Enabled{*this, PropertyId::Enabled, true};

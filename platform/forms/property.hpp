@@ -50,6 +50,7 @@ enum class PropertyId : std::uint8_t {
     SelStart,
     SelLength,
     Locked,
+    Modified,
 };
 
 /// Spelling of a property as scripts write it ("BackColor").

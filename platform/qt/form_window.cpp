@@ -48,6 +48,19 @@ QPoint reachable(const QPoint& place, const QSize& size) {
     return moved.topLeft();
 }
 
+/// The last " [*]" becomes the toolkit's place for the mark; any other belongs to the text.
+QString window_title(const std::string& caption) {
+    constexpr const char* kMark = "[*]";
+    constexpr std::string_view kPlace = " [*]";
+    const std::size_t place = caption.rfind(kPlace);
+    if (place == std::string::npos) {
+        return to_qt(caption);
+    }
+    QString before = to_qt(std::string_view(caption).substr(0, place));
+    before.replace(QLatin1String(kMark), QLatin1String("[*][*]"));
+    return before + QLatin1String(kMark) + to_qt(std::string_view(caption).substr(place + kPlace.size()));
+}
+
 } // namespace
 
 FormWindow::FormWindow(Form& form, QtDesktop& desktop) : form_(form), desktop_(desktop) {
@@ -89,7 +102,8 @@ void FormWindow::start() {
     }
     desktop_.built(window);
     bind(form_, window);
-    for (const PropertyId id : {PropertyId::Caption, PropertyId::Enabled, PropertyId::BackColor}) {
+    for (const PropertyId id :
+         {PropertyId::Caption, PropertyId::Modified, PropertyId::Enabled, PropertyId::BackColor}) {
         property_changed(id);
     }
     const QSize own = window.size();
@@ -113,7 +127,9 @@ void FormWindow::property_changed(PropertyId id) {
     }
     switch (id) {
     case PropertyId::Caption:
-        return window_->setWindowTitle(to_qt(form_.Caption()));
+        return window_->setWindowTitle(window_title(form_.Caption()));
+    case PropertyId::Modified:
+        return window_->setWindowModified(form_.Modified());
     case PropertyId::Enabled:
         return window_->setEnabled(form_.Enabled());
     case PropertyId::BackColor:

@@ -12,6 +12,7 @@
 #include <QMessageBox>
 #include <QTest>
 #include <QTimer>
+#include <QWindow>
 
 namespace quittika::test {
 
@@ -119,6 +120,15 @@ TEST_F(DesktopTest, FocusAskedForBeforeTheWindowIsThere) {
     form1.Text_Kunde_3.SetFocus();
     form1.Show();
     EXPECT_EQ(desktop.window(form1)->focusWidget()->objectName(), "Text_Kunde_3");
+}
+
+TEST_F(DesktopTest, TitleMarksUnsavedChanges) {
+    form1.Caption = "a [*] b[*].qk8 [*] - Quittika 2008";
+    form1.Show();
+    const QWindow& window = *desktop.window(form1)->windowHandle();
+    EXPECT_EQ(window.title(), "a [*] b[*].qk8 - Quittika 2008");
+    form1.Modified = true;
+    EXPECT_EQ(window.title(), "a [*] b[*].qk8* - Quittika 2008");
 }
 
 TEST_F(DesktopTest, TimersTickOnlyWhileTheirFormIsLoaded) {

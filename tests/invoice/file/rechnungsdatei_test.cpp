@@ -265,7 +265,7 @@ TEST(Rechnungsdatei, AbgeschnitteneDateiWirdNichtUeberschrieben) {
     p.ordner.schreiben("lang.qk8", datei);
     EXPECT_TRUE(p.oeffnen("lang.qk8"));
     EXPECT_EQ(p.form1.List_K.ListCount(), 32000);
-    EXPECT_EQ(p.zustand.AktuellerPfad, "");
+    EXPECT_EQ(p.zustand.AktuellerPfad(), "");
     EXPECT_EQ(p.form1.StatusBar1[3].Caption(),
               "Achtung: Die Datei hat zu viele Zeilen, es fehlen Positionen.");
 }
@@ -336,7 +336,7 @@ TEST(Rechnungsdatei, MisslungenesSpeichernKostetNichts) {
     EXPECT_TRUE(p.zustand.geaendert());
     EXPECT_EQ(p.ordner.lesen("RN.txt"), "2\r\n") << "no number is used up";
     EXPECT_FALSE(p.speichern("kein/ordner.qk8"));
-    EXPECT_EQ(p.zustand.AktuellerPfad, p.ordner.pfad("a.qk8"));
+    EXPECT_EQ(p.zustand.AktuellerPfad(), p.ordner.pfad("a.qk8"));
 }
 
 TEST(Rechnungsdatei, WasDerZeichensatzNichtKenntWirdGesagt) {
