@@ -1,8 +1,8 @@
 #include "app/programmordner.hpp"
 
-#include <system_error>
+#include "platform/verzeichnis.hpp"
 
-#include <unistd.h>
+#include <system_error>
 
 namespace quittika {
 
@@ -34,7 +34,7 @@ void MITGELIEFERTES_KOPIEREN(const fs::path& von, const fs::path& nach) {
 
 fs::path PROGRAMMORDNER(const fs::path& programmdatei, const fs::path& datenordner) {
     fs::path ordner = programmdatei.parent_path();
-    if (access(ordner.c_str(), W_OK) == 0) {
+    if (ordner_beschreibbar(ordner.string())) {
         return ordner;
     }
     std::error_code fehler;

@@ -242,7 +242,7 @@ void Summen::jetztberechnen_List() {
     try {
         rechnen();
     } catch (const Laufzeitfehler& fehler) {
-        if (fehler.nummer() != 6 && fehler.nummer() != 11) {
+        if (fehler.nummer() != fehler::kUeberlauf && fehler.nummer() != fehler::kDivisionDurchNull) {
             throw;
         }
     }

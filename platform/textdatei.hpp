@@ -10,19 +10,15 @@
 namespace quittika {
 
 // Text files are lines in Windows-1252 with CR LF. A line read ends with CR LF, LF or the end of the file;
-// a lone CR and every other byte stay in it. Text in memory is UTF-8.
-// Errors are `Laufzeitfehler` with the path: 53 file, 76 folder missing, 70 not permitted, 75 no file,
-// 52 bad name, 61 disk full, 57 anything else.
-
-/// The bytes of a file.
-std::string bytes_lesen(const std::string& pfad);
+// a lone CR and every other byte stay in it. Text in memory is UTF-8. Errors are those of
+// `platform/datei.hpp`.
 
 /// Hands over line after line of a file's bytes until `weiter` answers false.
 void zeilen_durchgehen(std::string_view bytes, const std::function<bool(std::string_view zeile)>& weiter);
 
 /// At most `hoechstens` lines of a file.
-std::vector<std::string> lesen(const std::string& pfad,
-                               std::size_t hoechstens = std::numeric_limits<std::size_t>::max());
+std::vector<std::string> zeilen_lesen(const std::string& pfad,
+                                      std::size_t hoechstens = std::numeric_limits<std::size_t>::max());
 
 /// Lines on their way into a file.
 class Textpuffer {
@@ -37,11 +33,8 @@ private:
     std::size_t ersetzt_ = 0;
 };
 
-/// Replaces a file by these lines. They are written beside it first and take its place when they are
-/// completely on disk, so that the old content is there until then.
-void schreiben(const std::string& pfad, const Textpuffer& zeilen);
-/// The same; returns how many characters the code page lacks.
-std::size_t schreiben(const std::string& pfad, const std::vector<std::string>& zeilen);
+/// Replaces a file by these lines, as `datei_ersetzen` does; returns how many characters the code page lacks.
+std::size_t zeilen_ersetzen(const std::string& pfad, const std::vector<std::string>& zeilen);
 
 /// First line of a file; "FEHLER" if it is missing, unreadable or empty.
 std::string DATEI_ERSTE_ZEILE(const std::string& pfad);

@@ -1,6 +1,7 @@
 #include "platform/verzeichnis.hpp"
 
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace quittika {
 
@@ -11,6 +12,11 @@ bool vorhanden(const std::string& pfad) {
     return stat(pfad.c_str(), &auskunft) == 0;
 }
 
+bool ist_ordner(const std::string& pfad) {
+    struct stat auskunft {};
+    return stat(pfad.c_str(), &auskunft) == 0 && S_ISDIR(auskunft.st_mode);
+}
+
 } // namespace
 
 std::string systempfad(std::string_view pfad) {
@@ -19,8 +25,8 @@ std::string systempfad(std::string_view pfad) {
         return ergebnis;
     }
     for (std::size_t i = ergebnis.find('\\'); i != std::string::npos; i = ergebnis.find('\\', i + 1)) {
-        const std::size_t ende = ergebnis.find('\\', i + 1);
-        if (ende == std::string::npos || !vorhanden(ergebnis.substr(0, ende))) {
+        const std::size_t ende = ergebnis.find_first_of("\\/", i + 1);
+        if (ende == std::string::npos || !ist_ordner(ergebnis.substr(0, ende))) {
             ergebnis[i] = '/';
         }
     }
@@ -29,6 +35,10 @@ std::string systempfad(std::string_view pfad) {
 
 bool datei_vorhanden(std::string_view pfad) {
     return vorhanden(systempfad(pfad));
+}
+
+bool ordner_beschreibbar(const std::string& ordner) {
+    return access(ordner.c_str(), W_OK | X_OK) == 0;
 }
 
 } // namespace quittika

@@ -20,11 +20,14 @@ private:
     std::string ordner_;
 };
 
-/// The system's form of a path: a "\" becomes "/" unless it belongs to the name of a file or folder that
-/// exists.
+/// The system's form of a path. A path that exists as it stands is left so; else every "\" becomes "/" that
+/// no existing folder on the way holds in its name.
 std::string systempfad(std::string_view pfad);
 
 /// Whether a path names something that exists.
 bool datei_vorhanden(std::string_view pfad);
+
+/// Whether the user may put files into a folder, given as a system path.
+bool ordner_beschreibbar(const std::string& ordner);
 
 } // namespace quittika

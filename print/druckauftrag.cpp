@@ -49,7 +49,8 @@ void Druckauftrag::Command_printform_Click() {
         drucke(just);
         status("DRUCKEN...");
     } catch (const Laufzeitfehler& fehler) {
-        status(fehler.nummer() == 32755 ? "DRUCKEN ABGEBROCHEN." : "FEHLER BEIM DRUCKEN!");
+        status(fehler.nummer() == fehler::kDialogAbgebrochen ? "DRUCKEN ABGEBROCHEN."
+                                                             : "FEHLER BEIM DRUCKEN!");
     }
 }
 

@@ -9,7 +9,6 @@ namespace quittika {
 
 namespace {
 
-constexpr int kDialogAbgebrochen = 32755;
 constexpr const char* kSpeicherfehler = "FEHLER BEIM SPEICHERN";
 
 } // namespace
@@ -58,7 +57,7 @@ bool Dateibefehle::m_speichern_Click() {
     try {
         return SpeichernNach(SpeicherpfadWaehlen());
     } catch (const Laufzeitfehler& fehler) {
-        if (fehler.nummer() != kDialogAbgebrochen) {
+        if (fehler.nummer() != fehler::kDialogAbgebrochen) {
             SpeicherfehlerMelden();
         }
         return false;
@@ -159,7 +158,7 @@ bool Dateibefehle::oeffneRN(const std::string& pfad) {
         CMD_Seite1_Click(0);
         return true;
     } catch (const Laufzeitfehler& fehler) {
-        if (fehler.nummer() != kDialogAbgebrochen) {
+        if (fehler.nummer() != fehler::kDialogAbgebrochen) {
             OeffnungsfehlerMelden(gewaehlt);
         }
         return false;

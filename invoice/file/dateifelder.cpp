@@ -10,7 +10,6 @@ namespace quittika {
 
 namespace {
 
-constexpr int kIndexFehler = 9;
 constexpr int kErsteRasterzeile = 8;
 constexpr int kErsteRastersumme = 43;
 constexpr int kErstesRasterhaekchen = 63;
@@ -132,14 +131,14 @@ std::string Feldtext(const Control& steuerelement) {
 const std::string& Dateizeilen::operator[](int zeile) const {
     static const std::string leer;
     if (zeile < 0 || zeile > dateizeile::kGrenze) {
-        throw Laufzeitfehler(kIndexFehler);
+        throw Laufzeitfehler(fehler::kIndex);
     }
     return static_cast<std::size_t>(zeile) < zeilen_.size() ? zeilen_[static_cast<std::size_t>(zeile)] : leer;
 }
 
 void Dateizeilen::setzen(int zeile, std::string text) {
     if (zeile < 0 || zeile > dateizeile::kGrenze) {
-        throw Laufzeitfehler(kIndexFehler);
+        throw Laufzeitfehler(fehler::kIndex);
     }
     if (static_cast<std::size_t>(zeile) >= zeilen_.size()) {
         zeilen_.resize(static_cast<std::size_t>(zeile) + 1);

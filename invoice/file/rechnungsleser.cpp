@@ -1,5 +1,6 @@
 #include "invoice/file/rechnungsleser.hpp"
 
+#include "platform/datei.hpp"
 #include "platform/laufzeitfehler.hpp"
 #include "platform/text.hpp"
 #include "platform/textdatei.hpp"

@@ -1,8 +1,8 @@
 #include "invoice/file/rechnungsschreiber.hpp"
 
 #include "invoice/zeichenersatz.hpp"
+#include "platform/datei.hpp"
 #include "platform/datum.hpp"
-#include "platform/laufzeitfehler.hpp"
 #include "platform/text.hpp"
 #include "platform/textdatei.hpp"
 #include "platform/zahlen.hpp"
@@ -97,7 +97,7 @@ bool Rechnungsschreiber::DateiSchreiben(const std::string& pfad) {
     datei.zeile("Gespeichert am: " + datum_zeit_text(uhr_.now()));
     PositionenAnfuegen(datei);
     try {
-        schreiben(pfad, datei);
+        datei_ersetzen(pfad, datei.bytes());
         form1_.StatusBar1[3].Caption = ZEICHENERSATZ_MELDUNG(datei.ersetzt());
         return true;
     } catch (const Laufzeitfehler&) {

@@ -3,6 +3,7 @@
 #include "platform/qt/guard.hpp"
 #include "platform/qt/qt_text.hpp"
 #include "platform/qt/widgets/backdrop.hpp"
+#include "platform/verzeichnis.hpp"
 
 #include <QGroupBox>
 #include <QImageReader>
@@ -18,7 +19,7 @@ QPixmap load(const std::string& path) {
     if (path.empty()) {
         return {};
     }
-    QImageReader reader(path_to_qt(path));
+    QImageReader reader(path_to_qt(systempfad(path)));
     reader.setDecideFormatFromContent(true);
     return QPixmap::fromImage(reader.read());
 }

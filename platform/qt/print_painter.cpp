@@ -78,7 +78,7 @@ const QImage& PainterDevice::load(const std::string& path) {
         picture = {modified, reader.read()};
     }
     if (picture.image.isNull()) {
-        throw Laufzeitfehler(481);
+        throw Laufzeitfehler(fehler::kBild);
     }
     return picture.image;
 }

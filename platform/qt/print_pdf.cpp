@@ -68,7 +68,7 @@ QtPdfDevice::QtPdfDevice(const QtFontMetrics& metrics, QString path, const std::
     writer_.setTitle(QString::fromStdString(title));
     writer_.setCreator(QStringLiteral("Quittika 2008"));
     if (!begin(writer_, kResolution / 25.4)) {
-        throw Laufzeitfehler(482);
+        throw Laufzeitfehler(fehler::kDrucker);
     }
 }
 
@@ -78,13 +78,13 @@ QtPdfDevice::~QtPdfDevice() {
 
 void QtPdfDevice::new_page() {
     if (!writer_.newPage()) {
-        throw Laufzeitfehler(482);
+        throw Laufzeitfehler(fehler::kDrucker);
     }
 }
 
 void QtPdfDevice::end_document() {
     if (!end() || !replace_file(path_, content_.data())) {
-        throw Laufzeitfehler(482);
+        throw Laufzeitfehler(fehler::kDrucker);
     }
 }
 

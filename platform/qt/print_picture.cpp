@@ -15,7 +15,7 @@ QImage blank_page(double pixels_per_mm) {
     QImage page(static_cast<int>(std::lround(kPageWidth * pixels_per_mm)),
                 static_cast<int>(std::lround(kPageHeight * pixels_per_mm)), QImage::Format_RGB32);
     if (page.isNull()) {
-        throw Laufzeitfehler(7);
+        throw Laufzeitfehler(fehler::kSpeicher);
     }
     page.setDotsPerMeterX(static_cast<int>(std::lround(pixels_per_mm * 1000)));
     page.setDotsPerMeterY(page.dotsPerMeterX());

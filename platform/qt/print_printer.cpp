@@ -23,7 +23,7 @@ bool prints_to_file(const QPrinter& printer) {
 QtPrinterDevice::QtPrinterDevice(const QtFontMetrics& metrics, QPrinter& printer, const std::string& title)
     : PainterDevice(metrics), printer_(printer) {
     if (!prints_to_file(printer_) && !queue_takes_jobs(printer_.printerName())) {
-        throw Laufzeitfehler(482);
+        throw Laufzeitfehler(fehler::kDrucker);
     }
     printer_.setResolution(kResolution);
     printer_.setPageSize(QPageSize(QPageSize::A4));
@@ -35,7 +35,7 @@ QtPrinterDevice::QtPrinterDevice(const QtFontMetrics& metrics, QPrinter& printer
     printer_.setDocName(QString::fromStdString(title));
     printer_.setCreator(QStringLiteral("Quittika 2008"));
     if (!begin(printer_, printer_.resolution() / 25.4)) {
-        throw Laufzeitfehler(482);
+        throw Laufzeitfehler(fehler::kDrucker);
     }
 }
 
@@ -48,14 +48,14 @@ QtPrinterDevice::~QtPrinterDevice() {
 
 void QtPrinterDevice::new_page() {
     if (!printer_.newPage()) {
-        throw Laufzeitfehler(482);
+        throw Laufzeitfehler(fehler::kDrucker);
     }
 }
 
 void QtPrinterDevice::end_document() {
     ended_ = true;
     if (!end() || printer_.printerState() == QPrinter::Error) {
-        throw Laufzeitfehler(482);
+        throw Laufzeitfehler(fehler::kDrucker);
     }
 }
 

@@ -8,7 +8,7 @@ namespace quittika {
 std::unique_ptr<PrintDevice> QtPrinting::printer(const std::string& job_title) {
     QPrinter* const chosen = chosen_();
     if (chosen == nullptr) {
-        throw Laufzeitfehler(482);
+        throw Laufzeitfehler(fehler::kDrucker);
     }
     return std::make_unique<QtPrinterDevice>(metrics_, *chosen, job_title);
 }

@@ -105,7 +105,7 @@ private:
             }
             log("zurück: " + notiz_.Text.Text());
             if (notiz_.Text.Text() == "krach") {
-                throw Laufzeitfehler(13);
+                throw Laufzeitfehler(fehler::kFalscherTyp);
             }
         };
         notiz_.Schliessen.Click = [this] { notiz_.Hide(); };
@@ -222,7 +222,7 @@ private:
 
 inline std::shared_ptr<void> fake_program(const Platform& platform, const std::string& directory) {
     if (directory == "kaputt") {
-        throw Laufzeitfehler(76);
+        throw Laufzeitfehler(fehler::kPfadFehlt);
     }
     return std::make_shared<FakeProgram>(platform, directory);
 }

@@ -1,5 +1,6 @@
 #include "platform/textdatei.hpp"
 
+#include "platform/datei.hpp"
 #include "platform/verzeichnis.hpp"
 #include "tests/ohne_vorrechte.hpp"
 #include "tests/pruefstand.hpp"
@@ -14,7 +15,7 @@ namespace {
 
 int lesefehler(const std::string& pfad) {
     try {
-        lesen(pfad);
+        zeilen_lesen(pfad);
     } catch (const Laufzeitfehler& f) {
         return f.nummer();
     }
@@ -23,7 +24,7 @@ int lesefehler(const std::string& pfad) {
 
 int schreibfehler(const std::string& pfad) {
     try {
-        schreiben(pfad, {"neu"});
+        zeilen_ersetzen(pfad, {"neu"});
     } catch (const Laufzeitfehler& f) {
         return f.nummer();
     }
@@ -33,17 +34,17 @@ int schreibfehler(const std::string& pfad) {
 TEST(Textdatei, JedesZeilenendeWirdGelesen) {
     const Probenordner o;
     o.schreiben("a.txt", "eins\r\nzwei\nd\rei\n\r\n" + std::string("vier\0f\xFCnf", 9));
-    const auto zeilen = lesen(o.pfad("a.txt"));
+    const auto zeilen = zeilen_lesen(o.pfad("a.txt"));
     ASSERT_EQ(zeilen.size(), 5U);
     EXPECT_EQ(zeilen[2], "d\rei");
     EXPECT_EQ(zeilen[3], "");
     EXPECT_EQ(zeilen[4], std::string("vier\0fünf", 10));
-    EXPECT_EQ(lesen(o.pfad("a.txt"), 2).size(), 2U);
+    EXPECT_EQ(zeilen_lesen(o.pfad("a.txt"), 2).size(), 2U);
     int gezaehlt = 0;
     zeilen_durchgehen(bytes_lesen(o.pfad("a.txt")), [&](std::string_view) { return ++gezaehlt < 3; });
     EXPECT_EQ(gezaehlt, 3);
-    schreiben(o.pfad("b.txt"), zeilen);
-    EXPECT_EQ(lesen(o.pfad("b.txt")), zeilen);
+    zeilen_ersetzen(o.pfad("b.txt"), zeilen);
+    EXPECT_EQ(zeilen_lesen(o.pfad("b.txt")), zeilen);
 }
 
 TEST(Textdatei, FehlerHabenIhreNummer) {
@@ -81,7 +82,7 @@ TEST(Textdatei, ErsetzenBehaeltRechteUndFolgtVerweisen) {
     o.schreiben("echt.txt", "alt");
     chmod(o.pfad("echt.txt").c_str(), 0640);
     std::filesystem::create_symlink(o.pfad("echt.txt"), o.pfad("verweis.txt"));
-    EXPECT_EQ(schreiben(o.pfad("verweis.txt"), {"neu"}), 0U);
+    EXPECT_EQ(zeilen_ersetzen(o.pfad("verweis.txt"), {"neu"}), 0U);
     EXPECT_TRUE(std::filesystem::is_symlink(o.pfad("verweis.txt")));
     EXPECT_EQ(o.lesen("echt.txt"), "neu\r\n");
     struct stat auskunft {};
@@ -94,8 +95,8 @@ TEST(Textdatei, ErsetzenTrifftKeineAndereDatei) {
     o.schreiben("a.txt", "alt");
     o.schreiben("opfer", "fremd");
     std::filesystem::create_symlink(o.pfad("opfer"),
-                                    o.pfad(".quittika-" + std::to_string(getpid()) + "-0.neu"));
-    schreiben(o.pfad("a.txt"), {"neu"});
+                                    o.pfad(".quittika-" + std::to_string(getpid()) + "-1.neu"));
+    zeilen_ersetzen(o.pfad("a.txt"), {"neu"});
     EXPECT_EQ(o.lesen("opfer"), "fremd");
     EXPECT_EQ(o.lesen("a.txt"), "neu\r\n");
     EXPECT_FALSE(std::filesystem::is_symlink(o.pfad("a.txt")));

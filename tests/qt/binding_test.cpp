@@ -335,7 +335,7 @@ TEST(Pictures, KeepTheirProportionsAndMissingOnesAreEmpty) {
     label.setFixedSize(80, 80);
     const auto at = [&](int x, int y) { return QColor(label.grab().toImage().pixel(x, y)); };
     const QColor ground = at(40, 40);
-    bound.form.Picture.Picture = path.toStdString();
+    bound.form.Picture.Picture = folder.path().toStdString() + "\\Löwe #1 %20.bmp";
     EXPECT_EQ(at(40, 40), QColor(Qt::red));
     EXPECT_EQ(at(1, 25), QColor(Qt::red)) << "80 by 40 in the middle";
     EXPECT_EQ(at(40, 15), ground);

@@ -147,7 +147,7 @@ TEST_F(DesktopTest, TimersTickOnlyWhileTheirFormIsLoaded) {
 
 TEST_F(DesktopTest, EscapedErrorIsShownAndTheProgramGoesOn) {
     form1.Show();
-    form1.Cmd_Add_To_list.Click = [] { throw Laufzeitfehler(6); };
+    form1.Cmd_Add_To_list.Click = [] { throw Laufzeitfehler(fehler::kUeberlauf); };
     QString title;
     QString text;
     when_modal([&] {
@@ -159,7 +159,7 @@ TEST_F(DesktopTest, EscapedErrorIsShownAndTheProgramGoesOn) {
     QTest::mouseClick(desktop.window(form1)->findChild<QWidget*>("Cmd_Add_To_list"), Qt::LeftButton);
     EXPECT_EQ(title, "Quittika 2008");
     EXPECT_TRUE(text.contains("6")) << text.toStdString();
-    EXPECT_TRUE(text.contains(fehlertext(6))) << text.toStdString();
+    EXPECT_TRUE(text.contains(fehlertext(fehler::kUeberlauf))) << text.toStdString();
 }
 
 TEST_F(DesktopTest, EndingAsksNoWindowAgain) {

@@ -100,7 +100,7 @@ TEST(Rechnungsdatei, JedeZeileStehtAnIhrerStelle) {
     f.Text_RNnr.Text = "0042";
     p.zeile("2", "Stuhl", "5");
     ASSERT_TRUE(p.speichern("a.qk8"));
-    const std::vector<std::string> zeilen = lesen(p.ordner.pfad("a.qk8"));
+    const std::vector<std::string> zeilen = zeilen_lesen(p.ordner.pfad("a.qk8"));
     ASSERT_EQ(zeilen.size(), 1003U);
     const std::pair<std::size_t, const char*> erwartet[] = {
         {0, "qk8"},
@@ -344,7 +344,7 @@ TEST(Rechnungsdatei, WasDerZeichensatzNichtKenntWirdGesagt) {
     p.form1.Text_Kunde_1.Text = "Łukasz Nováček 漢";
     p.form1.Text_Kunde_2.Text = "Straße 5 €";
     ASSERT_TRUE(p.speichern("a.qk8"));
-    const std::vector<std::string> zeilen = lesen(p.ordner.pfad("a.qk8"));
+    const std::vector<std::string> zeilen = zeilen_lesen(p.ordner.pfad("a.qk8"));
     EXPECT_EQ(zeilen[3], "Lukasz Novácek ?");
     EXPECT_EQ(zeilen[4], "Straße 5 €");
     EXPECT_EQ(p.form1.StatusBar1[3].Caption(),

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "platform/laufzeitfehler.hpp"
+
+#include <cstddef>
+#include <limits>
+#include <string>
+#include <string_view>
+#include <utility>
+
+namespace quittika {
+
+// Files as wholes. Paths are the program's own or the system's. Errors are `Laufzeitfehler` with the path:
+// 53 file missing, 76 folder missing, 70 not permitted, 75 no file, 52 bad name, 61 disk full, 71 device not
+// there, 57 anything else. Where a folder refused, the path is the folder's and ends with "/".
+
+inline constexpr std::size_t kUnbegrenzt = std::numeric_limits<std::size_t>::max() / 2;
+
+/// The bytes of a file. Throws 7 for more than `hoechstens`, before they are read.
+std::string bytes_lesen(const std::string& pfad, std::size_t hoechstens = kUnbegrenzt);
+
+/// A file that was damaged while it was written in place; its old content lies in `beiseite()`.
+class Dateischaden : public Laufzeitfehler {
+public:
+    Dateischaden(const Laufzeitfehler& ursache, std::string beiseite)
+        : Laufzeitfehler(ursache), beiseite_(std::move(beiseite)) {}
+    const std::string& beiseite() const { return beiseite_; }
+
+private:
+    std::string beiseite_;
+};
+
+/// Replaces a file by these bytes. They are written beside it first, under a hidden name with the number of
+/// this process, and take its place when they are completely on disk: old content or new, nothing between.
+/// What killed processes left in the folder is removed.
+/// A file that may be written in a folder that takes no new one is written in place, after its old content
+/// was put aside in `ausweichordner` (none: it is refused). The path put aside is returned, else "".
+std::string datei_ersetzen(const std::string& pfad, std::string_view bytes,
+                           const std::string& ausweichordner = {});
+
+/// Appends bytes on a new line and returns when they are on disk; a file that does not exist is created. What
+/// could not be written whole is taken back.
+void datei_anhaengen(const std::string& pfad, std::string_view bytes);
+
+} // namespace quittika

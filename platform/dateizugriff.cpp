@@ -1,0 +1,162 @@
+#include "platform/dateizugriff.hpp"
+
+#include "platform/laufzeitfehler.hpp"
+#include "platform/verzeichnis.hpp"
+
+#include <cerrno>
+#include <utility>
+
+#include <fcntl.h>
+#include <unistd.h>
+
+namespace quittika {
+
+namespace {
+
+int nummer_von(int system) {
+    switch (system) {
+    case ENOENT:
+        return fehler::kDateiFehlt;
+    case ENOTDIR:
+        return fehler::kPfadFehlt;
+    case EACCES:
+    case EPERM:
+    case EROFS:
+        return fehler::kZugriffVerweigert;
+    case EISDIR:
+    case ENAMETOOLONG:
+    case ELOOP:
+        return fehler::kPfadZugriff;
+    case ENOSPC:
+    case EDQUOT:
+    case EFBIG:
+        return fehler::kDatentraegerVoll;
+    case ENODEV:
+    case ENXIO:
+    case ESTALE:
+    case ENOTCONN:
+    case ETIMEDOUT:
+        return fehler::kDatentraegerFehlt;
+    default:
+        return fehler::kGeraet;
+    }
+}
+
+} // namespace
+
+void scheitern(int system, const std::string& pfad) {
+    int nummer = nummer_von(system);
+    if (nummer == fehler::kDateiFehlt && !datei_vorhanden(ordner_von(pfad))) {
+        nummer = fehler::kPfadFehlt;
+    }
+    throw Laufzeitfehler(nummer, pfad);
+}
+
+std::string ort_von(const std::string& pfad) {
+    if (pfad.find('\0') != std::string::npos) {
+        throw Laufzeitfehler(fehler::kDateiname, pfad);
+    }
+    return systempfad(pfad);
+}
+
+std::string ordner_von(const std::string& ort) {
+    const std::size_t ende = ort.rfind('/');
+    return ende == std::string::npos ? "./" : ort.substr(0, ende + 1);
+}
+
+void ordner_sichern(const std::string& ordner) {
+    const int nummer = open(ordner.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (nummer < 0) {
+        return; // a folder that may be written but not read
+    }
+    const Datei offen(nummer, ordner);
+    if (fsync(nummer) != 0 && errno != EINVAL) { // not every file system can
+        scheitern(errno, ordner);
+    }
+}
+
+Datei::Datei(std::string pfad, int art, mode_t rechte)
+    : pfad_(std::move(pfad)), nummer_(open(pfad_.c_str(), art | O_CLOEXEC, rechte)) {
+    if (nummer_ < 0) {
+        scheitern(errno, pfad_);
+    }
+}
+
+Datei::~Datei() {
+    if (nummer_ >= 0) {
+        close(nummer_);
+    }
+}
+
+struct stat Datei::auskunft() const {
+    struct stat ergebnis {};
+    if (fstat(nummer_, &ergebnis) != 0) {
+        scheitern(errno, pfad_);
+    }
+    return ergebnis;
+}
+
+std::string Datei::lesen(std::size_t hoechstens) const {
+    std::string inhalt;
+    inhalt.resize(static_cast<std::size_t>(auskunft().st_size) + 1);
+    std::size_t laenge = 0;
+    while (true) {
+        if (inhalt.size() - 1 > hoechstens) {
+            throw Laufzeitfehler(fehler::kSpeicher, pfad_);
+        }
+        const ssize_t gelesen = read(nummer_, inhalt.data() + laenge, inhalt.size() - laenge);
+        if (gelesen < 0 && errno == EINTR) {
+            continue;
+        }
+        if (gelesen < 0) {
+            scheitern(errno, pfad_);
+        }
+        if (gelesen == 0) {
+            break;
+        }
+        laenge += static_cast<std::size_t>(gelesen);
+        if (laenge == inhalt.size()) {
+            inhalt.resize(inhalt.size() * 2);
+        }
+    }
+    inhalt.resize(laenge);
+    return inhalt;
+}
+
+void Datei::schreiben(std::string_view bytes) const {
+    while (!bytes.empty()) {
+        const ssize_t geschrieben = write(nummer_, bytes.data(), bytes.size());
+        if (geschrieben < 0 && errno == EINTR) {
+            continue;
+        }
+        if (geschrieben <= 0) {
+            scheitern(geschrieben == 0 ? ENOSPC : errno, pfad_);
+        }
+        bytes.remove_prefix(static_cast<std::size_t>(geschrieben));
+    }
+}
+
+void Datei::ueberschreiben(std::string_view bytes) const {
+    if (lseek(nummer_, 0, SEEK_SET) != 0) {
+        scheitern(errno, pfad_);
+    }
+    schreiben(bytes);
+    if (ftruncate(nummer_, static_cast<off_t>(bytes.size())) != 0) {
+        scheitern(errno, pfad_);
+    }
+    sichern();
+}
+
+void Datei::sichern() const {
+    if (fsync(nummer_) != 0) {
+        scheitern(errno, pfad_);
+    }
+}
+
+void Datei::schliessen() {
+    if (close(std::exchange(nummer_, -1)) != 0) {
+        scheitern(errno, pfad_);
+    }
+}
+
+} // namespace quittika
