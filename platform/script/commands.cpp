@@ -14,6 +14,7 @@ namespace quittika {
 namespace {
 
 constexpr std::int64_t kLargest = std::numeric_limits<int>::max();
+constexpr std::int64_t kMostCopies = 999; ///< as the print dialog takes them
 constexpr std::int64_t kSmallest = std::numeric_limits<int>::min();
 constexpr std::int64_t kLastKeyCode = 255;
 
@@ -202,7 +203,7 @@ void Commands::font(std::string_view arguments) {
 }
 
 void Commands::printer(std::string_view arguments) {
-    platform_.dialogs.queue(choice::Printer{number(arguments, 1)});
+    platform_.dialogs.queue(choice::Printer{number(arguments, 1, kMostCopies)});
 }
 
 void Commands::cancel(std::string_view /*arguments*/) {

@@ -36,33 +36,55 @@ private:
     std::ostream& transcript_;
 };
 
-/// Commands of a conversation: its lines that begin with "> ".
-inline std::vector<std::string> commands_of(std::string_view conversation) {
-    std::vector<std::string> commands;
-    std::istringstream lines{std::string(conversation)};
-    for (std::string line; std::getline(lines, line);) {
-        if (line.starts_with("> ")) {
-            commands.push_back(line.substr(2));
-        }
+/// A conversation with the runner: commands, and below each what it answers, behind "= " and without the
+/// closing "ok".
+using Conversation = std::string;
+
+inline std::vector<std::string> lines_of(std::string_view text) {
+    std::vector<std::string> lines;
+    std::istringstream in{std::string(text)};
+    for (std::string line; std::getline(in, line);) {
+        lines.push_back(line);
     }
-    return commands;
+    return lines;
+}
+
+inline bool closes(const std::string& line) {
+    return line == "ok" || line.starts_with("error: ");
+}
+
+/// A transcript as a conversation. A command is to be closed once, before the next one is read.
+inline Conversation as_conversation(const std::string& transcript) {
+    Conversation conversation;
+    int open = 0;
+    for (const std::string& line : lines_of(transcript)) {
+        if (line.starts_with("> ")) {
+            conversation += (open > 0 ? "= <not closed>\n" : "") + line.substr(2) + "\n";
+            open = line == "> " || line.starts_with("> #") ? 0 : 1;
+            continue;
+        }
+        open -= closes(line) ? 1 : 0;
+        conversation += open < 0 ? "= <closed twice>\n" : line == "ok" ? "" : "= " + line + "\n";
+    }
+    return conversation;
 }
 
 struct Outcome {
-    std::string
-        transcript; ///< each command with "> " before it at the moment it was read, and all that was written
+    Conversation conversation;
     int status;
 };
 
 /// Plays the commands of a conversation to the runner with the fake program.
 inline Outcome play(std::string_view conversation, PdfFactory pdf = {}) {
+    std::vector<std::string> commands = lines_of(conversation);
+    std::erase_if(commands, [](const std::string& line) { return line.starts_with("="); });
     const FakeMetrics metrics;
     std::ostringstream transcript;
-    NotedInput input(commands_of(conversation), transcript);
+    NotedInput input(std::move(commands), transcript);
     std::istream in(&input);
     Runner runner({fake_program, metrics, std::move(pdf)}, in, transcript);
     const int status = runner.run();
-    return {transcript.str(), status};
+    return {as_conversation(transcript.str()), status};
 }
 
 } // namespace quittika::script_test

@@ -9,43 +9,36 @@
 namespace quittika::script_test {
 namespace {
 
-constexpr const char* kTwoCopies = R"(job Blatt\t1
-page 1
-text 0.00 12.35 10.00 9.5 1 255 Nr. 1
-page 2
-line 0.00 1.00 210.00 1.00 0
-enddoc
-job Blatt\t1
-page 1
-text 0.00 12.35 10.00 9.5 1 255 Nr. 2
-page 2
-line 0.00 1.00 210.00 1.00 0
-enddoc
-)";
-
 TEST(ScriptPages, KeepTheJobsOfTheLastPrintingCommand) {
-    const std::string expected = std::string(R"(> start dir
-ok
-> click form1.Drucken
-ok
-> click form1.Spaeter
-ok
-> pages
-)") + kTwoCopies + R"(ok
-> click form1.Modal
-ok
-> click Form_Notiz.Drucken
-ok
-> pages
-job Notiz
-page 1
-text 0.00 12.35 10.00 9.5 1 255 Nr. 1
-page 2
-line 0.00 1.00 210.00 1.00 0
-enddoc
-ok
+    const Conversation expected = R"(start dir
+click form1.Drucken
+click form1.Spaeter
+pages
+= job Blatt\t1
+= page 1
+= text 0.00 12.35 10.00 9.5 1 255 Nr. 1
+= page 2
+= line 0.00 1.00 210.00 1.00 0
+= enddoc
+= job Blatt\t1
+= page 1
+= text 0.00 12.35 10.00 9.5 1 255 Nr. 2
+= page 2
+= line 0.00 1.00 210.00 1.00 0
+= enddoc
+click form1.Modal
+click Form_Notiz.Drucken
+pages
+= job Notiz
+= page 1
+= text 0.00 12.35 10.00 9.5 1 255 Nr. 1
+= page 2
+= line 0.00 1.00 210.00 1.00 0
+= enddoc
+printto x.pdf
+= error: Es gibt keine Ausgabe in PDF-Dateien
 )";
-    EXPECT_EQ(play(expected).transcript, expected);
+    EXPECT_EQ(play(expected).conversation, expected);
 }
 
 TEST(ScriptPages, PictureNeedsItsFile) {
@@ -53,16 +46,14 @@ TEST(ScriptPages, PictureNeedsItsFile) {
     std::filesystem::create_directories(folder);
     const std::string picture = folder + "/logo.bmp";
     std::filesystem::remove(picture);
-    const std::string start = "> start " + folder + "\nok\n";
-    const std::string missing =
-        start + "> click form1.Bild\nerror: Ungültiges Bild\n> pages\njob Bild\npage 1\nok\n";
-    EXPECT_EQ(play(missing).transcript, missing);
+    const Conversation head = "start " + folder + "\nclick form1.Bild\n";
+    const Conversation missing = head + "= error: Ungültiges Bild\npages\n= job Bild\n= page 1\n";
+    EXPECT_EQ(play(missing).conversation, missing);
 
     std::ofstream(picture) << "BM";
-    const std::string there =
-        start + "> click form1.Bild\nok\n> pages\njob Bild\npage 1\npicture 1.00 2.00 3.00 4.00 " + picture +
-        "\nok\n";
-    EXPECT_EQ(play(there).transcript, there);
+    const Conversation there =
+        head + "pages\n= job Bild\n= page 1\n= picture 1.00 2.00 3.00 4.00 " + picture + "\n";
+    EXPECT_EQ(play(there).conversation, there);
 }
 
 /// Stands for the PDF surface: the whole document as text, kept when it is ended.
@@ -87,18 +78,13 @@ TEST(ScriptPages, PrintToWritesAllJobsSinceIntoOneFile) {
     const PdfFactory pdf = [&files](const std::string& path, const std::string& title) {
         return std::make_unique<PdfStand>(path + " " + title + ":", files);
     };
-    play("> start d\n> click form1.Drucken\n> printto a b.pdf\n> click form1.Drucken\n> click form1.Modal\n"
-         "> click Form_Notiz.Drucken\n> printto c.pdf\n> click Form_Notiz.Drucken\n",
+    play("start d\nclick form1.Drucken\nprintto a b.pdf\nclick form1.Drucken\nclick form1.Modal\n"
+         "click Form_Notiz.Drucken\nprintto c.pdf\nclick Form_Notiz.Drucken\n",
          pdf);
     const std::vector<std::string> expected{
         "a b.pdf Blatt\t1:[Nr. 1]/-", "a b.pdf Blatt\t1:[Nr. 1]/-/[Nr. 2]/-",
         "a b.pdf Blatt\t1:[Nr. 1]/-/[Nr. 2]/-/[Nr. 1]/-", "c.pdf Notiz:[Nr. 1]/-"};
     EXPECT_EQ(files, expected);
-}
-
-TEST(ScriptPages, WithoutPdfSurfacePrintToIsRefused) {
-    const char* const expected = "> printto x.pdf\nerror: Es gibt keine Ausgabe in PDF-Dateien\n";
-    EXPECT_EQ(play(expected).transcript, expected);
 }
 
 TEST(ScriptPages, PreviewIsRecordedButNotPrinted) {

@@ -2,6 +2,7 @@
 # Plays a script in a fresh folder and compares its answers with those that stand in it.
 #   click form1.m_neu     a command for the script runner; @ORDNER@ stands for the folder
 #   #$ qk8 a.qk8          a command for the shell, in the folder; lesen and qk8 (below) print files
+#   #? form1 A B L*       the values of these controls of the form and the items of a list, in one line of answer
 #   #= 0,00               what the command above it answers, the closing "ok" left out
 # With NEU=1 in the environment the answers are written into the script instead of compared.
 set -u
@@ -33,16 +34,40 @@ answer() {
     echo "<the runner has ended>"
 }
 
+send() {
+    printf '%s\n' "${1//@ORDNER@/$folder}" >&"${RUNNER[1]}"
+    answer
+}
+
+# The values of controls, parted by " | ".
+values() {
+    local form=$1 control value row=
+    shift
+    for control; do
+        case $control in
+        *'*') send "items $form.${control%'*'}" >"$work/value" ;;
+        *) send "get $form.$control" >"$work/value" ;;
+        esac
+        value=$(paste -sd'|' "$work/value")
+        row+="${row:+ | }$value"
+    done
+    printf '%s\n' "$row"
+}
+
 play() {
     local line
+    local -a names
     while IFS= read -r line; do
         case $line in
         '#='*) continue ;;
         '#$'*) (cd "$folder" && bash -c "${line#'#$'}" 2>&1) >"$work/answer" ;;
+        '#?'*)
+            read -ra names <<<"${line#'#?'}"
+            values "${names[@]}" >"$work/answer"
+            ;;
         '' | '#'*) : >"$work/answer" ;;
         *)
-            printf '%s\n' "${line//@ORDNER@/$folder}" >&"${RUNNER[1]}"
-            answer >"$work/answer"
+            send "$line" >"$work/answer"
             if [ "$line" = pages ]; then
                 awk -f "$here/seiten.awk" "$work/answer" >"$work/pages"
                 mv "$work/pages" "$work/answer"
@@ -66,6 +91,10 @@ if [ "${NEU:-0}" = 1 ]; then
     exit 0
 fi
 failed=0
+if [ -e "${script%.qks}.txt" ]; then
+    echo "${script%.qks}.txt: answers stand in the script itself (NEU=1 $0 $1 $2)"
+    failed=1
+fi
 diff -u "$script" "$work/played" || failed=1
 if grep -v XDG_RUNTIME_DIR "$work/errors"; then
     echo "is unexpected error output"
