@@ -7,10 +7,14 @@
 #include "platform/laufzeitfehler.hpp"
 #include "platform/text.hpp"
 
+#include <algorithm>
+#include <string_view>
+
 namespace quittika {
 
 namespace {
 
+constexpr std::string_view kEndung = ".QK8";
 constexpr const char* kLieferdatum = "LIEFERDATUM: ";
 
 } // namespace
@@ -37,6 +41,21 @@ void Hauptfenster::Form_QueryUnload(bool& abbrechen) {
 void Hauptfenster::TitelZeigen() {
     t_.form1.Caption = FENSTERTITEL(t_.zustand);
     t_.form1.Modified = t_.zustand.geaendert();
+}
+
+void Hauptfenster::Form_FilesDropped(const std::vector<std::string>& pfade) {
+    const auto rechnung = std::find_if(pfade.begin(), pfade.end(), [](const std::string& pfad) {
+        return grossbuchstaben(rechts(pfad, kEndung.size())) == kEndung;
+    });
+    StatusPanel& hinweis = t_.form1.StatusBar1[3];
+    if (rechnung == pfade.end()) {
+        hinweis.Caption = "Auf das Fenster lassen sich nur Rechnungsdateien (*.qk8) ziehen.";
+        return;
+    }
+    const bool gelesen = t_.dateibefehle.Oeffnen(*rechnung);
+    if (gelesen && pfade.size() > 1 && hinweis.Caption().empty()) {
+        hinweis.Caption = "Nur eine Rechnung auf einmal: Die übrigen Dateien wurden nicht geöffnet.";
+    }
 }
 
 void Hauptfenster::m_beenden_Click() {

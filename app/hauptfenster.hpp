@@ -46,6 +46,7 @@ private:
 
     void Form_QueryUnload(bool& abbrechen);
     void TitelZeigen();
+    void Form_FilesDropped(const std::vector<std::string>& pfade);
     void m_beenden_Click();
     void ueber_QUITTIKA_Click();
     void m_Schlagwortsuche_Click();

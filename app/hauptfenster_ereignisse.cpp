@@ -28,6 +28,7 @@ void Hauptfenster::FensterVerdrahten() {
     f.Load = [this] { t_.ladefolge.Form_Load(); };
     f.QueryUnload = [this](bool& abbrechen) { Form_QueryUnload(abbrechen); };
     f.Unload = [this] { t_.platform.desktop.end(); };
+    f.FilesDropped = [this](const std::vector<std::string>& pfade) { Form_FilesDropped(pfade); };
     t_.zustand.Gewechselt = [this] { TitelZeigen(); };
     f.Timer_blink.Tick = [this] { t_.erinnerung.Timer_blink_Timer(); };
     f.Timer_chronjob.Tick = [this] { t_.erinnerung.Timer_chronjob_Timer(); };

@@ -133,12 +133,18 @@ void Dateibefehle::SpeicherfehlerMelden() {
 }
 
 void Dateibefehle::m_oeffnen_Click() {
+    Oeffnen("");
+}
+
+bool Dateibefehle::Oeffnen(const std::string& pfad) {
     if (zustand_.geaendert() && !VorherSpeichern(Buttons::YesNo)) {
-        return;
+        return false;
     }
-    if (oeffneRN("")) {
+    const bool gelesen = oeffneRN(pfad);
+    if (gelesen) {
         summen_.jetztberechnen_List();
     }
+    return gelesen;
 }
 
 bool Dateibefehle::oeffneRN(const std::string& pfad) {

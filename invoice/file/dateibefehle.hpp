@@ -26,6 +26,9 @@ public:
     /// Saves to the current path if it is this invoice's own, else under a name that the user chooses.
     void m_speichern_kurz_Click();
     void m_oeffnen_Click();
+    /// Opens `pfad`, or the file that the user chooses when it is empty, after asking whether to save.
+    /// Answers whether anything was read.
+    bool Oeffnen(const std::string& pfad);
     /// Opens `pfad`, or the file that the user chooses when it is empty. Answers whether anything was read.
     bool oeffneRN(const std::string& pfad);
     /// Opens recent file `n`, 1 to 3, without asking.

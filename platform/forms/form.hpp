@@ -64,6 +64,7 @@ public:
     std::function<void(bool& cancel)> QueryUnload;
     std::function<void()> Unload;
     std::function<void()> Resize;
+    std::function<void(const std::vector<std::string>& paths)> FilesDropped; ///< in the system's form, UTF-8
 
 protected:
     void changed(PropertyId id) override;

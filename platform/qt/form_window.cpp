@@ -3,6 +3,7 @@
 #include "platform/forms/controls.hpp"
 #include "platform/qt/binding.hpp"
 #include "platform/qt/colors.hpp"
+#include "platform/qt/file_drop.hpp"
 #include "platform/qt/guard.hpp"
 #include "platform/qt/qt_desktop.hpp"
 #include "platform/qt/qt_text.hpp"
@@ -11,6 +12,7 @@
 #include "platform/qt/widget_view.hpp"
 #include "platform/qt/window_table.hpp"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QDialog>
 #include <QEventLoop>
@@ -18,6 +20,7 @@
 #include <QKeyEvent>
 #include <QMainWindow>
 #include <QScreen>
+#include <QWindow>
 
 namespace quittika {
 
@@ -212,11 +215,27 @@ void FormWindow::show(Modality modality) {
                           window_->rect().center());
         }
         window_->show();
+        listen_for_files();
     }
     raise();
     if (modal && waiting_ == nullptr) {
         wait();
     }
+}
+
+void FormWindow::listen_for_files() {
+    QWindow* shown = window_->windowHandle();
+    if (!form_.FilesDropped || (file_drop_ != nullptr && file_drop_->window() == shown)) {
+        return;
+    }
+    const auto is_ready = [this] {
+        const QWidget* modal = QApplication::activeModalWidget();
+        return window_->isEnabled() && (modal == nullptr || modal == window_);
+    };
+    file_drop_ = std::make_unique<FileDrop>(*shown, is_ready, [this](const FileDrop::Paths& paths) {
+        raise();
+        guarded([&] { form_.FilesDropped(paths); });
+    });
 }
 
 void FormWindow::wait() {

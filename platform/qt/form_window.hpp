@@ -7,6 +7,7 @@
 #include <QObject>
 #include <QPointer>
 
+#include <memory>
 #include <vector>
 
 class QEventLoop;
@@ -14,6 +15,7 @@ class QWidget;
 
 namespace quittika {
 
+class FileDrop;
 class QtDesktop;
 class TimerView;
 
@@ -48,6 +50,7 @@ private:
     void push_state();
     void bring_in_front_of(QWidget* parent, bool modal);
     void wait();
+    void listen_for_files();
     bool asked_to_close();
     /// Closes any window but the main one and the splash. Returns whether it is such a window.
     bool escape();
@@ -59,6 +62,7 @@ private:
     WidgetColors colors_;
     QPointer<QWidget> window_;       ///< a parent window may take it along
     std::vector<TimerView*> timers_; ///< owned by their controls
+    std::unique_ptr<FileDrop> file_drop_;
     QEventLoop* waiting_ = nullptr;
     Control* first_focus_ = nullptr; ///< asked for before the window was there
     bool built_ = false;

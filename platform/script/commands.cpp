@@ -171,7 +171,11 @@ void Commands::mouse(std::string_view arguments) {
 
 void Commands::drop(std::string_view arguments) {
     const auto [name, text] = protocol::part(arguments);
-    user_.drop(control(name), protocol::decode(text));
+    if (Form* const form = platform_.desktop.find(name)) {
+        user_.drop(*form, protocol::decode(text));
+    } else {
+        user_.drop(control(name), protocol::decode(text));
+    }
 }
 
 void Commands::close(std::string_view arguments) {

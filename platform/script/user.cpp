@@ -151,4 +151,12 @@ void User::drop(Control& control, const std::string& text) {
     control.OLEDragDrop(text);
 }
 
+void User::drop(Form& form, const std::string& files) {
+    lookup::require_reachable(desktop_, form);
+    if (!form.FilesDropped) {
+        throw CommandError(form.name() + " nimmt nichts an");
+    }
+    form.FilesDropped(user_values::paths(files));
+}
+
 } // namespace quittika

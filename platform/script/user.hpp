@@ -24,6 +24,8 @@ public:
     void key(Control& control, int code);
     void mouse(Control& control, const std::string& action, const MouseEvent& event);
     void drop(Control& control, const std::string& text);
+    /// Drops files on a window: a path or a file URL a line.
+    void drop(Form& form, const std::string& files);
 
 private:
     void require_reachable(const Control& control) const;

@@ -7,6 +7,8 @@
 #include <algorithm>
 #include <filesystem>
 #include <limits>
+#include <sstream>
+#include <string_view>
 #include <system_error>
 
 namespace quittika::user_values {
@@ -91,7 +93,45 @@ template <class List> Deed set_path(List& list, const std::string& value) {
     return [&list, value] { list.Path = value; };
 }
 
+/// Value of a hexadecimal digit, -1 for anything else.
+int digit(char c) {
+    constexpr std::string_view kDigits = "0123456789ABCDEFabcdef";
+    const std::size_t place = kDigits.find(c);
+    return place == std::string_view::npos ? -1 : static_cast<int>(place < 16 ? place : place - 6);
+}
+
+/// "file:///a%20b" and "file://machine/a%20b" to "/a b"; anything else is a path already.
+std::string path_of(std::string_view text) {
+    constexpr std::string_view kScheme = "file://";
+    if (text.substr(0, kScheme.size()) != kScheme) {
+        return std::string(text);
+    }
+    text.remove_prefix(std::min(text.find('/', kScheme.size()), text.size()));
+    std::string path;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const bool escape =
+            text[i] == '%' && i + 2 < text.size() && digit(text[i + 1]) >= 0 && digit(text[i + 2]) >= 0;
+        path += escape ? static_cast<char>(digit(text[i + 1]) * 16 + digit(text[i + 2])) : text[i];
+        i += escape ? 2 : 0;
+    }
+    return path;
+}
+
 } // namespace
+
+std::vector<std::string> paths(const std::string& lines) {
+    std::vector<std::string> found;
+    std::istringstream in(lines);
+    for (std::string line; std::getline(in, line);) {
+        if (!line.empty() && line.back() == '\r') {
+            line.pop_back();
+        }
+        if (!line.empty()) {
+            found.push_back(path_of(line));
+        }
+    }
+    return found;
+}
 
 std::function<void()> setter(Control& control, const std::string& value) {
     if (auto* const text = dynamic_cast<TextBox*>(&control)) {

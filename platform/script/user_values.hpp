@@ -4,6 +4,7 @@
 
 #include <functional>
 #include <string>
+#include <vector>
 
 namespace quittika {
 
@@ -15,6 +16,9 @@ std::function<void()> setter(Control& control, const std::string& value);
 
 /// The deed that puts one character behind the text. Throws `CommandError` where nobody can type.
 std::function<void(const std::string& character)> typist(Control& control);
+
+/// Paths of dropped files, of which each line names one: a path, or a file URL.
+std::vector<std::string> paths(const std::string& lines);
 
 } // namespace user_values
 

@@ -8,10 +8,13 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QDropEvent>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QMimeData>
 #include <QTest>
 #include <QTimer>
+#include <QUrl>
 #include <QWindow>
 
 namespace quittika::test {
@@ -129,6 +132,36 @@ TEST_F(DesktopTest, TitleMarksUnsavedChanges) {
     EXPECT_EQ(window.title(), "a [*] b[*].qk8 - Quittika 2008");
     form1.Modified = true;
     EXPECT_EQ(window.title(), "a [*] b[*].qk8* - Quittika 2008");
+}
+
+TEST_F(DesktopTest, FilesFallOnTheWindowAndTextOnTheField) {
+    std::string dropped;
+    form1.FilesDropped = [&](const std::vector<std::string>& paths) { dropped += paths.at(0) + "|"; };
+    form1.Text_Kunde_1.OLEDragDrop = [&](const std::string& text) { form1.Text_Kunde_1.Text = text; };
+    form1.Show();
+    QWidget& window = *desktop.window(form1);
+    const auto drop_on_field = [&](const QMimeData& data, Qt::DropActions actions) {
+        const QWidget& field = *window.findChild<QWidget*>("Text_Kunde_1");
+        const QPoint place = field.mapTo(&window, field.rect().center());
+        QDragEnterEvent enter(place, actions, &data, Qt::LeftButton, {});
+        QCoreApplication::sendEvent(window.windowHandle(), &enter);
+        QDropEvent drop(place, actions, &data, Qt::LeftButton, {});
+        QCoreApplication::sendEvent(window.windowHandle(), &drop);
+        QCoreApplication::sendPostedEvents();
+        return drop.isAccepted() ? drop.dropAction() : Qt::IgnoreAction;
+    };
+    QMimeData files;
+    files.setUrls({QUrl("file:///tmp/%C3%96l%20a.qk8")});
+    files.setText("file:///tmp/%C3%96l%20a.qk8");
+    EXPECT_EQ(drop_on_field(files, Qt::MoveAction | Qt::CopyAction), Qt::CopyAction);
+    EXPECT_EQ(dropped, "/tmp/Öl a.qk8|");
+    EXPECT_EQ(drop_on_field(files, Qt::MoveAction), Qt::IgnoreAction) << "the file would be gone";
+    EXPECT_EQ(form1.Text_Kunde_1.Text(), "Name, Vorname");
+    QMimeData text;
+    text.setText("file:///tmp/a.qk8");
+    EXPECT_EQ(drop_on_field(text, Qt::CopyAction), Qt::CopyAction);
+    EXPECT_EQ(form1.Text_Kunde_1.Text(), "file:///tmp/a.qk8");
+    EXPECT_EQ(dropped, "/tmp/Öl a.qk8|");
 }
 
 TEST_F(DesktopTest, TimersTickOnlyWhileTheirFormIsLoaded) {
