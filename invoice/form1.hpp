@@ -1,5 +1,6 @@
 #pragma once
 
+#include "invoice/hinweiszeile.hpp"
 #include "platform/forms/controls.hpp"
 
 namespace quittika {
@@ -219,6 +220,7 @@ struct Form1 : Form {
 
     Label Label_Pfad{*this, "Label_Pfad"}; ///< path of the file in hand
     ControlArray<StatusPanel, 3, 1> StatusBar1{*this, "StatusBar1"};
+    Hinweiszeile Hinweise{StatusBar1[3]};
     Timer Timer_blink{*this, "Timer_blink", 1000};
     Timer Timer_chronjob{*this, "Timer_chronjob", 1000};
 

@@ -35,6 +35,18 @@ TextBox::TextBox(Container& container, ArrayIndex place, std::string text)
     BackColor.adopt(color::kWindow);
 }
 
+void CommandButton::changed(PropertyId id) {
+    if (id == PropertyId::Default && Default()) {
+        for (Control* control : form().controls()) {
+            auto* other = dynamic_cast<CommandButton*>(control);
+            if (other != nullptr && other != this) {
+                other->Default = false;
+            }
+        }
+    }
+    Control::changed(id);
+}
+
 void TextBox::select_all() {
     SelStart.adopt(0);
     SelLength.adopt(static_cast<int>(zeichenzahl(Text())));

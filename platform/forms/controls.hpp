@@ -17,6 +17,13 @@ class CommandButton final : public Control {
 public:
     using Control::Control;
     std::string_view kind() const override { return "CommandButton"; }
+
+    /// Marks the button that the Return key means, at most one on a form. The mark is only shown: the key
+    /// itself comes to the `KeyDown` of the control that has the focus.
+    Property<bool> Default{*this, PropertyId::Default, false};
+
+protected:
+    void changed(PropertyId id) override;
 };
 
 /// A frame groups the controls that name it as their container.

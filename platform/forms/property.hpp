@@ -51,6 +51,7 @@ enum class PropertyId : std::uint8_t {
     SelLength,
     Locked,
     Modified,
+    Default,
 };
 
 /// Spelling of a property as scripts write it ("BackColor").
