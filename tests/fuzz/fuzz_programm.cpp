@@ -1,0 +1,255 @@
+// The whole program under a user without a plan: fuzz_programm <seed> <seconds>
+// Without a fault it says how much it did and returns 0. A fault is printed as the shortest script found that
+// still shows it, which tests/skripte/pruefen.sh and (but for its "#$" lines) quittika-skript replay.
+#include "app/programm.hpp"
+#include "platform/script/runner.hpp"
+#include "platform/text.hpp"
+#include "tests/fuzz/pruefung.hpp"
+#include "tests/fuzz/zufallsnutzer.hpp"
+#include "tests/pruefstand.hpp"
+
+#include <chrono>
+#include <cstdlib>
+#include <iostream>
+#include <sstream>
+
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace quittika::fuzz {
+namespace {
+
+using Zeilen = std::vector<std::string>;
+
+constexpr int kZeilenProLauf = 250;
+constexpr unsigned kHoechstdauer = 60; ///< seconds for one line; beyond it the program hangs
+
+class FesteBreite final : public FontMetrics {
+public:
+    double text_width(const PrintFont&, std::string_view text) const override {
+        return 2.0 * static_cast<double>(text.size());
+    }
+    double line_height(const PrintFont&) const override { return 4; }
+};
+
+/// The runner refuses what a user could not do either; everything else has left a handler of the program.
+bool nur_abgelehnt(const std::string& antwort) {
+    static constexpr const char* kAblehnungen[] = {
+        "ist abgeschaltet",       "ist nicht sichtbar", "ist schreibgeschützt",  "nimmt keine Eingabe an",
+        "nimmt keinen Wert an",   "nimmt nichts an",    "hat keinen Eintrag",    "hat keine Einträge",
+        "error: Vor dem Fenster", "ist nicht offen",    "Es läuft kein Programm"};
+    return std::any_of(std::begin(kAblehnungen), std::end(kAblehnungen), [&antwort](const char* ablehnung) {
+        return antwort.find(ablehnung) != std::string::npos;
+    });
+}
+
+/// Hands the runner one line after the other and looks at the program in between.
+class Eingabe : public std::streambuf {
+public:
+    /// Called before each line that is asked for; false ends the input.
+    std::function<bool(std::string& zeile)> naechste;
+
+protected:
+    int_type underflow() override {
+        zeile_.clear();
+        if (!naechste(zeile_)) {
+            return traits_type::eof();
+        }
+        zeile_ += '\n';
+        setg(zeile_.data(), zeile_.data(), zeile_.data() + zeile_.size());
+        return traits_type::to_int_type(zeile_.front());
+    }
+
+private:
+    std::string zeile_;
+};
+
+/// A program on the scripted platform, driven from outside.
+struct Lauf {
+    Eingabe eingabe;
+    std::istream ein{&eingabe};
+    std::ostringstream aus;
+    FesteBreite schrift;
+    Runner runner{{[](Platform platform, const std::string& ordner) {
+                       auto programm = std::make_shared<Programm>(platform, ordner);
+                       programm->starten();
+                       return programm;
+                   },
+                   schrift},
+                  ein,
+                  aus};
+
+    Form1* form1() { return dynamic_cast<Form1*>(runner.platform().desktop.find("form1")); }
+};
+
+/// What the file of the invoice in hand holds, read by a program of its own, against that invoice.
+std::string Lesebefund(Form1& f, const std::string& ordner) {
+    const std::string pfad = f.Label_Pfad.Caption();
+    Zeilen zeilen{"click form1.m_oeffnen", "file " + pfad, "start " + ordner + "/leser 2008-03-05T10:20:30"};
+    std::string befund;
+    Lauf leser;
+    leser.eingabe.naechste = [&](std::string& zeile) {
+        if (zeilen.empty()) {
+            Form1* const gelesen = leser.form1();
+            befund = gelesen == nullptr ? "kein Fenster" : Unterschied(f, *gelesen);
+            return false;
+        }
+        zeile = zeilen.back();
+        zeilen.pop_back();
+        return true;
+    };
+    std::filesystem::create_directory(ordner + "/leser");
+    leser.runner.run();
+    return befund.empty() ? "" : "Die Datei " + pfad + " ist eine andere Rechnung: " + befund;
+}
+
+bool eben_gespeichert(const std::string& zeile, const Form1& f) {
+    return beginnt_mit(zeile, "click form1.m_speichern") && !f.Modified() &&
+           !f.Label_Pfad.Caption().empty() &&
+           f.StatusBar1[2].Caption().find("ABGESCHLOSSEN") != std::string::npos;
+}
+
+/// One run of the program. `weiter` adds the lines that come next, or none to end it.
+class Probe {
+public:
+    explicit Probe(std::ostream* protokoll) : protokoll_(protokoll) {
+        lauf_.eingabe.naechste = [this](std::string& zeile) { return naechste(zeile); };
+    }
+
+    /// The first thing that was wrong, or nothing.
+    std::string laufen(std::function<Zeilen(const ScriptDesktop&)> weiter) {
+        weiter_ = std::move(weiter);
+        lauf_.runner.run();
+        return befund_;
+    }
+    const Zeilen& gespielt() const { return gespielt_; }
+
+private:
+    bool naechste(std::string& zeile) {
+        befund_ = pruefen();
+        if (!befund_.empty()) {
+            return false;
+        }
+        if (offen_ == vorrat_.size()) {
+            offen_ = 0;
+            vorrat_ = weiter_(lauf_.runner.platform().desktop);
+            if (vorrat_.empty()) {
+                return false;
+            }
+        }
+        gespielt_.push_back(vorrat_[offen_++]);
+        if (protokoll_ != nullptr) {
+            *protokoll_ << gespielt_.back() << std::endl;
+        }
+        if (beginnt_mit(gespielt_.back(), "#$")) {
+            const std::string befehl = "cd '" + ordner_.ordner() + "' && " + gespielt_.back().substr(2);
+            static_cast<void>(!std::system((befehl + " 2>/dev/null").c_str())); // may fail like a user's
+        }
+        zeile = ersetzen(gespielt_.back(), "@ORDNER@", ordner_.ordner());
+        alarm(kHoechstdauer);
+        return true;
+    }
+
+    std::string pruefen() {
+        const std::string antwort = lauf_.aus.str();
+        lauf_.aus.str("");
+        if (antwort.find("error: ") != std::string::npos && !nur_abgelehnt(antwort)) {
+            return antwort;
+        }
+        Form1* const f = lauf_.form1();
+        if (f == nullptr || !f->shown()) {
+            return "";
+        }
+        const std::string befund = Fensterbefund(*f);
+        return befund.empty() && eben_gespeichert(gespielt_.back(), *f) ? Lesebefund(*f, ordner_.ordner())
+                                                                        : befund;
+    }
+
+    Probenordner ordner_;
+    std::ostream* protokoll_;
+    Lauf lauf_;
+    std::function<Zeilen(const ScriptDesktop&)> weiter_;
+    Zeilen vorrat_;
+    std::size_t offen_ = 0;
+    Zeilen gespielt_;
+    std::string befund_;
+};
+
+std::string nachspielen(Zeilen zeilen) {
+    Probe probe(nullptr);
+    return probe.laufen([&zeilen](const ScriptDesktop&) { return std::exchange(zeilen, {}); });
+}
+
+/// Leaves out all lines that the fault does not need, larger pieces first.
+Zeilen gekuerzt(Zeilen zeilen) {
+    for (std::size_t laenge = zeilen.size() / 2; laenge > 0; laenge /= 2) {
+        for (std::size_t ab = 1; ab + laenge <= zeilen.size();) {
+            Zeilen kuerzer(zeilen.begin(), zeilen.begin() + static_cast<std::ptrdiff_t>(ab));
+            kuerzer.insert(kuerzer.end(), zeilen.begin() + static_cast<std::ptrdiff_t>(ab + laenge),
+                           zeilen.end());
+            if (nachspielen(kuerzer).empty()) {
+                ab += laenge;
+            } else {
+                zeilen = std::move(kuerzer);
+            }
+        }
+    }
+    return zeilen;
+}
+
+int spielen(unsigned saat, int sekunden, const std::string& protokollpfad) {
+    using Uhr = std::chrono::steady_clock;
+    const auto ende = Uhr::now() + std::chrono::seconds(sekunden);
+    std::size_t laeufe = 0;
+    std::size_t zeilen = 0;
+    for (; Uhr::now() < ende; ++laeufe, ++saat) {
+        std::ofstream protokoll(protokollpfad);
+        Zufallsnutzer nutzer(saat);
+        Probe probe(&protokoll);
+        const std::string befund = probe.laufen([&](const ScriptDesktop& desktop) {
+            return probe.gespielt().size() < kZeilenProLauf ? nutzer.naechste_zeilen(desktop) : Zeilen{};
+        });
+        zeilen += probe.gespielt().size();
+        if (!befund.empty()) {
+            const Zeilen kurz = gekuerzt(probe.gespielt());
+            std::cout << "# Saat " << saat << ": " << nachspielen(kurz) << "\n";
+            for (const std::string& zeile : kurz) {
+                std::cout << zeile << "\n";
+            }
+            return 1;
+        }
+    }
+    std::cout << "fuzz_programm: " << zeilen << " lines in " << laeufe << " runs without a fault\n";
+    return 0;
+}
+
+/// A run that dies or hangs leaves its lines behind.
+int ueberwacht(unsigned saat, int sekunden) {
+    const Probenordner ordner;
+    const std::string protokoll = ordner.pfad("lauf.qks");
+    const pid_t kind = fork();
+    if (kind == 0) {
+        const int ergebnis = spielen(saat, sekunden, protokoll);
+        std::cout.flush();
+        _exit(ergebnis);
+    }
+    int status = 0;
+    waitpid(kind, &status, 0);
+    if (WIFEXITED(status) && WEXITSTATUS(status) <= 1) {
+        return WEXITSTATUS(status);
+    }
+    std::cout << "# The program died (" << (WIFSIGNALED(status) ? WTERMSIG(status) : 0) << ") of:\n"
+              << ordner.lesen("lauf.qks");
+    return 2;
+}
+
+} // namespace
+} // namespace quittika::fuzz
+
+int main(int argc, char** argv) {
+    if (argc != 3) {
+        std::cerr << "fuzz_programm <seed> <seconds>\n";
+        return 2;
+    }
+    return quittika::fuzz::ueberwacht(static_cast<unsigned>(std::atoi(argv[1])), std::atoi(argv[2]));
+}
