@@ -25,10 +25,11 @@ std::string einzeilig(std::string text) {
     return text;
 }
 
-/// A field that begins like a position would be read as one: a blank in front keeps it a field.
+/// A field that begins like a position or reads like the mark of an unset one would be taken for that: a blank in
+/// front keeps it a field.
 std::string feldzeile(std::string text) {
     text = einzeilig(std::move(text));
-    return beginnt_mit(text, kListenmarke) ? " " + text : text;
+    return beginnt_mit(text, kListenmarke) || text == kNichtGesetzt ? " " + text : text;
 }
 
 std::string numerisch_oder_null(const std::string& text) {

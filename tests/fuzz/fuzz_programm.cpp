@@ -22,6 +22,7 @@ namespace {
 using Zeilen = std::vector<std::string>;
 
 constexpr int kZeilenProLauf = 250;
+constexpr std::size_t kArt = 9;        ///< findings that begin alike are of one kind
 constexpr unsigned kHoechstdauer = 60; ///< seconds for one line; beyond it the program hangs
 
 class FesteBreite final : public FontMetrics {
@@ -35,9 +36,9 @@ public:
 /// The runner refuses what a user could not do either; everything else has left a handler of the program.
 bool nur_abgelehnt(const std::string& antwort) {
     static constexpr const char* kAblehnungen[] = {
-        "ist abgeschaltet",       "ist nicht sichtbar", "ist schreibgeschützt",  "nimmt keine Eingabe an",
-        "nimmt keinen Wert an",   "nimmt nichts an",    "hat keinen Eintrag",    "hat keine Einträge",
-        "error: Vor dem Fenster", "ist nicht offen",    "Es läuft kein Programm"};
+        "ist abgeschaltet",       "ist nicht sichtbar", "ist schreibgeschützt", "nimmt keine Eingabe an",
+        "nimmt keinen Wert an",   "nimmt nichts an",    "hat keinen Eintrag",   "hat keine Einträge",
+        "error: Vor dem Fenster", "Es gibt kein",       "ist nicht offen",      "Es läuft kein Programm"};
     return std::any_of(std::begin(kAblehnungen), std::end(kAblehnungen), [&antwort](const char* ablehnung) {
         return antwort.find(ablehnung) != std::string::npos;
     });
@@ -180,19 +181,21 @@ std::string nachspielen(Zeilen zeilen) {
     return probe.laufen([&zeilen](const ScriptDesktop&) { return std::exchange(zeilen, {}); });
 }
 
-/// Leaves out all lines that the fault does not need, larger pieces first.
-Zeilen gekuerzt(Zeilen zeilen) {
-    for (std::size_t laenge = zeilen.size() / 2; laenge > 0; laenge /= 2) {
+/// Leaves out what the fault does not need, larger pieces first, until no single line can go.
+Zeilen gekuerzt(Zeilen zeilen, const std::string& befund) {
+    for (std::size_t laenge = zeilen.size() / 2; laenge > 0;) {
+        const std::size_t vorher = zeilen.size();
         for (std::size_t ab = 1; ab + laenge <= zeilen.size();) {
-            Zeilen kuerzer(zeilen.begin(), zeilen.begin() + static_cast<std::ptrdiff_t>(ab));
-            kuerzer.insert(kuerzer.end(), zeilen.begin() + static_cast<std::ptrdiff_t>(ab + laenge),
-                           zeilen.end());
-            if (nachspielen(kuerzer).empty()) {
+            Zeilen kuerzer = zeilen;
+            const auto von = kuerzer.begin() + static_cast<std::ptrdiff_t>(ab);
+            kuerzer.erase(von, von + static_cast<std::ptrdiff_t>(laenge));
+            if (nachspielen(kuerzer).substr(0, kArt) != befund.substr(0, kArt)) {
                 ab += laenge;
             } else {
                 zeilen = std::move(kuerzer);
             }
         }
+        laenge = laenge > 1 ? laenge / 2 : zeilen.size() < vorher ? 1 : 0;
     }
     return zeilen;
 }
@@ -211,7 +214,7 @@ int spielen(unsigned saat, int sekunden, const std::string& protokollpfad) {
         });
         zeilen += probe.gespielt().size();
         if (!befund.empty()) {
-            const Zeilen kurz = gekuerzt(probe.gespielt());
+            const Zeilen kurz = gekuerzt(probe.gespielt(), befund);
             std::cout << "# Saat " << saat << ": " << nachspielen(kurz) << "\n";
             for (const std::string& zeile : kurz) {
                 std::cout << zeile << "\n";

@@ -10,10 +10,25 @@ namespace quittika::fuzz {
 
 namespace {
 
-/// Numbers are shown as people write them: digits, a sign, a comma, blanks.
+bool ziffer(const std::string& text, std::size_t stelle) {
+    return stelle < text.size() && text[stelle] >= '0' && text[stelle] <= '9';
+}
+
+/// "1E+15", "nan", "inf": numbers as no person writes them. What a damaged file holds instead of a number may
+/// stand.
+bool unlesbar(const std::string& text) {
+    for (std::size_t e = text.find_first_of("eE"); e != std::string::npos;
+         e = text.find_first_of("eE", e + 1)) {
+        const bool vorzeichen = e + 1 < text.size() && (text[e + 1] == '+' || text[e + 1] == '-');
+        if (e > 0 && ziffer(text, e - 1) && ziffer(text, e + (vorzeichen ? 2 : 1))) {
+            return true;
+        }
+    }
+    return text.find("nan") != std::string::npos || text.find("inf") != std::string::npos;
+}
+
 std::string Zahlbefund(const std::string& name, const std::string& text) {
-    return text.find_first_not_of("0123456789,- ") == std::string::npos ? ""
-                                                                        : name + " zeigt \"" + text + "\"";
+    return unlesbar(text) ? name + " zeigt \"" + text + "\"" : "";
 }
 
 std::string Betragsbefund(Form1& f) {
@@ -59,7 +74,7 @@ std::string Dateitext(std::string text) {
     text = ersetzen(nach_ansi(text).bytes, "\r\n", " ");
     std::replace_if(
         text.begin(), text.end(), [](char c) { return c == '\r' || c == '\n'; }, ' ');
-    return beginnt_mit(text, kListenmarke) ? " " + text : text;
+    return beginnt_mit(text, kListenmarke) || text == kNichtGesetzt ? " " + text : text;
 }
 
 } // namespace
