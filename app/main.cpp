@@ -19,6 +19,7 @@ int main(int argc, char** argv) {
         "quittika2008";
     const std::filesystem::path ordner =
         PROGRAMMORDNER(std::filesystem::path(QtApplication::program_directory()) / "quittika", daten);
+    plattform.desktop().remember_places((ordner / "fenster.cfg").string());
     Programm programm(plattform.platform(), ordner.string());
     return plattform.desktop().run([&programm] { programm.starten(); });
 }

@@ -250,8 +250,15 @@ void FormWindow::wait() {
     }
 }
 
+void FormWindow::note_place() {
+    if (window_ != nullptr && window_->isVisible() && !is_splash(*window_)) {
+        desktop_.note_place(form_, window_ != desktop_.main_window()); // that one is centred
+    }
+}
+
 void FormWindow::hide() {
     if (window_ != nullptr) {
+        note_place();
         window_->hide();
     }
     update_timers();

@@ -38,6 +38,8 @@ public:
     void hide();
     void raise();
     void focus(Control& control);
+    /// Tells the desktop where the window stands, if it is open.
+    void note_place();
     /// Starts and stops the form's timers as they should run.
     void update_timers();
 

@@ -33,10 +33,40 @@ FormWindow* QtDesktop::find(const Form& form) const {
 
 void QtDesktop::adopt(Form& form) {
     if (find(form) == nullptr) {
+        restore_place(form);
         auto window = std::make_unique<FormWindow>(form, *this);
         windows_.push_back(window.get());
         form.attach(*this, std::move(window));
     }
+}
+
+void QtDesktop::restore_place(Form& form) const {
+    const auto wanted = places_ ? places_->find(form.name()) : std::nullopt;
+    if (!wanted) {
+        return;
+    }
+    QList<QRect> screens{QApplication::primaryScreen()->availableGeometry()};
+    for (const QScreen* screen : QApplication::screens()) {
+        screens.append(screen->availableGeometry());
+    }
+    const WindowPlace place = fitted(*wanted, screens);
+    form.Width.adopt(twips(place.size.width()));
+    form.Height.adopt(twips(place.size.height()));
+    if (place.place) {
+        form.Left.adopt(twips(place.place->x()));
+        form.Top.adopt(twips(place.place->y()));
+    }
+}
+
+void QtDesktop::note_place(const Form& form, bool with_place) {
+    if (!places_) {
+        return;
+    }
+    WindowPlace place{QSize(pixels(form.Width()), pixels(form.Height())), std::nullopt};
+    if (with_place) {
+        place.place = QPoint(pixels(form.Left()), pixels(form.Top()));
+    }
+    places_->note(form.name(), place);
 }
 
 void QtDesktop::release(Form& form) {
@@ -92,7 +122,14 @@ void QtDesktop::end() {
 int QtDesktop::run(const std::function<void()>& start) {
     QApplication::setQuitOnLastWindowClosed(false); // a box may be the only window for a while
     guarded(start);
-    return ended_ ? 0 : QCoreApplication::exec();
+    const int result = ended_ ? 0 : QCoreApplication::exec();
+    for (FormWindow* window : windows_) {
+        window->note_place();
+    }
+    if (places_) {
+        places_->save();
+    }
+    return result;
 }
 
 QWidget* QtDesktop::window(Form& form) {

@@ -1,12 +1,15 @@
 #pragma once
 
 #include "platform/desktop.hpp"
+#include "platform/qt/window_places.hpp"
 
 #include <QObject>
 #include <QPointer>
 #include <QWidget>
 
 #include <functional>
+#include <optional>
+#include <string>
 #include <vector>
 
 namespace quittika {
@@ -31,6 +34,9 @@ public:
     void later(std::function<void()> work) override;
     void end() override;
 
+    /// Keeps sizes and places of the windows in this file. To be called before the first form is adopted.
+    void remember_places(std::string path) { places_.emplace(std::move(path)); }
+
     /// Runs `start` and then the event loop until `end`, or until the user has closed the last window.
     int run(const std::function<void()>& start);
 
@@ -45,13 +51,17 @@ public:
     /// Before `window` goes: what belongs to it stays.
     void let_go(QWidget& window);
     void window_closed();
+    /// A window has its form's size, and its place if that counts.
+    void note_place(const Form& form, bool with_place);
 
 private:
     FormWindow* find(const Form& form) const;
+    void restore_place(Form& form) const;
 
     std::vector<FormWindow*> windows_; ///< owned by their forms
-    QPointer<QWidget> main_;           ///< the first main window that was built
-    QObject context_;                  ///< work that is still to be done goes with it
+    std::optional<WindowPlaces> places_;
+    QPointer<QWidget> main_; ///< the first main window that was built
+    QObject context_;        ///< work that is still to be done goes with it
     bool ended_ = false;
 };
 
