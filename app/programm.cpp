@@ -30,10 +30,9 @@ struct Programm::Teile {
     Form_START form_start;
 
     Rechnung rechnung{form1, zustand, platform.clock};
-    Summen summen{
-        form1,          einstellungen,
-        zustand,        platform.dialogs,
-        platform.clock, [this] { return ANZAHL_DRUCKSEITEN(form1.List_Gesamtp.ListCount(), einstellungen); }};
+    Summen summen{form1,          einstellungen,
+                  zustand,        platform.dialogs,
+                  platform.clock, [this] { return ANZAHL_DRUCKSEITEN(form1.List_K.items(), einstellungen); }};
     Positionen positionen{form1, zustand, rechnung, summen, platform.dialogs};
     Rechnungsnummern nummern{form1, einstellungen, zustand, verzeichnis, platform.dialogs};
     ZuletztGeoeffnet zuletzt{form1, werte};

@@ -57,6 +57,7 @@ Form1::Form1()
     for (Menu* m : {&m_R1, &m_R2, &m_R3}) {
         m->Visible.adopt(false);
     }
+    Option_anschreiben.ToolTipText.adopt("Das Anschreiben druckt nur das eigene Layout");
     Command_KD_Add.ToolTipText.adopt("Nimmt den Kunden dieser Rechnung in die Kundenliste auf");
     for (CommandButton* taste : {&Command_printform, &Command_jetztSpeichern}) {
         taste->BackColor.adopt(14737632);

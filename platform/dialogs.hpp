@@ -28,6 +28,12 @@ struct FileDialog {
     std::string title;
 };
 
+struct PrinterDialog {
+    int copies = 1; ///< that stand in the dialog at first
+    /// File name that stands in the dialog at first, for a user who prints into a file.
+    std::string proposed_name;
+};
+
 /// Message boxes and the desktop's common dialogs.
 /// A dialog that the user cancels throws `Laufzeitfehler` 32755.
 class Dialogs {
@@ -45,9 +51,10 @@ public:
     virtual Color choose_color(Color start) = 0;
     /// Name of the font family chosen, beginning with `start`.
     virtual std::string choose_font(const std::string& start) = 0;
-    /// Lets the user choose a printer and returns the number of copies, beginning with `copies`.
-    /// The printer chosen is the one that `Printing::printer` prints on.
-    virtual int choose_printer(int copies) = 0;
+    /// Lets the user choose a printer and returns the number of copies.
+    /// The printer chosen is the one that `Printing::printer` prints on. No file that exists is chosen
+    /// without a question that names it.
+    virtual int choose_printer(const PrinterDialog& dialog) = 0;
 };
 
 } // namespace quittika

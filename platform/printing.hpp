@@ -29,7 +29,12 @@ public:
     virtual double line_height(const PrintFont& font) const = 0;
 };
 
-/// What reaches the paper. All lengths are millimetres from the page's left and top edge.
+/// Place of the origin on the sheet, in millimetres from its left and top edge, on every surface that shows a
+/// sheet: where the printers begin to draw that the print adjustment of the settings was made for.
+inline constexpr double kOriginLeft = 4;
+inline constexpr double kOriginTop = 6;
+
+/// What reaches the paper. All lengths are millimetres from the origin.
 class PrintDevice {
 public:
     PrintDevice() = default;
@@ -44,7 +49,8 @@ public:
     /// Draws a picture file stretched to the box. Throws `Laufzeitfehler` 481 when it cannot be loaded.
     virtual void picture(double left, double top, double width, double height, const std::string& path) = 0;
     virtual void new_page() = 0;
-    /// Ends the document and hands it over. Throws `Laufzeitfehler` 482 when that fails.
+    /// Ends the document and hands it over. Throws `Laufzeitfehler` 482, or that of the file, when that
+    /// fails; it names the reason.
     virtual void end_document() = 0;
 };
 
@@ -57,8 +63,12 @@ public:
     virtual ~Printing() = default;
 
     virtual const FontMetrics& metrics() const = 0;
-    /// Begins a job on the printer chosen last. Throws `Laufzeitfehler` 482 when it takes none.
+    /// Begins a job on the printer chosen last. Throws `Laufzeitfehler` 482 with the reason when it takes
+    /// none.
     virtual std::unique_ptr<PrintDevice> printer(const std::string& job_title) = 0;
+    /// The file that the printer chosen last prints into, each job in place of the one before; empty for
+    /// paper.
+    virtual std::string output_file() const = 0;
 };
 
 } // namespace quittika

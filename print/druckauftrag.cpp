@@ -1,10 +1,11 @@
 #include "print/druckauftrag.hpp"
 
+#include "invoice/belegtexte.hpp"
 #include "platform/laufzeitfehler.hpp"
 #include "platform/print_surface.hpp"
-#include "print/drucktabelle.hpp"
 #include "print/firmenkopf.hpp"
 #include "print/nachsichtiges_geraet.hpp"
+#include "print/pdfname.hpp"
 
 #include <memory>
 #include <utility>
@@ -20,18 +21,33 @@ Druckauftrag::Druckauftrag(Form1& form1, const frm_einstellungen& einstellungen,
       printing_(printing),
       desktop_(desktop),
       jetztberechnen_List_(std::move(jetztberechnen_List)),
-      rechnungsdruck_(form1, einstellungen, programm, lieferschein_opt_) {
-    lieferschein_opt_.CMD_weiter.Click = [this] { lieferschein_opt_.Close(); };
+      rechnungsdruck_(form1, einstellungen, programm) {
+    lieferschein_opt_.CMD_weiter.Click = [this] {
+        lieferschein_weiter_ = true;
+        lieferschein_opt_.Close();
+    };
 }
 
-void Druckauftrag::check_LIEFERSCHEIN_PRINT() {
+Lieferscheinangaben Druckauftrag::check_LIEFERSCHEIN_PRINT() {
     if (!IST_LIEFERSCHEIN(form1_)) {
-        return;
+        return {};
     }
-    if (lieferschein_opt_.desktop() == nullptr) {
-        desktop_.adopt(lieferschein_opt_);
+    Form_Lieferschein_opt& f = lieferschein_opt_;
+    if (f.desktop() == nullptr) {
+        desktop_.adopt(f);
     }
-    lieferschein_opt_.Show(Modality::Modal);
+    const int haken = LAYOUT_GEWAEHLT(einstellungen_) == kEigenesLayout ? 0 : 1;
+    for (CheckBox* angabe : {&f.Check_LIEFERSCH_WERBESPRUCH, &f.Check_LIEFERSCH_BEMERKUNGSTEXT,
+                             &f.Check_LIEFERSCH_ANSCHREIBEN, &f.Check_LIEFERSCH_PREISE}) {
+        angabe->Value = haken;
+    }
+    lieferschein_weiter_ = false;
+    f.Show(Modality::Modal);
+    if (!lieferschein_weiter_) {
+        throw Laufzeitfehler(fehler::kDialogAbgebrochen);
+    }
+    return {f.Check_LIEFERSCH_WERBESPRUCH.ticked(), f.Check_LIEFERSCH_BEMERKUNGSTEXT.ticked(),
+            f.Check_LIEFERSCH_PREISE.ticked()};
 }
 
 std::string Druckauftrag::auftragstitel() const {
@@ -39,39 +55,67 @@ std::string Druckauftrag::auftragstitel() const {
            form1_.Text_RNnr.Text();
 }
 
+void Druckauftrag::melden(const std::string& text) {
+    form1_.StatusBar1[3].Caption = text;
+    gemeldet_ = text;
+}
+
 void Druckauftrag::Command_printform_Click() {
     const Druckjustierung just = JUSTIERUNG_LESEN(einstellungen_);
+    if (form1_.StatusBar1[3].Caption() == gemeldet_) {
+        melden({}); // what the last job reported; a report of somebody else stays
+    }
     status("BERECHNEN...");
     jetztberechnen_List_();
-    check_LIEFERSCHEIN_PRINT();
-    status("BERECHNEN...DRUCKEN...");
     try {
-        drucke(just);
+        const Druckoptionen optionen{check_LIEFERSCHEIN_PRINT()};
+        status("BERECHNEN...DRUCKEN...");
+        drucke(just, optionen);
         status("DRUCKEN...");
     } catch (const Laufzeitfehler& fehler) {
-        status(fehler.nummer() == fehler::kDialogAbgebrochen ? "DRUCKEN ABGEBROCHEN."
-                                                             : "FEHLER BEIM DRUCKEN!");
+        if (fehler.nummer() == fehler::kDialogAbgebrochen) {
+            status("DRUCKEN ABGEBROCHEN.");
+            return;
+        }
+        status("FEHLER BEIM DRUCKEN!");
+        melden(fehler.what());
     }
 }
 
-void Druckauftrag::drucke(Druckjustierung just) {
-    const int exemplare = dialogs_.choose_printer(1);
+void Druckauftrag::drucke(Druckjustierung just, const Druckoptionen& optionen) {
+    const int exemplare = dialogs_.choose_printer({1, PDFNAME_VORSCHLAGEN(form1_, einstellungen_)});
     const std::string titel = auftragstitel();
     form1_.Text1.Text = std::to_string(exemplare);
+    if (LAYOUT_GEWAEHLT(einstellungen_) == 0) {
+        melden("Es ist kein Layout gewählt, deshalb wurde nichts gedruckt.");
+        return;
+    }
+    std::string fehlendes_bild;
     for (int i = 1; i <= exemplare; ++i) {
         status("BERECHNEN...DRUCKEN...BLATT: " + std::to_string(i) + "/" + std::to_string(exemplare));
-        drucke_exemplar(titel, just);
+        fehlendes_bild = drucke_exemplar(titel, just, optionen);
+    }
+    ergebnis_melden(fehlendes_bild);
+}
+
+void Druckauftrag::ergebnis_melden(const std::string& fehlendes_bild) {
+    const std::string datei = printing_.output_file();
+    std::string text = datei.empty() ? std::string() : "Die PDF-Datei liegt hier: " + datei;
+    if (!fehlendes_bild.empty()) {
+        text += (text.empty() ? "" : "   ") + ("Ohne das Bild " + fehlendes_bild + " gedruckt.");
+    }
+    if (!text.empty()) {
+        melden(text);
     }
 }
 
-void Druckauftrag::drucke_exemplar(const std::string& titel, Druckjustierung just) {
-    if (LAYOUT_GEWAEHLT(einstellungen_) == 0) {
-        return;
-    }
+std::string Druckauftrag::drucke_exemplar(const std::string& titel, Druckjustierung just,
+                                          const Druckoptionen& optionen) {
     const std::unique_ptr<PrintDevice> drucker = printing_.printer(titel);
     NachsichtigesGeraet geraet(*drucker);
     PrintSurface surface(geraet, printing_.metrics());
-    rechnungsdruck_.DRUCKE_RECHNUNG(surface, just);
+    rechnungsdruck_.DRUCKE_RECHNUNG(surface, just, optionen);
+    return geraet.fehlendes_bild();
 }
 
 } // namespace quittika

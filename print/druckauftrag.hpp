@@ -24,21 +24,26 @@ public:
                  std::function<void()> jetztberechnen_List);
 
     /// Asks for the printer and prints the copies, each a job of its own. Says in panel 2 of the
-    /// status bar how it ended; throws only what the recalculation throws.
+    /// status bar how it ended, in panel 3 why it failed, where a file lies and what is missing on paper;
+    /// throws only what the recalculation throws.
     void Command_printform_Click();
 
-    /// For a delivery note asks what to print on it, in the modal dialog.
-    void check_LIEFERSCHEIN_PRINT();
+    /// For a delivery note asks what to print on it, in the modal dialog, which begins with all ticks set,
+    /// in the user's own design with none. Throws `Laufzeitfehler` 32755 when it is closed otherwise than by
+    /// its button.
+    Lieferscheinangaben check_LIEFERSCHEIN_PRINT();
 
-    /// The answers of that dialog; they stay until it is shown again.
-    const Form_Lieferschein_opt& lieferschein_opt() const { return lieferschein_opt_; }
     /// The page loop that the preview shares.
     const Rechnungsdruck& rechnungsdruck() const { return rechnungsdruck_; }
 
 private:
     void status(const std::string& text) { form1_.StatusBar1[2].Caption = text; }
-    void drucke(Druckjustierung just);
-    void drucke_exemplar(const std::string& titel, Druckjustierung just);
+    void melden(const std::string& text);
+    void drucke(Druckjustierung just, const Druckoptionen& optionen);
+    /// Returns the picture that could not be drawn, empty if there was none.
+    std::string drucke_exemplar(const std::string& titel, Druckjustierung just,
+                                const Druckoptionen& optionen);
+    void ergebnis_melden(const std::string& fehlendes_bild);
     std::string auftragstitel() const;
 
     Form1& form1_;
@@ -48,6 +53,8 @@ private:
     Desktop& desktop_;
     std::function<void()> jetztberechnen_List_;
     Form_Lieferschein_opt lieferschein_opt_;
+    bool lieferschein_weiter_ = false; ///< its button was pressed
+    std::string gemeldet_;             ///< what was put into panel 3 last
     Rechnungsdruck rechnungsdruck_;
 };
 

@@ -18,6 +18,8 @@ void Druckfuss::DRUCKE_BEMERKUNGEN(Blatt& blatt) const {
     const bool versand_mwst =
         form1_.Check_VersandMwStEXTRA.ticked() || form1_.Check_VersandINKL_MwSt.ticked();
     blatt.leerzeilen(!versand ? 4 : versand_mwst ? 2 : 3);
+    const double schrift_tabelle = blatt.surface.FontSize;
+    blatt.surface.FontSize = programm_.GROESSE_BEMERKUNGEN;
     blatt.surface.ForeColor = programm_.FARBE_BEMERKUNGEN;
     for (const auto* zeile : {&form1_.Text_Bemerkung1, &form1_.Text_Bemerkung2, &form1_.Text_Bemerkung3,
                               &form1_.Text_Bemerkung4}) {
@@ -25,6 +27,7 @@ void Druckfuss::DRUCKE_BEMERKUNGEN(Blatt& blatt) const {
         blatt.surface.Print((*zeile)[1].Text());
     }
     blatt.surface.ForeColor = color::kBlack;
+    blatt.surface.FontSize = schrift_tabelle;
     blatt.leerzeilen(3);
 }
 

@@ -13,7 +13,8 @@ public:
     Druckfuss(const Form1& form1, const frm_einstellungen& einstellungen, const PROGRAMMEINSTELLUNG& programm)
         : form1_(form1), einstellungen_(einstellungen), programm_(programm) {}
 
-    /// The four lines of remarks, some lines below the cursor: the fewer, the more lines the shipping took.
+    /// The four lines of remarks in their own size, some lines below the cursor: the fewer, the more lines
+    /// the shipping took.
     void DRUCKE_BEMERKUNGEN(Blatt& blatt) const;
     /// Page number, rule and bank lines, at their fixed places.
     void DRUCKE_FUSSZEILE(Blatt& blatt, int seite, int seiten) const;

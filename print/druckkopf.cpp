@@ -1,7 +1,9 @@
 #include "print/druckkopf.hpp"
 
+#include "invoice/belegtexte.hpp"
 #include "print/firmenkopf.hpp"
 
+#include <algorithm>
 #include <cmath>
 
 namespace quittika {
@@ -55,13 +57,13 @@ void Druckkopf::kundenblock(Blatt& blatt) const {
          {&form1_.Text_Kunde_1, &form1_.Text_Kunde_2, &form1_.Text_Kunde_3, &form1_.Text_Kunde_4}) {
         const bool weglassen = zeile == &form1_.Text_Kunde_4 && form1_.Check_tele_nichtdrucken.ticked();
         surface.CurrentX = blatt.X(29);
-        surface.Print(weglassen ? std::string() : zeile->Text());
+        surface.Print(weglassen ? std::string() : KUNDENTEXT(form1_, *zeile));
     }
     blatt.leerzeilen(kLeerzeilenVorKundennr);
     surface.CurrentX = blatt.X(29);
     surface.FontBold = true;
     surface.ForeColor = programm_.FARBE_KUNDENNR;
-    surface.Print(form1_.Text_KundennrK.Text());
+    surface.Print(KUNDENTEXT(form1_, form1_.Text_KundennrK));
     surface.FontBold = false;
 }
 
@@ -70,23 +72,37 @@ void Druckkopf::werbespruch(Blatt& blatt) const {
     blatt.surface.ForeColor = programm_.FARBE_WERBESPRUCH;
     blatt.gehe_zu(12, 105);
     blatt.surface.Print(einstellungen_.Text_Werbung.Text());
-    blatt.surface.ForeColor = color::kBlack;
 }
 
 void Druckkopf::titel(Blatt& blatt) const {
     blatt.schrift(programm_.GROESSE_RECHNUNG, true);
     blatt.surface.CurrentX = blatt.X(12);
-    blatt.surface.Print(form1_.Text_rechnung.Text() + " " + form1_.Text_RNnr.Text());
+    blatt.surface.Print(BELEGTITEL(form1_, einstellungen_));
     blatt.schrift(kSchriftTabelle, false);
 }
 
-void Druckkopf::DRUCKE_KOPF_VOLL(Blatt& blatt) const {
+/// Prints the date at the cursor's height and leaves the cursor below it. Returns where the delivery date
+/// ends, which stands there; 0 without one.
+double Druckkopf::datum(Blatt& blatt) const {
+    blatt.surface.CurrentX = blatt.X(172);
+    blatt.surface.Print(form1_.Text_Datum.Text());
+    if (!form1_.Check_LIEFERDATUM.ticked()) {
+        return 0;
+    }
+    DRUCKTEXT_RECHTS(blatt, form1_.Text_LIEFERDATUM.Text(), 190, kUnveraendert);
+    return blatt.surface.CurrentY + blatt.surface.TextHeight();
+}
+
+void Druckkopf::DRUCKE_KOPF_VOLL(Blatt& blatt, bool mit_werbespruch) const {
     kopfbeginn(blatt);
     firmenkopf(blatt);
-    blatt.gehe_zu(172, 123);
-    blatt.surface.Print(form1_.Text_Datum.Text());
+    blatt.surface.CurrentY = blatt.Y(123);
+    datum(blatt);
     kundenblock(blatt);
-    werbespruch(blatt);
+    if (mit_werbespruch) {
+        werbespruch(blatt);
+    }
+    blatt.surface.ForeColor = color::kBlack;
     blatt.surface.CurrentY = blatt.Y(125);
     titel(blatt);
     const double frei = blatt.Y(kTabellenbeginn) - blatt.surface.CurrentY;
@@ -94,11 +110,11 @@ void Druckkopf::DRUCKE_KOPF_VOLL(Blatt& blatt) const {
 }
 
 void Druckkopf::datum_und_titel(Blatt& blatt) const {
-    blatt.surface.CurrentX = blatt.X(172);
-    blatt.surface.Print(form1_.Text_Datum.Text());
+    const double lieferdatum_ende = datum(blatt);
     // The adjustment counts twice here: documents laid out by it rely on the place.
     blatt.surface.CurrentY += blatt.just.Yjust;
     titel(blatt);
+    blatt.surface.CurrentY = std::max(blatt.surface.CurrentY, lieferdatum_ende);
 }
 
 void Druckkopf::DRUCKE_KOPF_LOGO(Blatt& blatt) const {

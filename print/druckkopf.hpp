@@ -18,7 +18,7 @@ public:
 
     /// Each head begins with watermark and fold marks and leaves the cursor where the table begins,
     /// with the table's font.
-    void DRUCKE_KOPF_VOLL(Blatt& blatt) const;
+    void DRUCKE_KOPF_VOLL(Blatt& blatt, bool mit_werbespruch = true) const;
     void DRUCKE_KOPF_LOGO(Blatt& blatt) const; ///< following page with sender block
     void DRUCKE_KOPF_KURZ(Blatt& blatt) const; ///< following page without it
 
@@ -28,6 +28,7 @@ private:
     void kundenblock(Blatt& blatt) const;
     void werbespruch(Blatt& blatt) const;
     void titel(Blatt& blatt) const;
+    double datum(Blatt& blatt) const;
     void datum_und_titel(Blatt& blatt) const;
 
     const Form1& form1_;

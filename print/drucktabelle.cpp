@@ -1,5 +1,6 @@
 #include "print/drucktabelle.hpp"
 
+#include "invoice/belegtexte.hpp"
 #include "platform/laufzeitfehler.hpp"
 #include "platform/zahlen.hpp"
 
@@ -31,10 +32,6 @@ void linie(Blatt& blatt, double von, double bis, Color farbe, double gefaelle = 
 
 } // namespace
 
-bool IST_LIEFERSCHEIN(const Form1& form1) {
-    return form1.Option_LIEFERSCHEIN.Value() || form1.Option_LIEFERSCHEIN_KOPIE.Value();
-}
-
 void SUMMENZEILE(Blatt& blatt, std::string_view text, double x_gesamt) {
     DRUCKTEXT_RECHTS(blatt, text, x_gesamt, kUnveraendert);
     blatt.surface.Print(" ");
@@ -46,7 +43,7 @@ Drucktabelle::Drucktabelle(const Form1& form1, const frm_einstellungen& einstell
       einstellungen_(einstellungen),
       programm_(programm),
       spalten_(spalten_fuer(einstellungen.Check_Positionendruck.ticked(), optionen)),
-      preise_(!(optionen.lieferschein_ohne_preise && IST_LIEFERSCHEIN(form1))) {}
+      preise_(optionen.lieferschein.preise || !IST_LIEFERSCHEIN(form1)) {}
 
 void Drucktabelle::DRUCKE_POSITIONEN(Blatt& blatt, Zeilenbereich zeilen) const {
     linie(blatt, kLinks, kRechts, programm_.FARBE_LINIEN, 1);

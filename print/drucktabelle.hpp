@@ -20,9 +20,6 @@ struct Spalten {
     double X_Gesamt; ///< the total edge
 };
 
-/// Whether the document in hand is a delivery note or a copy of one.
-bool IST_LIEFERSCHEIN(const Form1& form1);
-
 /// Rules and lines that table and totals share, and the rows of the position lists.
 /// The lists are read by index; their selections stay as they are.
 class Drucktabelle {

@@ -6,11 +6,13 @@ namespace quittika {
 
 namespace {
 
-template <class Zeichnung> void nachsichtig(const Zeichnung& zeichnung) {
+/// A document without its logo is worth more than none. Returns whether the drawing succeeded.
+template <class Zeichnung> bool nachsichtig(const Zeichnung& zeichnung) {
     try {
         zeichnung();
+        return true;
     } catch (const Laufzeitfehler&) {
-        // A document without its logo is worth more than none.
+        return false;
     }
 }
 
@@ -27,7 +29,9 @@ void NachsichtigesGeraet::line(double x1, double y1, double x2, double y2, Color
 
 void NachsichtigesGeraet::picture(double left, double top, double width, double height,
                                   const std::string& path) {
-    nachsichtig([&] { geraet_.picture(left, top, width, height, path); });
+    if (!nachsichtig([&] { geraet_.picture(left, top, width, height, path); }) && fehlendes_bild_.empty()) {
+        fehlendes_bild_ = path;
+    }
 }
 
 } // namespace quittika

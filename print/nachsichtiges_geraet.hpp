@@ -2,6 +2,8 @@
 
 #include "platform/printing.hpp"
 
+#include <string>
+
 namespace quittika {
 
 /// Passes everything on to another device; a drawing that fails there skips only itself.
@@ -17,8 +19,12 @@ public:
     void new_page() override { geraet_.new_page(); }
     void end_document() override { geraet_.end_document(); }
 
+    /// The first picture that could not be drawn; empty if there was none.
+    const std::string& fehlendes_bild() const { return fehlendes_bild_; }
+
 private:
     PrintDevice& geraet_;
+    std::string fehlendes_bild_;
 };
 
 } // namespace quittika

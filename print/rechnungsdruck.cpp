@@ -1,5 +1,6 @@
 #include "print/rechnungsdruck.hpp"
 
+#include "invoice/belegtexte.hpp"
 #include "print/seitenumbruch.hpp"
 #include "print/summenblock.hpp"
 
@@ -8,9 +9,9 @@
 
 namespace quittika {
 
-void Rechnungsdruck::kopf(Blatt& blatt, bool erste_seite) const {
+void Rechnungsdruck::kopf(Blatt& blatt, bool erste_seite, const Lieferscheinangaben& angaben) const {
     if (erste_seite || einstellungen_.Option_RN_Kopf_alleSeiten.Value()) {
-        kopf_.DRUCKE_KOPF_VOLL(blatt);
+        kopf_.DRUCKE_KOPF_VOLL(blatt, angaben.werbespruch || !IST_LIEFERSCHEIN(form1_));
     } else if (einstellungen_.Check_MitLogoadresseFFSeite.ticked()) {
         kopf_.DRUCKE_KOPF_LOGO(blatt);
     } else {
@@ -18,12 +19,9 @@ void Rechnungsdruck::kopf(Blatt& blatt, bool erste_seite) const {
     }
 }
 
-bool Rechnungsdruck::mit_bemerkungen(bool letzte_seite, const Druckoptionen& optionen) const {
-    if (!letzte_seite && !einstellungen_.Option_RN_BM_alleSeite.Value()) {
-        return false;
-    }
-    return !(optionen.lieferschein_ohne_preise && IST_LIEFERSCHEIN(form1_)) ||
-           lieferschein_opt_.Check_LIEFERSCH_BEMERKUNGSTEXT.ticked();
+bool Rechnungsdruck::mit_bemerkungen(bool letzte_seite, const Lieferscheinangaben& angaben) const {
+    return (letzte_seite || einstellungen_.Option_RN_BM_alleSeite.Value()) &&
+           (angaben.bemerkungen || !IST_LIEFERSCHEIN(form1_));
 }
 
 void Rechnungsdruck::DRUCKE_RECHNUNG(PrintSurface& surface, Druckjustierung just,
@@ -31,7 +29,7 @@ void Rechnungsdruck::DRUCKE_RECHNUNG(PrintSurface& surface, Druckjustierung just
     Blatt blatt{surface, just};
     const Drucktabelle tabelle(form1_, einstellungen_, programm_, optionen);
     const std::vector<Zeilenbereich> seiten =
-        Seitenumbruch(form1_.List_K.ListCount(), ZEILENPROSEITE(einstellungen_));
+        Seitenumbruch(form1_.List_K.items(), ZEILENPROSEITE(einstellungen_));
     const int anzahl = static_cast<int>(seiten.size());
     std::string uebertrag = "0";
     for (int seite = 1; seite <= anzahl; ++seite) {
@@ -40,7 +38,7 @@ void Rechnungsdruck::DRUCKE_RECHNUNG(PrintSurface& surface, Druckjustierung just
         if (seite > 1) {
             surface.NewPage();
         }
-        kopf(blatt, seite == 1);
+        kopf(blatt, seite == 1, optionen.lieferschein);
         tabelle.DRUCKE_POSITIONEN(blatt, zeilen);
         if (tabelle.zeigt_preise()) {
             if (seite > 1) {
@@ -52,7 +50,7 @@ void Rechnungsdruck::DRUCKE_RECHNUNG(PrintSurface& surface, Druckjustierung just
                 uebertrag = tabelle.DRUCKE_ZWISCHENSUMME(blatt, zeilen, uebertrag);
             }
         }
-        if (mit_bemerkungen(letzte, optionen)) {
+        if (mit_bemerkungen(letzte, optionen.lieferschein)) {
             fuss_.DRUCKE_BEMERKUNGEN(blatt);
         }
         fuss_.DRUCKE_FUSSZEILE(blatt, seite, anzahl);

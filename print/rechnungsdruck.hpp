@@ -6,7 +6,6 @@
 #include "print/druckkopf.hpp"
 #include "print/druckoptionen.hpp"
 #include "print/drucktabelle.hpp"
-#include "print/form_lieferschein_opt.hpp"
 #include "settings/frm_einstellungen.hpp"
 #include "settings/programmeinstellung.hpp"
 
@@ -16,11 +15,10 @@ namespace quittika {
 class Rechnungsdruck {
 public:
     Rechnungsdruck(const Form1& form1, const frm_einstellungen& einstellungen,
-                   const PROGRAMMEINSTELLUNG& programm, const Form_Lieferschein_opt& lieferschein_opt)
+                   const PROGRAMMEINSTELLUNG& programm)
         : form1_(form1),
           einstellungen_(einstellungen),
           programm_(programm),
-          lieferschein_opt_(lieferschein_opt),
           kopf_(form1, einstellungen, programm),
           fuss_(form1, einstellungen, programm) {}
 
@@ -29,13 +27,12 @@ public:
                          const Druckoptionen& optionen = {}) const;
 
 private:
-    void kopf(Blatt& blatt, bool erste_seite) const;
-    bool mit_bemerkungen(bool letzte_seite, const Druckoptionen& optionen) const;
+    void kopf(Blatt& blatt, bool erste_seite, const Lieferscheinangaben& angaben) const;
+    bool mit_bemerkungen(bool letzte_seite, const Lieferscheinangaben& angaben) const;
 
     const Form1& form1_;
     const frm_einstellungen& einstellungen_;
     const PROGRAMMEINSTELLUNG& programm_;
-    const Form_Lieferschein_opt& lieferschein_opt_;
     Druckkopf kopf_;
     Druckfuss fuss_;
 };

@@ -1,6 +1,6 @@
 #include "print/seitenumbruch.hpp"
 
-#include <algorithm>
+#include <cstddef>
 
 namespace quittika {
 
@@ -21,22 +21,29 @@ Seitengroesse ZEILENPROSEITE(const frm_einstellungen& einstellungen) {
                           einstellungen.Check_MitLogoadresseFFSeite.ticked());
 }
 
-std::vector<Zeilenbereich> Seitenumbruch(int zeilen, Seitengroesse groesse) {
-    const int letzte = zeilen - 1;
-    std::vector<Zeilenbereich> seiten{{0, std::min(groesse.ZeilenErsteSeite, letzte)}};
-    while (seiten.back().bis < letzte) {
-        const int von = seiten.back().bis + 1;
-        seiten.push_back({von, std::min(von + groesse.ZeilenFolgeseite, letzte)});
+std::vector<Zeilenbereich> Seitenumbruch(const std::vector<std::string>& arten, Seitengroesse groesse) {
+    std::vector<Zeilenbereich> seiten{{}};
+    int frei = groesse.ZeilenErsteSeite + 1;
+    bool begonnen = false; // only breaks stand before the first row that prints
+    for (int zeile = 0; zeile < static_cast<int>(arten.size()); ++zeile) {
+        const bool umbruch = arten[static_cast<std::size_t>(zeile)] == "T";
+        if (!umbruch && frei == 0) {
+            seiten.push_back({zeile, zeile});
+            frei = groesse.ZeilenFolgeseite + 1;
+        }
+        seiten.back().bis = zeile;
+        begonnen = begonnen || !umbruch;
+        if (!umbruch) {
+            --frei;
+        } else if (begonnen) {
+            frei = 0;
+        }
     }
     return seiten;
 }
 
-int ANZAHL_DRUCKSEITEN(int zeilen, Seitengroesse groesse) {
-    return static_cast<int>(Seitenumbruch(zeilen, groesse).size());
-}
-
-int ANZAHL_DRUCKSEITEN(int zeilen, const frm_einstellungen& einstellungen) {
-    return ANZAHL_DRUCKSEITEN(zeilen, ZEILENPROSEITE(einstellungen));
+int ANZAHL_DRUCKSEITEN(const std::vector<std::string>& arten, const frm_einstellungen& einstellungen) {
+    return static_cast<int>(Seitenumbruch(arten, ZEILENPROSEITE(einstellungen)).size());
 }
 
 } // namespace quittika

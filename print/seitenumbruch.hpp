@@ -2,6 +2,7 @@
 
 #include "settings/frm_einstellungen.hpp"
 
+#include <string>
 #include <vector>
 
 namespace quittika {
@@ -26,12 +27,12 @@ Seitengroesse ZEILENPROSEITE(bool kopf_alle_seiten, bool bemerkungen_alle_seiten
 /// The same for the choices of the settings dialog.
 Seitengroesse ZEILENPROSEITE(const frm_einstellungen& einstellungen);
 
-/// The chunk of each page. Without rows there is one page with an empty chunk.
-std::vector<Zeilenbereich> Seitenumbruch(int zeilen, Seitengroesse groesse);
+/// The chunk of each page for rows of these kinds ("T" ends its page). Break rows without a row to print
+/// before them on their page break nothing, and a full page takes those that follow it, so no page is
+/// empty. Without rows there is one page with an empty chunk.
+std::vector<Zeilenbereich> Seitenumbruch(const std::vector<std::string>& arten, Seitengroesse groesse);
 
-/// Pages that `zeilen` rows need, at least 1.
-int ANZAHL_DRUCKSEITEN(int zeilen, Seitengroesse groesse);
-/// The same for `zeilen` rows with the choices of the settings dialog.
-int ANZAHL_DRUCKSEITEN(int zeilen, const frm_einstellungen& einstellungen);
+/// Pages that rows of these kinds need, at least 1, with the choices of the settings dialog.
+int ANZAHL_DRUCKSEITEN(const std::vector<std::string>& arten, const frm_einstellungen& einstellungen);
 
 } // namespace quittika

@@ -1,5 +1,6 @@
 #include "print/summenblock.hpp"
 
+#include "invoice/belegtexte.hpp"
 #include "print/drucktabelle.hpp"
 
 #include <string>
@@ -19,7 +20,7 @@ public:
         : blatt_(blatt), form1_(form1), farbe_(farbe), x_gesamt_(x_gesamt) {}
 
     void summe() const {
-        SUMMENZEILE(blatt_, form1_.Label_summe.Caption() + "   " + form1_.Text_summe.Text(), x_gesamt_);
+        SUMMENZEILE(blatt_, SUMMENBEZEICHNUNG(form1_) + "   " + form1_.Text_summe.Text(), x_gesamt_);
     }
 
     void rabatt() const {

@@ -35,7 +35,7 @@ public:
     std::string save_file(const FileDialog&) override { return naechste_datei(); }
     Color choose_color(Color) override { throw Laufzeitfehler(fehler::kDialogAbgebrochen); }
     std::string choose_font(const std::string&) override { throw Laufzeitfehler(fehler::kDialogAbgebrochen); }
-    int choose_printer(int) override { throw Laufzeitfehler(fehler::kDialogAbgebrochen); }
+    int choose_printer(const PrinterDialog&) override { throw Laufzeitfehler(fehler::kDialogAbgebrochen); }
 
 private:
     std::string naechste_datei() {

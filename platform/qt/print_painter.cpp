@@ -7,6 +7,8 @@
 #include <QPaintDevice>
 #include <QPen>
 
+#include <algorithm>
+
 namespace quittika {
 
 namespace {
@@ -20,7 +22,25 @@ QColor to_qcolor(Color color) {
     return QColor(color & 0xFF, (color >> 8) & 0xFF, (color >> 16) & 0xFF);
 }
 
+QImage greys_of(const QImage& picture) {
+    QImage grey = picture.convertToFormat(QImage::Format_ARGB32);
+    for (int y = 0; y < grey.height(); ++y) {
+        auto* const line = reinterpret_cast<QRgb*>(grey.scanLine(y));
+        std::transform(line, line + grey.width(), line, [](QRgb pixel) {
+            const int value = qGray(pixel);
+            return qRgba(value, value, value, qAlpha(pixel));
+        });
+    }
+    return grey;
+}
+
 } // namespace
+
+QColor PainterDevice::ink(Color color) const {
+    const QColor full = to_qcolor(color);
+    const int value = qGray(full.rgb());
+    return grey_ ? QColor(value, value, value) : full;
+}
 
 bool PainterDevice::begin(QPaintDevice& device, double pixels_per_mm) {
     pixels_per_mm_ = pixels_per_mm;
@@ -30,7 +50,8 @@ bool PainterDevice::begin(QPaintDevice& device, double pixels_per_mm) {
         return false;
     }
     painter_.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing |
-                            QPainter::SmoothPixmapTransform);
+                            QPainter::SmoothPixmapTransform | QPainter::LosslessImageRendering);
+    painter_.translate(QPointF(kOriginLeft, kOriginTop) * pixels_per_mm);
     return true;
 }
 
@@ -52,13 +73,13 @@ const PainterDevice::ReadyFont& PainterDevice::ready(const PrintFont& font) {
 void PainterDevice::text(double left, double top, double /*width*/, const PrintFont& font, Color color,
                          std::string_view text) {
     const double baseline = top + ready(font).ascent;
-    painter_.setPen(to_qcolor(color));
+    painter_.setPen(ink(color));
     painter_.drawText(QPointF(left, baseline) * pixels_per_mm_,
                       QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())));
 }
 
 void PainterDevice::line(double x1, double y1, double x2, double y2, Color color) {
-    painter_.setPen(QPen(to_qcolor(color), kLineWidth * pixels_per_mm_, Qt::SolidLine, Qt::FlatCap));
+    painter_.setPen(QPen(ink(color), kLineWidth * pixels_per_mm_, Qt::SolidLine, Qt::FlatCap));
     painter_.drawLine(QPointF(x1, y1) * pixels_per_mm_, QPointF(x2, y2) * pixels_per_mm_);
 }
 
@@ -75,7 +96,8 @@ const QImage& PainterDevice::load(const std::string& path) {
     if (picture.image.isNull() || picture.modified != modified) {
         QImageReader reader(name);
         reader.setDecideFormatFromContent(true);
-        picture = {modified, reader.read()};
+        const QImage image = reader.read();
+        picture = {modified, grey_ && !image.isNull() ? greys_of(image) : image};
     }
     if (picture.image.isNull()) {
         throw Laufzeitfehler(fehler::kBild);

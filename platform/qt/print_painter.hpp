@@ -31,6 +31,8 @@ protected:
 
     /// Starts drawing; `pixels_per_mm` is the device's resolution. Returns whether the device takes it.
     bool begin(QPaintDevice& device, double pixels_per_mm);
+    /// From here on colours and pictures become their greys.
+    void draw_grey() { grey_ = true; }
     /// Returns whether a drawing was under way and is complete.
     bool end() { return painter_.isActive() && painter_.end(); }
 
@@ -47,10 +49,12 @@ private:
 
     const ReadyFont& ready(const PrintFont& font);
     const QImage& load(const std::string& path);
+    QColor ink(Color color) const;
 
     const QtFontMetrics& metrics_;
     QPainter painter_;
     double pixels_per_mm_ = 1;
+    bool grey_ = false;
     std::vector<ReadyFont> fonts_;
     std::size_t set_font_ = 0; ///< one more than the index of the painter's font, 0 at first
     std::unordered_map<std::string, LoadedPicture> pictures_;

@@ -59,8 +59,11 @@ bool replace_file(const QString& path, const QByteArray& content) {
 
 } // namespace
 
-QtPdfDevice::QtPdfDevice(const QtFontMetrics& metrics, QString path, const std::string& title)
+QtPdfDevice::QtPdfDevice(const QtFontMetrics& metrics, QString path, const std::string& title, bool grey)
     : PainterDevice(metrics), path_(std::move(path)) {
+    if (grey) {
+        draw_grey();
+    }
     content_.open(QIODevice::WriteOnly);
     writer_.setResolution(kResolution);
     writer_.setPageSize(QPageSize(QPageSize::A4));

@@ -11,7 +11,7 @@ namespace quittika {
 class QtPdfDevice final : public PainterDevice {
 public:
     /// Throws `Laufzeitfehler` 482 when no document can be begun.
-    QtPdfDevice(const QtFontMetrics& metrics, QString path, const std::string& title);
+    QtPdfDevice(const QtFontMetrics& metrics, QString path, const std::string& title, bool grey = false);
     ~QtPdfDevice() override;
 
     void new_page() override;

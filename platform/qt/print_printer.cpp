@@ -13,17 +13,14 @@ namespace quittika {
 namespace {
 
 constexpr int kResolution = 1200; ///< dots per inch
-
-bool prints_to_file(const QPrinter& printer) {
-    return printer.outputFormat() == QPrinter::PdfFormat || !printer.outputFileName().isEmpty();
-}
+constexpr const char* kRefused = "Der Drucker hat den Auftrag nicht angenommen.";
 
 } // namespace
 
 QtPrinterDevice::QtPrinterDevice(const QtFontMetrics& metrics, QPrinter& printer, const std::string& title)
     : PainterDevice(metrics), printer_(printer) {
-    if (!prints_to_file(printer_) && !queue_takes_jobs(printer_.printerName())) {
-        throw Laufzeitfehler(fehler::kDrucker);
+    if (const std::string obstacle = obstacle_to_printing(printer_.printerName()); !obstacle.empty()) {
+        throw Laufzeitfehler(fehler::kDrucker, obstacle);
     }
     printer_.setResolution(kResolution);
     printer_.setPageSize(QPageSize(QPageSize::A4));
@@ -35,7 +32,7 @@ QtPrinterDevice::QtPrinterDevice(const QtFontMetrics& metrics, QPrinter& printer
     printer_.setDocName(QString::fromStdString(title));
     printer_.setCreator(QStringLiteral("Quittika 2008"));
     if (!begin(printer_, printer_.resolution() / 25.4)) {
-        throw Laufzeitfehler(fehler::kDrucker);
+        throw Laufzeitfehler(fehler::kDrucker, kRefused);
     }
 }
 
@@ -48,14 +45,14 @@ QtPrinterDevice::~QtPrinterDevice() {
 
 void QtPrinterDevice::new_page() {
     if (!printer_.newPage()) {
-        throw Laufzeitfehler(fehler::kDrucker);
+        throw Laufzeitfehler(fehler::kDrucker, kRefused);
     }
 }
 
 void QtPrinterDevice::end_document() {
     ended_ = true;
     if (!end() || printer_.printerState() == QPrinter::Error) {
-        throw Laufzeitfehler(fehler::kDrucker);
+        throw Laufzeitfehler(fehler::kDrucker, kRefused);
     }
 }
 

@@ -12,7 +12,7 @@ class QPrinter;
 
 namespace quittika {
 
-/// Prints on the printer that the user chose.
+/// Prints on the printer, or into the PDF file, that the user chose.
 class QtPrinting final : public Printing {
 public:
     /// `chosen` gives the printer chosen last, null if there was none.
@@ -20,6 +20,7 @@ public:
 
     const QtFontMetrics& metrics() const override { return metrics_; }
     std::unique_ptr<PrintDevice> printer(const std::string& job_title) override;
+    std::string output_file() const override;
 
 private:
     QtFontMetrics metrics_;

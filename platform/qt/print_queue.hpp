@@ -1,11 +1,14 @@
 #pragma once
 
+#include <string>
+
 class QString;
 
 namespace quittika {
 
-/// Whether the print system knows the printer and its queue takes and processes jobs.
-/// What cannot be found out counts as willing.
-bool queue_takes_jobs(const QString& printer_name);
+/// Why no job can be printed on a printer, as a German sentence with the way out: the print server does not
+/// answer, it does not know the printer, or the queue is stopped or closed. Empty where nothing speaks
+/// against it, or nothing can be found out.
+std::string obstacle_to_printing(const QString& printer_name);
 
 } // namespace quittika

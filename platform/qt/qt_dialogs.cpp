@@ -3,13 +3,13 @@
 #include "platform/laufzeitfehler.hpp"
 #include "platform/qt/colors.hpp"
 #include "platform/qt/message_box.hpp"
+#include "platform/qt/print_dialog.hpp"
 #include "platform/qt/qt_text.hpp"
 
 #include <QColorDialog>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QFontDialog>
-#include <QPrintDialog>
 #include <QRegularExpression>
 
 #include <algorithm>
@@ -121,14 +121,16 @@ std::string QtDialogs::choose_font(const std::string& start) {
     return from_qt(font.family());
 }
 
-int QtDialogs::choose_printer(int copies) {
+int QtDialogs::choose_printer(const PrinterDialog& dialog) {
     QPrinter& printer = printer_.printer();
-    printer.setCopyCount(std::clamp(copies, 1, kAllCopies));
-    QPrintDialog window(&printer, dialog_parent());
-    window.setOption(QAbstractPrintDialog::PrintPageRange, false);
-    window.setOption(QAbstractPrintDialog::PrintSelection, false);
+    printer.setCopyCount(std::clamp(dialog.copies, 1, kAllCopies));
+    const QDir folder(folder_.isEmpty() ? QDir::homePath() : folder_);
+    PrintDialog window(printer, folder.filePath(path_to_qt(dialog.proposed_name)), dialog_parent());
     if (window.exec() != QDialog::Accepted) {
         throw Laufzeitfehler(fehler::kDialogAbgebrochen);
+    }
+    if (!printer.outputFileName().isEmpty()) {
+        folder_ = QFileInfo(printer.outputFileName()).absolutePath();
     }
     const int chosen = printer.copyCount();
     printer.setCopyCount(1); // the program prints each copy as a job of its own

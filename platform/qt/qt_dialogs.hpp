@@ -26,7 +26,7 @@ public:
     std::string save_file(const FileDialog& dialog) override;
     Color choose_color(Color start) override;
     std::string choose_font(const std::string& start) override;
-    int choose_printer(int copies) override;
+    int choose_printer(const PrinterDialog& dialog) override;
 
 private:
     void prepare(QFileDialog& window, const FileDialog& dialog) const;

@@ -122,6 +122,7 @@ void Runner::answer() {
     if (!std::exchange(awaits_answer_, false)) {
         return;
     }
+    guarded([this] { platform_.printing.end_command(); });
     failed_ = failed_ || failure_.has_value();
     out_ << (failure_ ? "error: " + protocol::encode(*failure_) : "ok") << '\n' << std::flush;
     failure_.reset();

@@ -115,8 +115,8 @@ Color ScriptDialogs::choose_color(Color /*start*/) {
 std::string ScriptDialogs::choose_font(const std::string& /*start*/) {
     return run<choice::Font>("font", {}).name;
 }
-int ScriptDialogs::choose_printer(int /*copies*/) {
-    return run<choice::Printer>("printer", {}).copies;
+int ScriptDialogs::choose_printer(const PrinterDialog& dialog) {
+    return run<choice::Printer>("printer", {{}, dialog.proposed_name, {}}).copies;
 }
 
 std::vector<std::string> ScriptDialogs::take_boxes() {

@@ -41,7 +41,7 @@ public:
     std::string save_file(const FileDialog& dialog) override;
     Color choose_color(Color start) override;
     std::string choose_font(const std::string& start) override;
-    int choose_printer(int copies) override;
+    int choose_printer(const PrinterDialog& dialog) override;
 
     void queue(Answer answer) { answers_.push_back(answer); }
     void queue(Choice entry) { choices_.push_back(std::move(entry)); }

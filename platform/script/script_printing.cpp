@@ -33,11 +33,25 @@ std::shared_ptr<RecordedJob> ScriptPrinting::new_job(const std::string& title) {
 std::unique_ptr<PrintDevice> ScriptPrinting::printer(const std::string& job_title) {
     const auto job = new_job(job_title);
     return std::make_unique<RecordingDevice>(job, picture_test_, [this, job] {
-        if (!pdf_path_.empty()) {
-            pdf_jobs_.push_back(job);
+        if (pdf_path_.empty()) {
+            return;
+        }
+        pdf_jobs_.push_back(job);
+        // The first job meets the errors of the real surface at once; writing the whole file for each of many
+        // copies would cost their square.
+        if (std::exchange(pdf_begun_, true)) {
+            pdf_behind_ = true;
+        } else {
             write_pdf();
         }
     });
+}
+
+void ScriptPrinting::end_command() {
+    pdf_begun_ = false;
+    if (pdf_behind_) {
+        write_pdf();
+    }
 }
 
 std::unique_ptr<PrintDevice> ScriptPrinting::record(const std::string& title) {
@@ -55,9 +69,11 @@ void ScriptPrinting::print_to(std::string path) {
     }
     pdf_path_ = std::move(path);
     pdf_jobs_.clear();
+    pdf_behind_ = false;
 }
 
-void ScriptPrinting::write_pdf() const {
+void ScriptPrinting::write_pdf() {
+    pdf_behind_ = false;
     const auto device = pdf_(pdf_path_, pdf_jobs_.front()->title);
     bool first = true;
     for (const auto& job : pdf_jobs_) {

@@ -22,11 +22,14 @@ public:
 
     const FontMetrics& metrics() const override { return metrics_; }
     std::unique_ptr<PrintDevice> printer(const std::string& job_title) override;
+    std::string output_file() const override { return pdf_path_; }
     /// A surface that is recorded like a printer, but prints nowhere (a preview). Must not outlive this.
     std::unique_ptr<PrintDevice> record(const std::string& title);
 
     /// From here on a new document takes the place of those recorded before.
     void begin_command() { fresh_ = true; }
+    /// Completes the PDF file that the command's jobs went to. Throws what its surface throws.
+    void end_command();
     /// The documents of the last command that drew any.
     const std::vector<std::shared_ptr<RecordedJob>>& jobs() const { return jobs_; }
 
@@ -35,7 +38,7 @@ public:
 
 private:
     std::shared_ptr<RecordedJob> new_job(const std::string& title);
-    void write_pdf() const;
+    void write_pdf();
 
     const FontMetrics& metrics_;
     PdfFactory pdf_;
@@ -44,6 +47,8 @@ private:
     bool fresh_ = false;
     std::string pdf_path_;
     std::vector<std::shared_ptr<const RecordedJob>> pdf_jobs_;
+    bool pdf_begun_ = false;  ///< the present command has written the file once
+    bool pdf_behind_ = false; ///< the file lacks a job
 };
 
 } // namespace quittika

@@ -178,7 +178,7 @@ private:
             attempt([this] { return platform_.dialogs.save_file({"", "x.txt", "Sichern"}); });
             attempt([this] { return std::to_string(platform_.dialogs.choose_color(0)); });
             attempt([this] { return platform_.dialogs.choose_font("Arial"); });
-            attempt([this] { return std::to_string(platform_.dialogs.choose_printer(1)); });
+            attempt([this] { return std::to_string(platform_.dialogs.choose_printer({})); });
         };
         haupt_.Drucken.Click = [this] { print("Blatt\t1", 2); };
         notiz_.Drucken.Click = [this] { print("Notiz", 1); };

@@ -15,11 +15,13 @@ public:
     int annahmefehler = 0;
     int bildfehler = 0;
     int endfehler = 0;
+    std::string datei;
 
     const FontMetrics& metrics() const override { return schrift; }
+    std::string output_file() const override { return datei; }
     std::unique_ptr<PrintDevice> printer(const std::string& job_title) override {
         if (annahmefehler != 0) {
-            throw Laufzeitfehler(annahmefehler);
+            throw Laufzeitfehler(annahmefehler, "Der Drucker GP ist angehalten.");
         }
         titel.push_back(job_title);
         return std::make_unique<Papiergeraet>(papier, bildfehler, endfehler);
@@ -28,14 +30,18 @@ public:
 
 class KeinDesktop : public Desktop {
 public:
-    std::vector<std::string> gezeigt; ///< names of the modal windows
+    /// Answers the modal window for the user.
+    std::function<void(Form& form)> bedienen = [](Form& form) {
+        static_cast<CommandButton*>(form.find("CMD_weiter"))->Click();
+    };
+    int gezeigt = 0;
 
     void adopt(Form& form) override { form.attach(*this, nullptr); }
     void release(Form&) override {}
     void show(Form& form, Modality modality) override {
         if (modality == Modality::Modal) {
-            gezeigt.push_back(form.name());
-            static_cast<CommandButton*>(form.find("CMD_weiter"))->Click();
+            ++gezeigt;
+            bedienen(form);
         }
     }
     void hide(Form&) override {}
@@ -51,7 +57,9 @@ public:
 struct Druckerdialoge : FalscheDialoge {
     int exemplare = 1;
     int fehlernummer = 0;
-    int choose_printer(int) override {
+    std::string vorschlag;
+    int choose_printer(const PrinterDialog& dialog) override {
+        vorschlag = dialog.proposed_name;
         if (fehlernummer != 0) {
             throw Laufzeitfehler(fehlernummer);
         }
@@ -70,6 +78,7 @@ struct Auftragsprobe : Pruefstand {
         auftrag.Command_printform_Click();
         return form1.StatusBar1[2].Caption();
     }
+    std::string meldung() const { return form1.StatusBar1[3].Caption(); }
 };
 
 TEST(Druckauftrag, JedesExemplarIstEinEigenerAuftrag) {
@@ -90,12 +99,14 @@ TEST(Druckauftrag, AbbruchUndFehlerStehenInDerStatuszeile) {
         int annahme;
         int ende;
         const char* status;
+        const char* meldung;
     };
     const Fall faelle[] = {
-        {"abgebrochen", fehler::kDialogAbgebrochen, 0, 0, "DRUCKEN ABGEBROCHEN."},
-        {"Dialog gestört", fehler::kGeraet, 0, 0, "FEHLER BEIM DRUCKEN!"},
-        {"Drucker nimmt nichts an", 0, fehler::kDrucker, 0, "FEHLER BEIM DRUCKEN!"},
-        {"Abschluss misslingt", 0, 0, fehler::kDrucker, "FEHLER BEIM DRUCKEN!"},
+        {"abgebrochen", fehler::kDialogAbgebrochen, 0, 0, "DRUCKEN ABGEBROCHEN.", ""},
+        {"Dialog gestört", fehler::kGeraet, 0, 0, "FEHLER BEIM DRUCKEN!", "Fehler beim Lesen oder Schreiben"},
+        {"Drucker nimmt nichts an", 0, fehler::kDrucker, 0, "FEHLER BEIM DRUCKEN!",
+         "Druckerfehler: Der Drucker GP ist angehalten."},
+        {"Abschluss misslingt", 0, 0, fehler::kDrucker, "FEHLER BEIM DRUCKEN!", "Druckerfehler"},
     };
     for (const Fall& f : faelle) {
         SCOPED_TRACE(f.name);
@@ -104,23 +115,79 @@ TEST(Druckauftrag, AbbruchUndFehlerStehenInDerStatuszeile) {
         p.drucker.annahmefehler = f.annahme;
         p.drucker.endfehler = f.ende;
         EXPECT_EQ(p.drucken(), f.status);
+        EXPECT_EQ(p.meldung(), f.meldung);
         EXPECT_TRUE(p.druckdialoge.boxen.empty());
         EXPECT_EQ(p.drucker.papier.enden, 0);
+        p.druckdialoge.fehlernummer = p.drucker.annahmefehler = p.drucker.endfehler = 0;
+        p.drucken();
+        EXPECT_EQ(p.meldung(), "") << "the reason goes with the next job that succeeds";
     }
 }
 
-TEST(Druckauftrag, NurFuerEinenLieferscheinWirdGefragt) {
+TEST(Druckauftrag, EinePdfDateiHeisstNachDemDokumentUndIhrOrtStehtInDerStatuszeile) {
+    struct Fall {
+        const char* kunde;
+        const char* nummer;
+        bool kopie;
+        std::string name;
+    };
+    const std::string lang(300, 'x');
+    const Fall faelle[] = {
+        {"Müller, Hans", "12", false, "RECHNUNG 12 Müller Hans.pdf"},
+        {"Name, Vorname", "12", true, "RECHNUNG 12 KOPIE.pdf"},
+        {"A/B \"C\" <D>|E", "..\\7:\t*?", false, "RECHNUNG 7 A B C D E.pdf"},
+        {lang.c_str(), "1", false, "RECHNUNG 1 " + lang.substr(0, 189) + ".pdf"},
+    };
+    for (const Fall& f : faelle) {
+        Auftragsprobe p;
+        p.form1.Text_Kunde_1.Text = f.kunde;
+        p.form1.Text_RNnr.Text = f.nummer;
+        p.form1.Option_RECHNUNG_KOPIE.Value = f.kopie;
+        p.form1.StatusBar1[3].Caption = "etwas Fremdes";
+        p.drucken();
+        EXPECT_EQ(p.druckdialoge.vorschlag, f.name);
+        EXPECT_EQ(p.meldung(), "etwas Fremdes");
+        p.drucker.datei = "/home/ich/a.pdf";
+        p.drucken();
+        EXPECT_EQ(p.meldung(), "Die PDF-Datei liegt hier: /home/ich/a.pdf");
+    }
+}
+
+TEST(Druckauftrag, EinLieferscheinFragtJedesMalNeuWasErZeigt) {
     Auftragsprobe p;
     p.drucken();
-    EXPECT_TRUE(p.desktop.gezeigt.empty());
+    EXPECT_EQ(p.desktop.gezeigt, 0) << "only a delivery note asks";
+    const auto haken = [](Form& form) {
+        std::string alle;
+        for (const char* name : {"Check_LIEFERSCH_WERBESPRUCH", "Check_LIEFERSCH_BEMERKUNGSTEXT",
+                                 "Check_LIEFERSCH_ANSCHREIBEN", "Check_LIEFERSCH_PREISE"}) {
+            alle += std::to_string(static_cast<CheckBox*>(form.find(name))->Value());
+        }
+        return alle;
+    };
     for (OptionButton* art : {&p.form1.Option_LIEFERSCHEIN, &p.form1.Option_LIEFERSCHEIN_KOPIE}) {
-        art->Value = true;
-        EXPECT_EQ(p.drucken(), "DRUCKEN...");
-        EXPECT_EQ(p.desktop.gezeigt, std::vector<std::string>{"Form_Lieferschein_opt"});
-        EXPECT_FALSE(p.auftrag.lieferschein_opt().shown());
-        p.desktop.gezeigt.clear();
+        for (OptionButton* layout : p.einstellungen.Layouts()) {
+            SCOPED_TRACE(layout->name());
+            const bool eigenes = layout == &p.einstellungen.Option9_Layout;
+            art->Value = true;
+            layout->Value = true;
+            p.drucker.papier = {};
+            p.desktop.bedienen = [&](Form& form) {
+                EXPECT_EQ(haken(form), eigenes ? "0000" : "1111");
+                auto* preise = static_cast<CheckBox*>(form.find("Check_LIEFERSCH_PREISE"));
+                preise->Value = eigenes ? 1 : 0;
+                static_cast<CommandButton*>(form.find("CMD_weiter"))->Click();
+                EXPECT_FALSE(form.shown());
+            };
+            EXPECT_EQ(p.drucken(), "DRUCKEN...");
+            EXPECT_EQ(p.drucker.papier.finden("Rechnungsbetrag") != nullptr, eigenes);
+            EXPECT_EQ(p.drucker.papier.finden("Ihr Werbespruch") != nullptr, !eigenes);
+        }
     }
-    EXPECT_NE(p.drucker.papier.finden("Rechnungsbetrag"), nullptr) << "on paper it shows its prices";
+    p.desktop.bedienen = [](Form& form) { form.Close(); };
+    p.drucker.papier = {};
+    EXPECT_EQ(p.drucken(), "DRUCKEN ABGEBROCHEN.") << "by Esc or its frame";
+    EXPECT_TRUE(p.drucker.papier.texte.empty());
 }
 
 TEST(Druckauftrag, OhneLayoutWirdNichtsGedruckt) {
@@ -128,6 +195,7 @@ TEST(Druckauftrag, OhneLayoutWirdNichtsGedruckt) {
     p.einstellungen.Option2_Layout.Value = false;
     EXPECT_EQ(p.drucken(), "DRUCKEN...");
     EXPECT_TRUE(p.drucker.titel.empty());
+    EXPECT_EQ(p.meldung(), "Es ist kein Layout gewählt, deshalb wurde nichts gedruckt.");
 }
 
 TEST(Druckauftrag, EinFehlendesBildKostetNurSichSelbst) {
@@ -137,6 +205,7 @@ TEST(Druckauftrag, EinFehlendesBildKostetNurSichSelbst) {
     EXPECT_EQ(p.drucken(), "DRUCKEN...");
     EXPECT_EQ(p.drucker.papier.enden, 1);
     EXPECT_NE(p.drucker.papier.finden("MUSTERFIRMA"), nullptr);
+    EXPECT_EQ(p.meldung(), "Ohne das Bild fehlt.bmp gedruckt.");
 }
 
 } // namespace

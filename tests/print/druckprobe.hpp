@@ -100,8 +100,7 @@ private:
 /// An invoice without print adjustment, drawn on paper that can be read.
 struct Druckprobe : Pruefstand {
     FesteSchrift schrift;
-    Form_Lieferschein_opt lieferschein;
-    Rechnungsdruck druck{form1, einstellungen, werte, lieferschein};
+    Rechnungsdruck druck{form1, einstellungen, werte};
 
     Druckprobe() {
         form1.Text_RNnr.Text = "7";

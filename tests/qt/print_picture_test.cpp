@@ -42,14 +42,14 @@ TEST(PictureDevice, DrawsInMillimetresOnPagesOfA4) {
     ASSERT_EQ(device.pages().size(), 2U);
     EXPECT_EQ(device.pages()[0].size(), QSize(2100, 2970));
     const QRect text = extent(device.pages()[0], qRgb(255, 0, 0));
-    EXPECT_NEAR(text.left(), 500, 12);
-    EXPECT_NEAR(text.right(), right * 10, 12);
-    EXPECT_GT(text.top(), 1000);
-    EXPECT_LT(text.bottom(), 1000 + surface.TextHeight() * 10);
+    EXPECT_NEAR(text.left(), 540, 12);
+    EXPECT_NEAR(text.right(), right * 10 + 40, 12);
+    EXPECT_GT(text.top(), 1060);
+    EXPECT_LT(text.bottom(), 1060 + surface.TextHeight() * 10);
     const QRect line = extent(device.pages()[1], qRgb(0, 0, 255));
-    EXPECT_NEAR(line.left(), 100, 1);
-    EXPECT_NEAR(line.right(), 299, 1);
-    EXPECT_NEAR(line.center().y(), 200, 1);
+    EXPECT_NEAR(line.left(), 140, 1);
+    EXPECT_NEAR(line.right(), 339, 1);
+    EXPECT_NEAR(line.center().y(), 260, 1);
     EXPECT_LE(line.height(), 3) << "a rule is 0.2 mm thick";
 }
 
@@ -70,8 +70,8 @@ TEST(PictureDevice, StretchesAPictureAndReportsOneThatIsMissing) {
     }
     device.end_document();
     const QRect box = extent(device.pages().at(0), qRgb(0, 0, 255));
-    EXPECT_NEAR(box.left(), 120, 1);
-    EXPECT_NEAR(box.top(), 80, 1);
+    EXPECT_NEAR(box.left(), 160, 1);
+    EXPECT_NEAR(box.top(), 140, 1);
     EXPECT_NEAR(box.width(), 450, 2);
     EXPECT_NEAR(box.height(), 300, 2);
 }
@@ -88,7 +88,7 @@ TEST(PictureDevice, KeepsOnlyTheWantedPage) {
     }
     surface.EndDoc();
     ASSERT_EQ(device.pages().size(), 1U);
-    EXPECT_NEAR(extent(device.pages()[0], qRgb(0, 0, 0)).left(), 200, 1);
+    EXPECT_NEAR(extent(device.pages()[0], qRgb(0, 0, 0)).left(), 240, 1);
 }
 
 } // namespace

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QPrintDialog>
+
+class QLineEdit;
+
+namespace quittika {
+
+/// The path that a user means who types `typed` as the name of a PDF file: names without a folder belong to
+/// `folder`, names without the ending get it.
+QString pdf_path(const QString& typed, const QString& folder);
+
+/// The toolkit's printer dialog with a PDF file of the program's choice, and without the settings that some
+/// printers would ignore: page range and page set, and the collation of copies that are jobs of their own.
+class PrintDialog final : public QPrintDialog {
+public:
+    /// `file`: path offered to a user who prints into a file.
+    PrintDialog(QPrinter& printer, const QString& file, QWidget* parent);
+
+    void setVisible(bool visible) override;
+
+private:
+    void complete_path();
+
+    QString folder_;
+    QLineEdit* path_; ///< null where the toolkit offers no file
+};
+
+} // namespace quittika

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "invoice/form1.hpp"
+#include "settings/frm_einstellungen.hpp"
+
+#include <string>
+
+namespace quittika {
+
+/// File name offered where the document in hand is printed into a file: its title line and the customer,
+/// without the characters that file names must not hold, short enough for every file system.
+std::string PDFNAME_VORSCHLAGEN(const Form1& form1, const frm_einstellungen& einstellungen);
+
+} // namespace quittika
