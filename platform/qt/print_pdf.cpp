@@ -1,13 +1,13 @@
 #include "platform/qt/print_pdf.hpp"
 
+#include "platform/datei.hpp"
 #include "platform/laufzeitfehler.hpp"
+#include "platform/qt/qt_text.hpp"
 
-#include <QFile>
-#include <QFileInfo>
 #include <QMarginsF>
 #include <QPageSize>
 
-#include <cstdio>
+#include <cstddef>
 #include <utility>
 
 namespace quittika {
@@ -15,47 +15,6 @@ namespace quittika {
 namespace {
 
 constexpr int kResolution = 1200; ///< dots per inch
-constexpr int kAttempts = 100;    ///< names tried for a new file
-
-bool write(QFile& file, const QByteArray& content) {
-    return file.write(content) == content.size() && file.flush();
-}
-
-/// Opens a file that did not exist before, beside `path`: it takes nobody's place and follows no link.
-bool open_beside(QFile& file, const QString& path) {
-    for (int attempt = 0; attempt < kAttempts; ++attempt) {
-        file.setFileName(path + QStringLiteral(".%1.neu").arg(attempt));
-        if (file.open(QIODevice::WriteOnly | QIODevice::NewOnly)) {
-            return true;
-        }
-        if (!file.exists()) {
-            return false;
-        }
-    }
-    return false;
-}
-
-/// Writes beside the target first, so that a failure leaves the old file as it was.
-bool replace_file(const QString& path, const QByteArray& content) {
-    const QFileInfo target(path);
-    if (target.exists() && !target.isFile()) {
-        QFile device(path);
-        return device.open(QIODevice::WriteOnly) && write(device, content);
-    }
-    const QString place = target.exists() ? target.canonicalFilePath() : path;
-    QFile fresh;
-    if (!open_beside(fresh, place)) {
-        return false;
-    }
-    const bool written = write(fresh, content);
-    fresh.close();
-    if (written && std::rename(QFile::encodeName(fresh.fileName()).constData(),
-                               QFile::encodeName(place).constData()) == 0) {
-        return true;
-    }
-    fresh.remove();
-    return false;
-}
 
 } // namespace
 
@@ -86,9 +45,11 @@ void QtPdfDevice::new_page() {
 }
 
 void QtPdfDevice::end_document() {
-    if (!end() || !replace_file(path_, content_.data())) {
+    if (!end()) {
         throw Laufzeitfehler(fehler::kDrucker);
     }
+    const QByteArray& bytes = content_.data();
+    datei_ersetzen(path_from_qt(path_), {bytes.constData(), static_cast<std::size_t>(bytes.size())});
 }
 
 } // namespace quittika

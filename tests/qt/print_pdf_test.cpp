@@ -7,6 +7,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QImage>
 #include <QProcess>
 #include <QRegularExpression>
 #include <QTemporaryDir>
@@ -78,7 +79,7 @@ TEST_F(PdfTest, WordsStandWhereTheyWereDrawn) {
     EXPECT_NEAR(word_of(boxes, "Größe").left, 104, 0.2) << "on every page";
 }
 
-TEST_F(PdfTest, AFileThatCannotBeWrittenIsAPrinterError) {
+TEST_F(PdfTest, AFileThatCannotBeWrittenIsTheFilesOwnError) {
     QtPdfDevice device(metrics, folder.filePath("fehlt/probe.pdf"), "x");
     PrintSurface surface(device, metrics);
     surface.Print("x");
@@ -86,14 +87,14 @@ TEST_F(PdfTest, AFileThatCannotBeWrittenIsAPrinterError) {
         surface.EndDoc();
         FAIL() << "no error";
     } catch (const Laufzeitfehler& f) {
-        EXPECT_EQ(f.nummer(), fehler::kDrucker);
+        EXPECT_EQ(f.nummer(), fehler::kPfadFehlt);
     }
 }
 
-TEST_F(PdfTest, ReplacesTheFileThatALinkNamesAndNoOther) {
+TEST_F(PdfTest, ReplacesTheFileThatALinkNamesAndClearsWhatAKilledProgramLeft) {
     const QString target = folder.filePath("alt.pdf");
-    const QString neighbour = target + ".0.neu";
-    for (const QString& name : {target, neighbour}) {
+    const QString left = folder.filePath(".quittika-999999999-0.neu");
+    for (const QString& name : {target, left}) {
         QFile file(name);
         ASSERT_TRUE(file.open(QFile::WriteOnly));
         file.write("alt");
@@ -106,10 +107,35 @@ TEST_F(PdfTest, ReplacesTheFileThatALinkNamesAndNoOther) {
     QFile written(target);
     ASSERT_TRUE(written.open(QFile::ReadOnly));
     EXPECT_TRUE(written.readAll().startsWith("%PDF"));
-    QFile kept(neighbour);
-    ASSERT_TRUE(kept.open(QFile::ReadOnly));
-    EXPECT_EQ(kept.readAll(), "alt");
-    EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files).size(), 3) << "nothing is left behind";
+    EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden),
+              (QStringList{"alt.pdf", "probe.pdf"}));
+}
+
+TEST_F(PdfTest, PicturesKeepTheirPixelsAndInGreyTheirTransparency) {
+    QImage picture(40, 30, QImage::Format_ARGB32);
+    for (int y = 0; y < 30; ++y) {
+        for (int x = 0; x < 40; ++x) {
+            picture.setPixel(x, y, qRgba(x * 6, y * 8, (x * 37 + y * 91) % 256, x < 20 ? 255 : y * 8));
+        }
+    }
+    const QString source = folder.filePath("bild.png");
+    ASSERT_TRUE(picture.save(source));
+    for (const bool grey : {false, true}) {
+        QtPdfDevice device(metrics, path, "x", grey);
+        device.picture(10, 10, 40, 30, source.toStdString());
+        device.end_document();
+        output_of("pdfimages", {"-png", path, folder.filePath("aus")});
+        const QImage colours(folder.filePath("aus-000.png"));
+        const QImage mask(folder.filePath("aus-001.png"));
+        ASSERT_EQ(colours.size(), picture.size());
+        ASSERT_EQ(mask.size(), picture.size());
+        for (const QPoint p : {QPoint(3, 4), QPoint(17, 29), QPoint(39, 20)}) {
+            const QRgb full = picture.pixel(p);
+            const int value = qGray(full);
+            EXPECT_EQ(colours.pixel(p) & 0xFFFFFF, (grey ? qRgb(value, value, value) : full) & 0xFFFFFF);
+            EXPECT_EQ(qGray(mask.pixel(p)), qAlpha(full));
+        }
+    }
 }
 
 TEST_F(PdfTest, MeasuresInMillimetres) {
