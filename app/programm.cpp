@@ -36,9 +36,10 @@ struct Programm::Teile {
     Positionen positionen{form1, zustand, rechnung, summen, platform.dialogs};
     Rechnungsnummern nummern{form1, einstellungen, zustand, verzeichnis, platform.dialogs};
     ZuletztGeoeffnet zuletzt{form1, werte};
-    Rechnungsschreiber schreiber{form1, werte, zustand, platform.dialogs, platform.clock};
-    Rechnungsleser leser{form1, werte, zustand, rechnung, platform.dialogs};
-    Dateibefehle dateibefehle{form1,     zustand, rechnung, summen, platform.dialogs,
+    Dateistand stand;
+    Rechnungsschreiber schreiber{form1, werte, zustand, verzeichnis, stand, platform.dialogs, platform.clock};
+    Rechnungsleser leser{form1, werte, zustand, rechnung, stand, platform.dialogs};
+    Dateibefehle dateibefehle{form1,     zustand, rechnung, summen, stand, platform.dialogs,
                               schreiber, leser,   nummern,  zuletzt};
     Druckauftrag druckauftrag{
         form1, einstellungen, werte, platform.dialogs, platform.printing, platform.desktop, [this] {

@@ -98,9 +98,11 @@ struct Pruefstand {
     Positionen positionen{form1, zustand, rechnung, summen, dialoge};
     Rechnungsnummern nummern{form1, einstellungen, zustand, verzeichnis, dialoge};
     ZuletztGeoeffnet zuletzt{form1, werte};
-    Rechnungsschreiber schreiber{form1, werte, zustand, dialoge, uhr};
-    Rechnungsleser leser{form1, werte, zustand, rechnung, dialoge};
-    Dateibefehle befehle{form1, zustand, rechnung, summen, dialoge, schreiber, leser, nummern, zuletzt};
+    Dateistand stand;
+    Rechnungsschreiber schreiber{form1, werte, zustand, verzeichnis, stand, dialoge, uhr};
+    Rechnungsleser leser{form1, werte, zustand, rechnung, stand, dialoge};
+    Dateibefehle befehle{form1,   zustand,   rechnung, summen,  stand,
+                         dialoge, schreiber, leser,    nummern, zuletzt};
 
     Pruefstand() {
         rechnung.RechnungLeeren();

@@ -1,8 +1,9 @@
 #include "invoice/file/dateibefehle.hpp"
 
 #include "invoice/file/dateiname.hpp"
+#include "invoice/file/hindernis.hpp"
 #include "invoice/programmname.hpp"
-#include "platform/laufzeitfehler.hpp"
+#include "invoice/zeichenersatz.hpp"
 #include "platform/verzeichnis.hpp"
 
 namespace quittika {
@@ -14,12 +15,13 @@ constexpr const char* kSpeicherfehler = "FEHLER BEIM SPEICHERN";
 } // namespace
 
 Dateibefehle::Dateibefehle(Form1& form1, Rechnungszustand& zustand, Rechnung& rechnung, Summen& summen,
-                           Dialogs& dialogs, Rechnungsschreiber& schreiber, Rechnungsleser& leser,
-                           Rechnungsnummern& nummern, ZuletztGeoeffnet& zuletzt)
+                           const Dateistand& stand, Dialogs& dialogs, Rechnungsschreiber& schreiber,
+                           Rechnungsleser& leser, Rechnungsnummern& nummern, ZuletztGeoeffnet& zuletzt)
     : form1_(form1),
       zustand_(zustand),
       rechnung_(rechnung),
       summen_(summen),
+      stand_(stand),
       dialogs_(dialogs),
       schreiber_(schreiber),
       leser_(leser),
@@ -30,7 +32,7 @@ bool Dateibefehle::VorherSpeichern(Buttons tasten) {
     switch (
         dialogs_.message({"Möchten Sie Ihre aktuelle Rechnung vorher speichern?", kProgrammname, tasten})) {
     case Answer::Yes:
-        return m_speichern_Click();
+        return VorAnderemSpeichern();
     case Answer::Cancel:
         return false;
     default:
@@ -38,13 +40,26 @@ bool Dateibefehle::VorherSpeichern(Buttons tasten) {
     }
 }
 
+bool Dateibefehle::VorAnderemSpeichern() {
+    if (!m_speichern_Click()) {
+        return false;
+    }
+    if (schreiber_.Ersetzt() > 0) {
+        dialogs_.message({ZEICHENERSATZ_MELDUNG(schreiber_.Ersetzt()) +
+                              "\r\nBitte die gespeicherte Rechnung prüfen: " + zustand_.AktuellerPfad(),
+                          "Achtung!", Buttons::Ok, Symbol::Exclamation});
+    }
+    return true;
+}
+
 void Dateibefehle::m_neu_Click() {
+    const Hinweiszeile::Befehl befehl(form1_.Hinweise);
     if (zustand_.geaendert() && !zustand_.OhneRueckfrage && !VorherSpeichern(Buttons::YesNo)) {
         return;
     }
-    nummern_.RNNUMMERZUWEISEN();
     form1_.StatusBar1[2].Caption = "";
-    form1_.StatusBar1[3].Caption = "";
+    form1_.Hinweise.leeren();
+    nummern_.RNNUMMERZUWEISEN();
     rechnung_.RechnungLeeren();
     zustand_.DateiLoesen();
     summen_.VersandMerken({});
@@ -53,12 +68,14 @@ void Dateibefehle::m_neu_Click() {
 }
 
 bool Dateibefehle::m_speichern_Click() {
+    const Hinweiszeile::Befehl befehl(form1_.Hinweise);
     summen_.jetztberechnen_List();
+    nummern_.NummerErneuern();
     try {
         return SpeichernNach(SpeicherpfadWaehlen());
     } catch (const Laufzeitfehler& fehler) {
         if (fehler.nummer() != fehler::kDialogAbgebrochen) {
-            SpeicherfehlerMelden();
+            SpeicherfehlerMelden(fehler);
         }
         return false;
     }
@@ -69,6 +86,9 @@ std::string Dateibefehle::SpeicherpfadWaehlen() {
 }
 
 bool Dateibefehle::SpeichernNach(const std::string& pfad) {
+    if (!ErsetzenErlaubt(pfad)) {
+        return false;
+    }
     PfadZeigen(pfad);
     form1_.StatusBar1[2].Caption = "SPEICHERN VON: " + pfad;
     schreiber_.DateiDatenSammeln();
@@ -86,14 +106,22 @@ bool Dateibefehle::SpeichernNach(const std::string& pfad) {
 }
 
 void Dateibefehle::m_speichern_direkt_Click() {
+    const Hinweiszeile::Befehl befehl(form1_.Hinweise);
     const Answer antwort =
         dialogs_.message({"Möchten sie die aktuellen Änderungen dieser Rechnung speichern?",
                           "Aktuelle Änderungen speichern...", Buttons::YesNo});
     if (zustand_.AktuellerPfad().empty()) {
         return;
     }
-    if (antwort != Answer::Yes || !FremdeDateiUeberschreiben()) {
-        form1_.StatusBar1[2].Caption = "SPEICHERN WURDE ABGEBROCHEN";
+    if (antwort == Answer::Yes && FremdeDateiUeberschreiben()) {
+        AmPfadSpeichern();
+    } else {
+        AbbruchZeigen();
+    }
+}
+
+void Dateibefehle::AmPfadSpeichern() {
+    if (!ErsetzenErlaubt(zustand_.AktuellerPfad())) {
         return;
     }
     summen_.jetztberechnen_List();
@@ -107,6 +135,29 @@ void Dateibefehle::m_speichern_direkt_Click() {
     form1_.StatusBar1[2].Caption = "SPEICHERN ERFOLGREICH ABGESCHLOSSEN";
 }
 
+bool Dateibefehle::ErsetzenErlaubt(const std::string& pfad) {
+    if (!stand_.AnderswoGeaendert(pfad)) {
+        return true;
+    }
+    const Answer antwort =
+        dialogs_.message({"Die Datei >" + pfad +
+                              "< wurde von einem anderen Programm geändert, seit sie hier geöffnet oder "
+                              "gespeichert wurde. Soll sie trotzdem ersetzt werden?\r\n"
+                              "Nein behält beide: die Datei bleibt, wie sie ist, und Ihre Rechnung bleibt im "
+                              "Fenster.",
+                          "Datei wurde geändert", Buttons::YesNo, Symbol::Exclamation, Answer::No});
+    if (antwort == Answer::Yes) {
+        return true;
+    }
+    AbbruchZeigen();
+    form1_.Hinweise.melden("Ihre Rechnung ist nicht gespeichert: bitte unter einem anderen Namen speichern.");
+    return false;
+}
+
+void Dateibefehle::AbbruchZeigen() {
+    form1_.StatusBar1[2].Caption = "SPEICHERN WURDE ABGEBROCHEN";
+}
+
 bool Dateibefehle::FremdeDateiUeberschreiben() {
     if (zustand_.IstDateiDesPfads() || !datei_vorhanden(zustand_.AktuellerPfad())) {
         return true;
@@ -117,14 +168,16 @@ bool Dateibefehle::FremdeDateiUeberschreiben() {
 }
 
 void Dateibefehle::m_speichern_kurz_Click() {
+    const Hinweiszeile::Befehl befehl(form1_.Hinweise);
     if (zustand_.IstDateiDesPfads()) {
-        m_speichern_direkt_Click();
+        AmPfadSpeichern();
     } else {
         m_speichern_Click();
     }
 }
 
-void Dateibefehle::SpeicherfehlerMelden() {
+void Dateibefehle::SpeicherfehlerMelden(const Laufzeitfehler& fehler) {
+    form1_.Hinweise.melden(SPEICHERHINDERNIS(fehler));
     form1_.StatusBar1[2].Caption = kSpeicherfehler;
     dialogs_.message(
         {"Es dürfen keine Sonderzeichen(:;!?\\/!§$%&()@?ß, etc. im Feld >>RECHNUNG,KUNDENNAME und DATUM "
@@ -137,6 +190,7 @@ void Dateibefehle::m_oeffnen_Click() {
 }
 
 bool Dateibefehle::Oeffnen(const std::string& pfad) {
+    const Hinweiszeile::Befehl befehl(form1_.Hinweise);
     if (zustand_.geaendert() && !VorherSpeichern(Buttons::YesNo)) {
         return false;
     }
@@ -148,6 +202,7 @@ bool Dateibefehle::Oeffnen(const std::string& pfad) {
 }
 
 bool Dateibefehle::oeffneRN(const std::string& pfad) {
+    const Hinweiszeile::Befehl befehl(form1_.Hinweise);
     std::string gewaehlt = pfad;
     try {
         if (gewaehlt.empty()) {
@@ -157,7 +212,7 @@ bool Dateibefehle::oeffneRN(const std::string& pfad) {
         leser_.DateiEinlesen(gewaehlt);
         zuletzt_.ZuletztGeoeffnetMerken(gewaehlt);
         const bool rechnung = leser_.DateiDatenAnzeigen();
-        AktuellenPfadSetzen(rechnung && !leser_.Abgeschnitten() ? gewaehlt : std::string());
+        AktuellenPfadSetzen(rechnung && !leser_.befund().abgeschnitten ? gewaehlt : std::string());
         PfadZeigen(gewaehlt);
         Auffrischen();
         form1_.StatusBar1[2].Caption = "GEÖFFNETE DATEI: " + gewaehlt;
@@ -165,26 +220,29 @@ bool Dateibefehle::oeffneRN(const std::string& pfad) {
         return true;
     } catch (const Laufzeitfehler& fehler) {
         if (fehler.nummer() != fehler::kDialogAbgebrochen) {
-            OeffnungsfehlerMelden(gewaehlt);
+            OeffnungsfehlerMelden(gewaehlt, fehler);
         }
         return false;
     }
 }
 
 void Dateibefehle::m_R_Click(int n) {
+    const Hinweiszeile::Befehl befehl(form1_.Hinweise);
     const std::string pfad = zuletzt_.Eintrag(n);
     try {
         leser_.DateiEinlesen(pfad);
-        AktuellenPfadSetzen(leser_.DateiDatenAnzeigen() && !leser_.Abgeschnitten() ? pfad : std::string());
+        AktuellenPfadSetzen(leser_.DateiDatenAnzeigen() && !leser_.befund().abgeschnitten ? pfad
+                                                                                          : std::string());
         PfadZeigen(pfad);
         form1_.StatusBar1[2].Caption = "GEÖFFNETE DATEI: " + pfad;
         Auffrischen();
-    } catch (const Laufzeitfehler&) {
-        OeffnungsfehlerMelden(pfad);
+    } catch (const Laufzeitfehler& fehler) {
+        OeffnungsfehlerMelden(pfad, fehler);
     }
 }
 
-void Dateibefehle::OeffnungsfehlerMelden(const std::string& pfad) {
+void Dateibefehle::OeffnungsfehlerMelden(const std::string& pfad, const Laufzeitfehler& fehler) {
+    form1_.Hinweise.melden(OEFFNUNGSHINDERNIS(fehler));
     form1_.StatusBar1[2].Caption = "FEHLER BEIM ÖFFNEN VON DATEI: " + pfad;
     dialogs_.message({"Fehler beim öffnen dieser Datei.", "Achtung!"});
 }
@@ -199,8 +257,8 @@ void Dateibefehle::AktuellenPfadSetzen(const std::string& pfad) {
 }
 
 void Dateibefehle::Auffrischen() {
-    form1_.StatusBar1[3].Caption =
-        leser_.Abgeschnitten() ? "Achtung: Die Datei hat zu viele Zeilen, es fehlen Positionen." : "";
+    form1_.Hinweise.leeren();
+    form1_.Hinweise.melden(BEFUND_MELDUNG(leser_.befund()));
     summen_.VersandMerken(leser_.VersandGelesen());
     summen_.jetztberechnen_List();
     rechnung_.DarstellungAufbauen();

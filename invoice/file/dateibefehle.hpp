@@ -5,6 +5,7 @@
 #include "invoice/file/rechnungsschreiber.hpp"
 #include "invoice/file/zuletzt_geoeffnet.hpp"
 #include "invoice/summen.hpp"
+#include "platform/laufzeitfehler.hpp"
 
 #include <string>
 
@@ -14,8 +15,8 @@ namespace quittika {
 class Dateibefehle {
 public:
     Dateibefehle(Form1& form1, Rechnungszustand& zustand, Rechnung& rechnung, Summen& summen,
-                 Dialogs& dialogs, Rechnungsschreiber& schreiber, Rechnungsleser& leser,
-                 Rechnungsnummern& nummern, ZuletztGeoeffnet& zuletzt);
+                 const Dateistand& stand, Dialogs& dialogs, Rechnungsschreiber& schreiber,
+                 Rechnungsleser& leser, Rechnungsnummern& nummern, ZuletztGeoeffnet& zuletzt);
 
     /// Starts a new invoice, after asking whether to save the present one.
     void m_neu_Click();
@@ -23,7 +24,8 @@ public:
     bool m_speichern_Click();
     /// Saves to the current path after a question.
     void m_speichern_direkt_Click();
-    /// Saves to the current path if it is this invoice's own, else under a name that the user chooses.
+    /// Saves without a question to the current path if it is this invoice's own, else under a name that the
+    /// user chooses.
     void m_speichern_kurz_Click();
     void m_oeffnen_Click();
     /// Opens `pfad`, or the file that the user chooses when it is empty, after asking whether to save.
@@ -41,12 +43,18 @@ public:
     bool VorherSpeichern(Buttons tasten);
 
 private:
+    /// Saves before the invoice leaves the window: what the file could not hold is told in a box.
+    bool VorAnderemSpeichern();
     std::string SpeicherpfadWaehlen();
     bool SpeichernNach(const std::string& pfad);
+    void AmPfadSpeichern();
+    /// Asks before a file is replaced that another program has changed since it was opened.
+    bool ErsetzenErlaubt(const std::string& pfad);
+    void AbbruchZeigen();
     /// Asks before another invoice's file is replaced by the one in the window.
     bool FremdeDateiUeberschreiben();
-    void SpeicherfehlerMelden();
-    void OeffnungsfehlerMelden(const std::string& pfad);
+    void SpeicherfehlerMelden(const Laufzeitfehler& fehler);
+    void OeffnungsfehlerMelden(const std::string& pfad, const Laufzeitfehler& fehler);
     void PfadZeigen(const std::string& pfad);
     /// A file that was refused leaves no current path: what stands in the window is not what another file
     /// holds.
@@ -57,6 +65,7 @@ private:
     Rechnungszustand& zustand_;
     Rechnung& rechnung_;
     Summen& summen_;
+    const Dateistand& stand_;
     Dialogs& dialogs_;
     Rechnungsschreiber& schreiber_;
     Rechnungsleser& leser_;

@@ -14,6 +14,7 @@ namespace quittika {
 namespace {
 
 constexpr int kHoechstzeilen = 32001;
+constexpr std::size_t kHoechstbytes = 50U << 20U;
 
 std::string mit_komma(const std::string& text) {
     return ZEICHENERSETZEN(text, ".", ",");
@@ -37,40 +38,46 @@ void text_uebernehmen(Control& steuerelement, const std::string& text) {
 } // namespace
 
 Rechnungsleser::Rechnungsleser(Form1& form1, PROGRAMMEINSTELLUNG& einstellung, Rechnungszustand& zustand,
-                               Rechnung& rechnung, Dialogs& dialogs)
+                               Rechnung& rechnung, Dateistand& stand, Dialogs& dialogs)
     : form1_(form1),
       einstellung_(einstellung),
       zustand_(zustand),
       rechnung_(rechnung),
+      stand_(stand),
       dialogs_(dialogs),
       felder_(DATEIFELDER(form1)) {}
 
 void Rechnungsleser::DateiEinlesen(const std::string& pfad) {
-    InhaltUebernehmen(bytes_lesen(pfad));
+    const std::string bytes = bytes_lesen(pfad, kHoechstbytes);
+    InhaltUebernehmen(bytes);
+    stand_.merken(pfad, bytes);
 }
 
 void Rechnungsleser::InhaltUebernehmen(std::string_view bytes) {
     rechnung_.RechnungLeeren();
     DatenLesen.leeren();
     Dateiformat.clear();
-    abgeschnitten_ = false;
+    befund_ = {};
     int gelesen = 0;
     int nummer = 0;
     zeilen_durchgehen(bytes, [&](std::string_view zeile) {
         if (gelesen == kHoechstzeilen) {
-            abgeschnitten_ = true;
+            befund_.abgeschnitten = true;
             return false;
         }
         if (gelesen++ == 0) {
             Dateiformat = zeile;
         }
         if (beginnt_mit(zeile, kListenmarke)) {
+            befund_.positionen += POSITION_HEIL(zeile) ? 0 : 1;
             PositionUebernehmen(zeile);
         } else if (Dateiformat == kDateikennung) {
             DatenLesen.setzen(nummer++, std::string(zeile));
         }
         return true;
     });
+    befund_.gekuerzt = nummer <= dateizeile::kGespeichert || bytes.back() != '\n';
+    befund_.werte = UNVERSTANDENE_WERTE(DatenLesen, felder_);
 }
 
 void Rechnungsleser::PositionUebernehmen(std::string_view zeile) {
@@ -96,6 +103,7 @@ bool Rechnungsleser::DateiDatenAnzeigen() {
              "Dazu gehören Dateien mit folgender Endkennung: >>*.qk6<< und >>*.qk7<<. Evtl. ist die "
              "gesuchte Datei auch nicht mehr am ursprünglichen Speicherort.",
              "Fehler...Datei ist keine >>*.qk8<< - Datei..."});
+        befund_ = {};
         return false;
     }
     const Rechnungszustand::Sperre still(zustand_);

@@ -1,7 +1,9 @@
 #pragma once
 
 #include "invoice/berechnung.hpp"
+#include "invoice/file/befund.hpp"
 #include "invoice/file/dateifelder.hpp"
+#include "invoice/file/dateistand.hpp"
 #include "invoice/form1.hpp"
 #include "invoice/rechnung.hpp"
 #include "invoice/rechnungszustand.hpp"
@@ -18,10 +20,11 @@ namespace quittika {
 class Rechnungsleser {
 public:
     Rechnungsleser(Form1& form1, PROGRAMMEINSTELLUNG& einstellung, Rechnungszustand& zustand,
-                   Rechnung& rechnung, Dialogs& dialogs);
+                   Rechnung& rechnung, Dateistand& stand, Dialogs& dialogs);
 
     /// Resets the invoice and takes the file's lines into `DatenLesen` and its positions into the lists.
-    /// A file that cannot be read raises its `Laufzeitfehler` and leaves the window as it was.
+    /// A file that cannot be read, or of more than 50 MB, raises its `Laufzeitfehler` and leaves the window
+    /// as it was.
     void DateiEinlesen(const std::string& pfad);
 
     /// The same with the bytes of a file.
@@ -30,8 +33,8 @@ public:
     /// Split of the shipping costs as the file holds it; zeros where it holds none.
     Versandaufteilung VersandGelesen() const;
 
-    /// Whether the file held more lines than are read.
-    bool Abgeschnitten() const { return abgeschnitten_; }
+    /// What is wrong with the file, if it is an invoice.
+    const Befund& befund() const { return befund_; }
 
     /// Moves `DatenLesen` to the window. Says so and answers false when the file is no invoice.
     bool DateiDatenAnzeigen();
@@ -49,11 +52,12 @@ private:
     PROGRAMMEINSTELLUNG& einstellung_;
     Rechnungszustand& zustand_;
     Rechnung& rechnung_;
+    Dateistand& stand_;
     Dialogs& dialogs_;
     std::vector<Dateifeld> felder_;
     Dateizeilen DatenLesen;
     std::string Dateiformat; ///< first line of the file
-    bool abgeschnitten_ = false;
+    Befund befund_;
 };
 
 } // namespace quittika

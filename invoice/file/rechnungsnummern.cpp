@@ -5,7 +5,6 @@
 #include "platform/zahlen.hpp"
 
 #include <limits>
-#include <optional>
 #include <string>
 
 namespace quittika {
@@ -23,6 +22,15 @@ std::optional<int> zaehler_aus(const std::string& text) {
     }
 }
 
+Zaehlerstand ZAEHLERSTAND(const Programmverzeichnis& verzeichnis) {
+    const std::string pfad = verzeichnis.pfad("\\RN.txt");
+    if (!datei_vorhanden(pfad)) {
+        return {};
+    }
+    const std::optional<int> wert = zaehler_aus(DATEI_ERSTE_ZEILE(pfad));
+    return {wert, !wert};
+}
+
 } // namespace
 
 Rechnungsnummern::Rechnungsnummern(Form1& form1, frm_einstellungen& einstellungen, Rechnungszustand& zustand,
@@ -34,26 +42,47 @@ Rechnungsnummern::Rechnungsnummern(Form1& form1, frm_einstellungen& einstellunge
       dialogs_(dialogs) {}
 
 void Rechnungsnummern::RNStartLesen() {
-    const auto gelesen = zaehler_aus(DATEI_ERSTE_ZEILE(verzeichnis_.pfad("\\RN.txt")));
-    zaehler_ = gelesen ? *gelesen : zaehler_aus(einstellungen_.Text_RNStartwert.Text()).value_or(1);
+    const Hinweiszeile::Befehl befehl(form1_.Hinweise);
+    const Zaehlerstand stand = ZAEHLERSTAND(verzeichnis_);
+    zaehler_ = stand.wert ? *stand.wert : zaehler_aus(einstellungen_.Text_RNStartwert.Text()).value_or(1);
     ZaehlerZeigen();
-    RNNUMMERZUWEISEN();
+    NummerZeigen();
+    LesbarkeitMelden(stand);
 }
 
 void Rechnungsnummern::RNNUMMERZUWEISEN() {
-    const Rechnungszustand::Sperre still(zustand_);
-    const bool automatisch = einstellungen_.Check_RN_automatisch.ticked();
-    const std::string muster(static_cast<std::size_t>(einstellungen_.Slider_RNFORMAT.Value()), '0');
-    form1_.Text_RNnr.Text = format_zahl(automatisch ? zaehler_ : 0, muster);
-    form1_.Text_RNnr.Locked = automatisch;
+    if (automatisch()) {
+        LesbarkeitMelden(ZaehlerNachlesen());
+    }
+    NummerZeigen();
+}
+
+void Rechnungsnummern::NummerErneuern() {
+    if (!automatisch() || zustand_.IstDateiDesPfads() || form1_.Text_RNnr.Text() != Nummer()) {
+        return;
+    }
+    const std::string vorher = Nummer();
+    ZaehlerNachlesen();
+    if (Nummer() != vorher) {
+        NummerZeigen();
+        form1_.Hinweise.melden("Die Nummer " + vorher +
+                               " ist inzwischen vergeben: diese Rechnung bekommt die " + Nummer() + ".");
+    }
 }
 
 void Rechnungsnummern::NummerVerbrauchen() {
-    if (!einstellungen_.Check_RN_automatisch.ticked() || zaehler_ == std::numeric_limits<int>::max()) {
+    if (!automatisch()) {
+        return;
+    }
+    const Zaehlerstand stand = ZaehlerNachlesen();
+    if (zaehler_ == std::numeric_limits<int>::max()) {
+        form1_.Hinweise.melden("Der Zähler ist am Ende: die nächste Rechnung bekäme wieder die Nummer " +
+                               Nummer() + ". Bitte RN.txt berichtigen und neu starten.");
         return;
     }
     ++zaehler_;
     ZaehlerZeigen();
+    LesbarkeitMelden(stand);
     try {
         DATEI_SCHREIBEN(verzeichnis_.pfad("\\RN.txt"), std::to_string(zaehler_));
     } catch (const Laufzeitfehler& fehler) {
@@ -62,6 +91,33 @@ void Rechnungsnummern::NummerVerbrauchen() {
                  std::to_string(fehler.nummer()),
              "Achtung!", Buttons::Ok, Symbol::Exclamation});
     }
+}
+
+Zaehlerstand Rechnungsnummern::ZaehlerNachlesen() {
+    const Zaehlerstand stand = ZAEHLERSTAND(verzeichnis_);
+    if (stand.wert && *stand.wert > zaehler_) {
+        zaehler_ = *stand.wert;
+        ZaehlerZeigen();
+    }
+    return stand;
+}
+
+void Rechnungsnummern::LesbarkeitMelden(const Zaehlerstand& stand) {
+    if (stand.unlesbar) {
+        form1_.Hinweise.melden("Der Zähler in RN.txt ist nicht lesbar, die nächste Nummer ist " +
+                               std::to_string(zaehler_) + ": stimmt sie nicht, bitte RN.txt berichtigen.");
+    }
+}
+
+std::string Rechnungsnummern::Nummer() const {
+    const std::string muster(static_cast<std::size_t>(einstellungen_.Slider_RNFORMAT.Value()), '0');
+    return format_zahl(automatisch() ? zaehler_ : 0, muster);
+}
+
+void Rechnungsnummern::NummerZeigen() {
+    const Rechnungszustand::Sperre still(zustand_);
+    form1_.Text_RNnr.Text = Nummer();
+    form1_.Text_RNnr.Locked = automatisch();
 }
 
 void Rechnungsnummern::ZaehlerZeigen() {

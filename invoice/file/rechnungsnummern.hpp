@@ -6,7 +6,16 @@
 #include "platform/verzeichnis.hpp"
 #include "settings/frm_einstellungen.hpp"
 
+#include <optional>
+#include <string>
+
 namespace quittika {
+
+/// What RN.txt holds.
+struct Zaehlerstand {
+    std::optional<int> wert;
+    bool unlesbar = false; ///< the file is there and holds no number of 32 bits
+};
 
 /// Invoice numbers from the counter in RN.txt.
 class Rechnungsnummern {
@@ -14,14 +23,25 @@ public:
     Rechnungsnummern(Form1& form1, frm_einstellungen& einstellungen, Rechnungszustand& zustand,
                      const Programmverzeichnis& verzeichnis, Dialogs& dialogs);
 
-    /// Counter from RN.txt, or the settings' start value where that holds none; then `RNNUMMERZUWEISEN`.
+    /// Counter from RN.txt, or the settings' start value where that holds none; then its number is shown. A
+    /// counter that cannot be read is told in panel 3.
     void RNStartLesen();
     /// Puts the next number into `Text_RNnr`; with numbering by hand a zero. Not an edit by the user.
+    /// Automatic numbers follow the counter of another running program.
     void RNNUMMERZUWEISEN();
-    /// Uses up a number: raises the counter and writes it, if numbering is automatic.
+    /// Gives a new invoice another number where another program has used up its own since; panel 3 says so.
+    void NummerErneuern();
+    /// Uses up a number: raises the higher of the counter and the one in RN.txt and writes it, if numbering
+    /// is automatic.
     void NummerVerbrauchen();
 
 private:
+    bool automatisch() const { return einstellungen_.Check_RN_automatisch.ticked(); }
+    std::string Nummer() const;
+    /// Takes over the counter in RN.txt where it is higher.
+    Zaehlerstand ZaehlerNachlesen();
+    void LesbarkeitMelden(const Zaehlerstand& stand);
+    void NummerZeigen();
     void ZaehlerZeigen();
 
     Form1& form1_;

@@ -1,7 +1,7 @@
 #include "invoice/file/rechnungsschreiber.hpp"
 
+#include "invoice/file/hindernis.hpp"
 #include "invoice/zeichenersatz.hpp"
-#include "platform/datei.hpp"
 #include "platform/datum.hpp"
 #include "platform/text.hpp"
 #include "platform/textdatei.hpp"
@@ -25,8 +25,8 @@ std::string einzeilig(std::string text) {
     return text;
 }
 
-/// A field that begins like a position or reads like the mark of an unset one would be taken for that: a blank in
-/// front keeps it a field.
+/// A field that begins like a position or reads like the mark of an unset one would be taken for that: a
+/// blank in front keeps it a field.
 std::string feldzeile(std::string text) {
     text = einzeilig(std::move(text));
     return beginnt_mit(text, kListenmarke) || text == kNichtGesetzt ? " " + text : text;
@@ -39,10 +39,14 @@ std::string numerisch_oder_null(const std::string& text) {
 } // namespace
 
 Rechnungsschreiber::Rechnungsschreiber(Form1& form1, const PROGRAMMEINSTELLUNG& einstellung,
-                                       const Rechnungszustand& zustand, Dialogs& dialogs, const Clock& uhr)
+                                       const Rechnungszustand& zustand,
+                                       const Programmverzeichnis& verzeichnis, Dateistand& stand,
+                                       Dialogs& dialogs, const Clock& uhr)
     : form1_(form1),
       einstellung_(einstellung),
       zustand_(zustand),
+      verzeichnis_(verzeichnis),
+      stand_(stand),
       dialogs_(dialogs),
       uhr_(uhr),
       felder_(DATEIFELDER(form1)) {}
@@ -97,13 +101,34 @@ bool Rechnungsschreiber::DateiSchreiben(const std::string& pfad) {
     }
     datei.zeile("Gespeichert am: " + datum_zeit_text(uhr_.now()));
     PositionenAnfuegen(datei);
+    stand_.vormerken(datei.bytes());
     try {
-        datei_ersetzen(pfad, datei.bytes());
-        form1_.StatusBar1[3].Caption = ZEICHENERSATZ_MELDUNG(datei.ersetzt());
+        const std::string beiseite = datei_ersetzen(pfad, datei.bytes(), verzeichnis_.ordner());
+        stand_.merken(pfad, datei.bytes());
+        ersetzt_ = datei.ersetzt();
+        form1_.Hinweise.melden(ZEICHENERSATZ_MELDUNG(ersetzt_));
+        if (!beiseite.empty()) {
+            form1_.Hinweise.melden(
+                "Der Ordner nimmt keine neue Datei an: am alten Platz gespeichert, der alte "
+                "Inhalt liegt in >>" +
+                beiseite + "<<.");
+        }
         return true;
-    } catch (const Laufzeitfehler&) {
-        dialogs_.message({"Fehler beim speichern", "FEHLER BEIM SPEICHERN"});
+    } catch (const Laufzeitfehler& fehler) {
+        FehlerMelden(fehler);
         return false;
+    }
+}
+
+void Rechnungsschreiber::FehlerMelden(const Laufzeitfehler& fehler) {
+    form1_.Hinweise.melden(SPEICHERHINDERNIS(fehler));
+    dialogs_.message({"Fehler beim speichern", "FEHLER BEIM SPEICHERN"});
+    if (const auto* schaden = dynamic_cast<const Dateischaden*>(&fehler)) {
+        dialogs_.message({"Die Datei >>" + schaden->ort() +
+                              "<< wurde nur zum Teil geschrieben. Ihr alter Inhalt "
+                              "liegt in >>" +
+                              schaden->beiseite() + "<<.",
+                          "Achtung!", Buttons::Ok, Symbol::Exclamation});
     }
 }
 

@@ -1,11 +1,14 @@
 #pragma once
 
 #include "invoice/file/dateifelder.hpp"
+#include "invoice/file/dateistand.hpp"
 #include "invoice/form1.hpp"
 #include "invoice/rechnungszustand.hpp"
+#include "platform/datei.hpp"
 #include "platform/dialogs.hpp"
 #include "platform/shell.hpp"
 #include "platform/textdatei.hpp"
+#include "platform/verzeichnis.hpp"
 #include "settings/programmeinstellung.hpp"
 
 #include <string>
@@ -17,26 +20,33 @@ namespace quittika {
 class Rechnungsschreiber {
 public:
     Rechnungsschreiber(Form1& form1, const PROGRAMMEINSTELLUNG& einstellung, const Rechnungszustand& zustand,
-                       Dialogs& dialogs, const Clock& uhr);
+                       const Programmverzeichnis& verzeichnis, Dateistand& stand, Dialogs& dialogs,
+                       const Clock& uhr);
 
     /// Fills `DatenSchreiben` from the window.
     void DateiDatenSammeln();
     /// Writes `DatenSchreiben`, the time of saving and a line for each position; the old file stays until the
-    /// new one is complete. Shows a message and answers false when that fails. Characters that the file
-    /// cannot hold are named in panel 3.
+    /// new one is complete. Shows a message and answers false when that fails. Panel 3 tells why, or of
+    /// characters that the file cannot hold, or where the old content of a file written in place lies.
     bool DateiSchreiben(const std::string& pfad);
+    /// How many characters the file written last could not hold.
+    std::size_t Ersetzt() const { return ersetzt_; }
 
 private:
+    void FehlerMelden(const Laufzeitfehler& fehler);
     void BesondereZeilen();
     void PositionenAnfuegen(Textpuffer& datei) const;
 
     Form1& form1_;
     const PROGRAMMEINSTELLUNG& einstellung_;
     const Rechnungszustand& zustand_;
+    const Programmverzeichnis& verzeichnis_;
+    Dateistand& stand_;
     Dialogs& dialogs_;
     const Clock& uhr_;
     std::vector<Dateifeld> felder_;
     Dateizeilen DatenSchreiben;
+    std::size_t ersetzt_ = 0;
 };
 
 } // namespace quittika

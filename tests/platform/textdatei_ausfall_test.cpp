@@ -6,9 +6,6 @@
 
 #include <gtest/gtest.h>
 
-#include <csignal>
-
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -22,55 +19,6 @@ template <class Tun> int nummer_aus(Tun tun) {
         return f.nummer();
     }
     return 0;
-}
-
-/// Files of this process end at `bytes`, for its lifetime: a disk that fills up in the middle of a file.
-class KnapperDatentraeger {
-public:
-    explicit KnapperDatentraeger(rlim_t bytes) : signal_(std::signal(SIGXFSZ, SIG_IGN)) {
-        getrlimit(RLIMIT_FSIZE, &alt_);
-        rlimit knapp = alt_;
-        knapp.rlim_cur = bytes;
-        if (setrlimit(RLIMIT_FSIZE, &knapp) != 0) {
-            ADD_FAILURE() << "cannot limit the size of files";
-        }
-    }
-    KnapperDatentraeger(const KnapperDatentraeger&) = delete;
-    KnapperDatentraeger& operator=(const KnapperDatentraeger&) = delete;
-    ~KnapperDatentraeger() {
-        setrlimit(RLIMIT_FSIZE, &alt_);
-        std::signal(SIGXFSZ, signal_);
-    }
-
-private:
-    rlimit alt_{};
-    void (*signal_)(int);
-};
-
-TEST(TextdateiAusfall, VollerDatentraegerLaesstDasAlteStehen) {
-    const Probenordner o;
-    o.schreiben("rechnung.qk8", "alt\r\n");
-    int nummer = 0;
-    {
-        const KnapperDatentraeger knapp(100);
-        nummer = nummer_aus([&] { zeilen_ersetzen(o.pfad("rechnung.qk8"), {std::string(5000, 'x')}); });
-    }
-    EXPECT_EQ(nummer, fehler::kDatentraegerVoll);
-    EXPECT_EQ(o.lesen("rechnung.qk8"), "alt\r\n");
-    EXPECT_FALSE(std::filesystem::exists(o.pfad("rechnung.qk8.neu")));
-}
-
-TEST(TextdateiAusfall, HalbAngehaengteZeileWirdZurueckgenommen) {
-    const Probenordner o;
-    o.schreiben("kunden.txt", "Meier\r\n");
-    Dateiergebnis ergebnis;
-    {
-        const KnapperDatentraeger knapp(20);
-        ergebnis = ZEILE_ANHAENGEN(o.pfad("kunden.txt"), std::string(200, 'x'));
-    }
-    EXPECT_FALSE(ergebnis);
-    EXPECT_EQ(ergebnis.fehlernummer, fehler::kDatentraegerVoll);
-    EXPECT_EQ(o.lesen("kunden.txt"), "Meier\r\n");
 }
 
 TEST(TextdateiAusfall, SchreibgeschuetzteDatei) {

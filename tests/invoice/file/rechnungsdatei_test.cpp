@@ -1,6 +1,7 @@
 #include "invoice/file/dateibefehle.hpp"
 
 #include "platform/textdatei.hpp"
+#include "tests/ohne_vorrechte.hpp"
 #include "tests/pruefstand.hpp"
 
 #include <gtest/gtest.h>
@@ -9,6 +10,7 @@
 #include <random>
 
 #include <sys/resource.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace quittika {
@@ -266,8 +268,10 @@ TEST(Rechnungsdatei, AbgeschnitteneDateiWirdNichtUeberschrieben) {
     EXPECT_TRUE(p.oeffnen("lang.qk8"));
     EXPECT_EQ(p.form1.List_K.ListCount(), 32000);
     EXPECT_EQ(p.zustand.AktuellerPfad(), "");
-    EXPECT_EQ(p.form1.StatusBar1[3].Caption(),
-              "Achtung: Die Datei hat zu viele Zeilen, es fehlen Positionen.");
+    EXPECT_EQ(
+        p.form1.StatusBar1[3].Caption(),
+        "Achtung, Datei beschädigt: zu viele Zeilen (es fehlen Positionen), kürzer als üblich. Bitte vor "
+        "dem Speichern prüfen.");
 }
 
 TEST(Rechnungsdatei, FelderDieWiePositionenAussehenBleibenFelder) {
@@ -337,6 +341,37 @@ TEST(Rechnungsdatei, MisslungenesSpeichernKostetNichts) {
     EXPECT_EQ(p.ordner.lesen("RN.txt"), "2\r\n") << "no number is used up";
     EXPECT_FALSE(p.speichern("kein/ordner.qk8"));
     EXPECT_EQ(p.zustand.AktuellerPfad(), p.ordner.pfad("a.qk8"));
+}
+
+TEST(Rechnungsdatei, ImGesperrtenOrdnerWirdAmOrtGespeichert) {
+    Pruefstand p;
+    std::filesystem::create_directory(p.ordner.pfad("gesperrt"));
+    ASSERT_TRUE(p.speichern("gesperrt/a.qk8"));
+    const std::string alt = p.ordner.lesen("gesperrt/a.qk8");
+    p.form1.Text_Kunde_1.Text = "Neu";
+    {
+        const OhneVorrechte niemand(p.ordner.ordner(), p.ordner.pfad("gesperrt/a.qk8"));
+        chmod(p.ordner.pfad("gesperrt").c_str(), 0555);
+        for (int i = 0; i < 2; ++i) { // the second time a copy is there already
+            ASSERT_TRUE(p.speichern("gesperrt/a.qk8"));
+            const std::string beiseite = p.ordner.pfad("Sicherung von a.qk8");
+            EXPECT_EQ(
+                p.form1.StatusBar1[3].Caption(),
+                "Der Ordner nimmt keine neue Datei an: am alten Platz gespeichert, der alte Inhalt liegt in "
+                ">>" +
+                    beiseite + "<<.");
+            EXPECT_EQ(p.ordner.lesen("Sicherung von a.qk8") == alt, i == 0);
+        }
+        EXPECT_FALSE(p.speichern("gesperrt/b.qk8"));
+        EXPECT_EQ(p.form1.StatusBar1[3].Caption(),
+                  "Der Ordner ist schreibgeschützt: bitte in einem anderen speichern.");
+        chmod(p.ordner.pfad("gesperrt/a.qk8").c_str(), 0444);
+        EXPECT_FALSE(p.speichern("gesperrt/a.qk8"));
+        EXPECT_EQ(p.form1.StatusBar1[3].Caption(),
+                  "Die Datei ist schreibgeschützt: bitte unter einem anderen Namen speichern.");
+        chmod(p.ordner.pfad("gesperrt").c_str(), 0755);
+    }
+    EXPECT_NE(p.ordner.lesen("gesperrt/a.qk8").find("\r\nNeu\r\n"), std::string::npos);
 }
 
 TEST(Rechnungsdatei, WasDerZeichensatzNichtKenntWirdGesagt) {

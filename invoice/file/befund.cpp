@@ -1,0 +1,95 @@
+#include "invoice/file/befund.hpp"
+
+#include "platform/datum.hpp"
+#include "platform/text.hpp"
+#include "platform/textdatei.hpp"
+#include "platform/zahlen.hpp"
+
+#include <algorithm>
+
+namespace quittika {
+
+namespace {
+
+constexpr int kDatum = 2;
+constexpr int kZahlen[] = {dateizeile::kMwStText,
+                           52,
+                           53,
+                           54,
+                           dateizeile::kMahnung,
+                           dateizeile::kMwStSatz,
+                           dateizeile::kRabattprozent,
+                           dateizeile::kRabattbetrag,
+                           dateizeile::kNachRabatt,
+                           dateizeile::kVersandEingabe,
+                           dateizeile::kVersandMwSt,
+                           dateizeile::kVersandNetto};
+
+bool zahl(const std::string& text) {
+    return ist_numerisch(text) || ist_numerisch(ZEICHENERSETZEN(text, ".", ","));
+}
+
+bool gesetzt(const std::string& text) {
+    return !text.empty() && text != kNichtGesetzt;
+}
+
+bool verstanden(const Dateifeld& feld, const std::string& text) {
+    if (dynamic_cast<const CheckBox*>(feld.steuerelement) != nullptr) {
+        const auto wert = double_versuch(text);
+        return wert && (*wert == 0 || *wert == 1 || *wert == 2);
+    }
+    return dynamic_cast<const OptionButton*>(feld.steuerelement) == nullptr || wahrheitswert(text);
+}
+
+std::string anzahl(int n, const std::string& eines, const std::string& mehrere) {
+    return n == 1 ? "1 " + eines : std::to_string(n) + " " + mehrere;
+}
+
+void anfuegen(std::string& liste, const std::string& text) {
+    liste += (liste.empty() ? "" : ", ") + text;
+}
+
+} // namespace
+
+std::string BEFUND_MELDUNG(const Befund& befund) {
+    std::string schaden;
+    if (befund.abgeschnitten) {
+        anfuegen(schaden, "zu viele Zeilen (es fehlen Positionen)");
+    }
+    if (befund.gekuerzt) {
+        anfuegen(schaden, "kürzer als üblich");
+    }
+    if (befund.positionen > 0) {
+        anfuegen(schaden, anzahl(befund.positionen, "Positionszeile", "Positionszeilen") + " beschädigt");
+    }
+    if (befund.werte > 0) {
+        anfuegen(schaden, anzahl(befund.werte, "Wert", "Werte") + " nicht verstanden");
+    }
+    return schaden.empty() ? schaden
+                           : "Achtung, Datei beschädigt: " + schaden + ". Bitte vor dem Speichern prüfen.";
+}
+
+bool POSITION_HEIL(std::string_view zeile) {
+    constexpr int kWerte = 6;
+    if (std::count(zeile.begin(), zeile.end(), ';') != kWerte) {
+        return false;
+    }
+    const auto wert = [zeile](int n) { return FELD_AUS_ZEILE(zeile, ";", n); };
+    const std::string art = wert(2);
+    return art == "K" || art == "T" ||
+           (art == "-" && ist_numerisch(wert(3)) && ist_numerisch(wert(5)) && ist_numerisch(wert(6)));
+}
+
+int UNVERSTANDENE_WERTE(const Dateizeilen& zeilen, const std::vector<Dateifeld>& felder) {
+    int anzahl = 0;
+    for (const Dateifeld& feld : felder) {
+        const std::string& text = zeilen[feld.zeile];
+        anzahl += feld.lesart != Lesart::Nie && gesetzt(text) && !verstanden(feld, text) ? 1 : 0;
+    }
+    for (const int zeile : kZahlen) {
+        anzahl += gesetzt(zeilen[zeile]) && !zahl(zeilen[zeile]) ? 1 : 0;
+    }
+    return anzahl + (gesetzt(zeilen[kDatum]) && !datum_lesen(zeilen[kDatum]) ? 1 : 0);
+}
+
+} // namespace quittika
