@@ -15,8 +15,8 @@
 namespace quittika {
 namespace {
 
-/// One more row on a list of 1,000, until the window has drawn it.
-void eine_zeile_mehr(benchmark::State& state) {
+/// One more row on a list of `vorher` rows, until the window has drawn it.
+void eine_zeile_mehr(benchmark::State& state, int vorher) {
     const Probenordner ordner;
     QtPlatform plattform;
     Programm programm(plattform.platform(), ordner.ordner());
@@ -28,7 +28,7 @@ void eine_zeile_mehr(benchmark::State& state) {
         f.Text_preis.Text = "1,99";
         f.Cmd_Add_To_list.Click();
     };
-    for (int i = 0; i < 1000; ++i) {
+    for (int i = 0; i < vorher; ++i) {
         zeile();
     }
     QApplication::processEvents();
@@ -41,7 +41,8 @@ void eine_zeile_mehr(benchmark::State& state) {
         state.ResumeTiming();
     }
 }
-BENCHMARK(eine_zeile_mehr)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(eine_zeile_mehr, 1000, 1000)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(eine_zeile_mehr, 5000, 5000)->Unit(benchmark::kMillisecond);
 
 /// Keeps the calls that reach a device.
 class Aufrufe : public PrintDevice {
