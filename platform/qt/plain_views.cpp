@@ -94,6 +94,9 @@ void PictureView::paint() {
     const QRect place =
         QStyle::alignedRect(widget_.layoutDirection(), label ? label->alignment() : Qt::AlignCenter,
                             (QSizeF(size) / ratio).toSize(), room);
+    if (scaled_.hasAlpha()) {
+        painter.fillRect(place, Qt::white); // the ground is paper, whatever the window's colours are
+    }
     painter.drawPixmap(place, scaled_);
 }
 
