@@ -43,9 +43,9 @@ PrintDialog::PrintDialog(QPrinter& printer, const QString& file, QWidget* parent
 
 void PrintDialog::setVisible(bool visible) {
     QPrintDialog::setVisible(visible);
-    for (const char* name : {"gbPrintRange", "pageSetCombo", "pageSetLabel"}) {
-        if (auto* range = findChild<QWidget*>(QLatin1String(name))) {
-            range->hide();
+    for (const char* name : {"gbPrintRange", "pageSetCombo", "pageSetLabel", "reverse"}) {
+        if (auto* setting = findChild<QWidget*>(QLatin1String(name))) {
+            setting->hide();
         }
     }
 }

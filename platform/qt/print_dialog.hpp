@@ -10,8 +10,9 @@ namespace quittika {
 /// `folder`, names without the ending get it.
 QString pdf_path(const QString& typed, const QString& folder);
 
-/// The toolkit's printer dialog with a PDF file of the program's choice, and without the settings that some
-/// printers would ignore: page range and page set, and the collation of copies that are jobs of their own.
+/// The toolkit's printer dialog with a PDF file of the program's choice, and without the settings that not
+/// every device heeds: range, set and order of the pages, and the collation of copies that are jobs of their
+/// own.
 class PrintDialog final : public QPrintDialog {
 public:
     /// `file`: path offered to a user who prints into a file.

@@ -87,7 +87,7 @@ TEST(ScriptPages, PrintToWritesAllJobsSinceIntoOneFile) {
     EXPECT_EQ(files, expected);
 }
 
-TEST(ScriptPages, PreviewIsRecordedButNotPrinted) {
+TEST(ScriptPages, APreviewIsNotPrintedAndCopiesAreNotWrittenOneByOne) {
     const FakeMetrics metrics;
     std::vector<std::string> files;
     ScriptPrinting printing(
@@ -103,6 +103,12 @@ TEST(ScriptPages, PreviewIsRecordedButNotPrinted) {
     EXPECT_EQ(listing(*printing.jobs().front()),
               (std::vector<std::string>{"job Vorschau", "page 1", "line 1.00 2.00 3.00 4.00 5", "enddoc"}));
     EXPECT_TRUE(files.empty());
+    for (int copy = 0; copy < 5; ++copy) {
+        printing.printer("Blatt")->end_document();
+    }
+    EXPECT_EQ(files, std::vector<std::string>{""}) << "the first meets the errors of the surface";
+    printing.end_command();
+    EXPECT_EQ(files, (std::vector<std::string>{"", "////"}));
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 #include "platform/print_surface.hpp"
 #include "platform/qt/print_printer.hpp"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <QDir>
@@ -68,9 +69,13 @@ public:
     OwnPrintServer(const OwnPrintServer&) = delete;
     OwnPrintServer& operator=(const OwnPrintServer&) = delete;
     ~OwnPrintServer() {
+        stop();
+        qunsetenv("CUPS_SERVER");
+    }
+
+    void stop() {
         server_.terminate();
         server_.waitForFinished(5000);
-        qunsetenv("CUPS_SERVER");
     }
 
     /// The documents that have come out, once the queue is empty.
@@ -175,13 +180,15 @@ protected:
         }
         surface.EndDoc();
     }
-    static int error_of_printing(QPrinter& printer) {
+    /// What the user is told of a job that failed; empty if it did not.
+    static std::string reason_of_failure(QPrinter& printer) {
         try {
             print_page(printer, 1);
         } catch (const Laufzeitfehler& f) {
-            return f.nummer();
+            EXPECT_EQ(f.nummer(), fehler::kDrucker);
+            return f.ort();
         }
-        return 0;
+        return {};
     }
 
     static std::unique_ptr<OwnPrintServer> server;
@@ -203,26 +210,27 @@ TEST_F(CupsTest, APageComesOutAndCopiesAreNotMultiplied) {
     EXPECT_TRUE(call("pdfinfo", {documents[0]}).contains("Pages:           2"));
 }
 
-TEST_F(CupsTest, AQueueThatTakesNoJobIsAnError) {
+TEST_F(CupsTest, AFailureSaysWhatStoodInTheWay) {
+    using testing::HasSubstr;
     QPrinter printer(QPrinter::HighResolution);
     printer.setPrinterName("GP");
     call("cupsreject", {"GP"});
-    EXPECT_EQ(error_of_printing(printer), fehler::kDrucker);
+    EXPECT_THAT(reason_of_failure(printer), HasSubstr("GP nimmt keine Aufträge an."));
     call("cupsaccept", {"GP"});
     call("cupsdisable", {"GP"});
-    EXPECT_EQ(error_of_printing(printer), fehler::kDrucker);
+    EXPECT_THAT(reason_of_failure(printer), HasSubstr("GP ist angehalten."));
     call("cupsenable", {"GP"});
-    EXPECT_EQ(error_of_printing(printer), 0);
-}
+    EXPECT_EQ(reason_of_failure(printer), "");
 
-TEST_F(CupsTest, ARemovedPrinterIsAnError) {
-    QPrinter printer(QPrinter::HighResolution);
     call("lpadmin", {"-p", "WEG", "-E", "-v", "testdir:/tmp", "-P",
                      "/usr/share/ppd/cupsfilters/Generic-PDF_Printer-PDF.ppd"});
     printer.setPrinterName("WEG");
     ASSERT_EQ(printer.printerName(), "WEG");
     call("lpadmin", {"-x", "WEG"});
-    EXPECT_EQ(error_of_printing(printer), fehler::kDrucker);
+    EXPECT_THAT(reason_of_failure(printer), HasSubstr("WEG ist dem System nicht bekannt."));
+
+    server->stop();
+    EXPECT_THAT(reason_of_failure(printer), HasSubstr("Druckserver ist nicht erreichbar."));
 }
 
 } // namespace

@@ -1,4 +1,6 @@
 #include "platform/laufzeitfehler.hpp"
+#include "platform/qt/print_dialog.hpp"
+#include "platform/qt/print_printing.hpp"
 #include "platform/qt/qt_dialogs.hpp"
 #include "platform/qt/qt_shell.hpp"
 
@@ -7,10 +9,13 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QColorDialog>
+#include <QComboBox>
 #include <QDesktopServices>
 #include <QDialogButtonBox>
 #include <QFileDialog>
+#include <QLineEdit>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
@@ -137,6 +142,62 @@ TEST_F(DialogsTest, CancelledColourIsAnErrorAndAChosenOneIsNot) {
         window.accept();
     });
     EXPECT_EQ(dialogs.choose_color(color::kYellow), color::rgb(1, 2, 3));
+}
+
+TEST_F(DialogsTest, PrintingIntoAFileProposesANameAndAsksBeforeItReplacesOne) {
+    const QTemporaryDir folder;
+    const QString old = folder.filePath("alt.pdf");
+    QFile(old).open(QFile::WriteOnly);
+    const auto field = [](QPrintDialog& window) { return window.findChild<QLineEdit*>("filename"); };
+    const auto print = [](QPrintDialog& window) {
+        window.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok)->click();
+    };
+    QString question;
+    on_dialog<QPrintDialog>([&](QPrintDialog& window) {
+        auto* printers = window.findChild<QComboBox*>("printers");
+        printers->setCurrentIndex(printers->count() - 1);
+        EXPECT_EQ(field(window)->text(), QDir::home().filePath("RECHNUNG 7.pdf"));
+        EXPECT_TRUE(window.findChild<QWidget*>("gbPrintRange")->isHidden());
+        EXPECT_TRUE(window.findChild<QWidget*>("pageSetCombo")->isHidden());
+        on_dialog<QMessageBox>([&](QMessageBox& box) {
+            question = box.text();
+            box.button(QMessageBox::No)->click();
+        });
+        field(window)->setText(folder.filePath("alt"));
+        print(window);
+        EXPECT_TRUE(window.isVisible());
+        field(window)->setText(folder.filePath("neu"));
+        print(window);
+    });
+    EXPECT_EQ(dialogs.choose_printer({1, "RECHNUNG 7.pdf"}), 1);
+    EXPECT_TRUE(question.contains(old)) << question.toStdString();
+    QtPrinting printing([this] { return &printer.printer(); });
+    EXPECT_EQ(printing.output_file(), folder.filePath("neu.pdf").toStdString());
+    printing.printer("x")->end_document();
+    EXPECT_TRUE(QFile::exists(folder.filePath("neu.pdf")));
+
+    on_dialog<QPrintDialog>([&](QPrintDialog& window) {
+        EXPECT_EQ(field(window)->text(), folder.filePath("RECHNUNG 8.pdf")) << "never an earlier name";
+        window.reject();
+    });
+    EXPECT_EQ(error_of([&] { dialogs.choose_printer({1, "RECHNUNG 8.pdf"}); }), 32755);
+}
+
+TEST(PdfPath, IsWhatTheUserMeans) {
+    const QString home = QDir::homePath();
+    const QString cases[][2] = {
+        {"/a/b.pdf", "/a/b.pdf"},
+        {" /a/b.PDF ", "/a/b.PDF"},
+        {"b", "/hier/b.pdf"},
+        {"b 1.2", "/hier/b 1.2.pdf"},
+        {"../b.pdf", "/b.pdf"},
+        {"~/b", home + "/b.pdf"},
+        {"", ""},
+        {"/a/", "/a/"},
+    };
+    for (const auto& [typed, path] : cases) {
+        EXPECT_EQ(pdf_path(typed, "/hier"), path) << typed.toStdString();
+    }
 }
 
 /// Takes what the shell hands to the system.
