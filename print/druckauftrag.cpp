@@ -1,6 +1,7 @@
 #include "print/druckauftrag.hpp"
 
 #include "invoice/belegtexte.hpp"
+#include "invoice/file/hindernis.hpp"
 #include "platform/laufzeitfehler.hpp"
 #include "platform/print_surface.hpp"
 #include "print/firmenkopf.hpp"
@@ -11,6 +12,19 @@
 #include <utility>
 
 namespace quittika {
+
+namespace {
+
+/// Why a job failed, and the way out. The print system names its reason itself.
+std::string DRUCKHINDERNIS(const Laufzeitfehler& fehler) {
+    if (fehler.nummer() != fehler::kDrucker) {
+        return SPEICHERHINDERNIS(fehler);
+    }
+    return fehler.ort().empty() ? "Der Drucker meldet einen Fehler: bitte prüfen und noch einmal drucken."
+                                : fehler.ort();
+}
+
+} // namespace
 
 Druckauftrag::Druckauftrag(Form1& form1, const frm_einstellungen& einstellungen,
                            const PROGRAMMEINSTELLUNG& programm, Dialogs& dialogs, Printing& printing,
@@ -55,16 +69,9 @@ std::string Druckauftrag::auftragstitel() const {
            form1_.Text_RNnr.Text();
 }
 
-void Druckauftrag::melden(const std::string& text) {
-    form1_.StatusBar1[3].Caption = text;
-    gemeldet_ = text;
-}
-
 void Druckauftrag::Command_printform_Click() {
+    const Hinweiszeile::Befehl befehl(form1_.Hinweise);
     const Druckjustierung just = JUSTIERUNG_LESEN(einstellungen_);
-    if (form1_.StatusBar1[3].Caption() == gemeldet_) {
-        melden({}); // what the last job reported; a report of somebody else stays
-    }
     status("BERECHNEN...");
     jetztberechnen_List_();
     try {
@@ -78,7 +85,7 @@ void Druckauftrag::Command_printform_Click() {
             return;
         }
         status("FEHLER BEIM DRUCKEN!");
-        melden(fehler.what());
+        form1_.Hinweise.melden(DRUCKHINDERNIS(fehler));
     }
 }
 
@@ -87,7 +94,7 @@ void Druckauftrag::drucke(Druckjustierung just, const Druckoptionen& optionen) {
     const std::string titel = auftragstitel();
     form1_.Text1.Text = std::to_string(exemplare);
     if (LAYOUT_GEWAEHLT(einstellungen_) == 0) {
-        melden("Es ist kein Layout gewählt, deshalb wurde nichts gedruckt.");
+        form1_.Hinweise.melden("Es ist kein Layout gewählt, deshalb wurde nichts gedruckt.");
         return;
     }
     std::string fehlendes_bild;
@@ -100,12 +107,11 @@ void Druckauftrag::drucke(Druckjustierung just, const Druckoptionen& optionen) {
 
 void Druckauftrag::ergebnis_melden(const std::string& fehlendes_bild) {
     const std::string datei = printing_.output_file();
-    std::string text = datei.empty() ? std::string() : "Die PDF-Datei liegt hier: " + datei;
-    if (!fehlendes_bild.empty()) {
-        text += (text.empty() ? "" : "   ") + ("Ohne das Bild " + fehlendes_bild + " gedruckt.");
+    if (!datei.empty()) {
+        form1_.Hinweise.melden("Die PDF-Datei liegt hier: " + datei);
     }
-    if (!text.empty()) {
-        melden(text);
+    if (!fehlendes_bild.empty()) {
+        form1_.Hinweise.melden("Ohne das Bild " + fehlendes_bild + " gedruckt.");
     }
 }
 

@@ -38,7 +38,6 @@ public:
 
 private:
     void status(const std::string& text) { form1_.StatusBar1[2].Caption = text; }
-    void melden(const std::string& text);
     void drucke(Druckjustierung just, const Druckoptionen& optionen);
     /// Returns the picture that could not be drawn, empty if there was none.
     std::string drucke_exemplar(const std::string& titel, Druckjustierung just,
@@ -54,7 +53,6 @@ private:
     std::function<void()> jetztberechnen_List_;
     Form_Lieferschein_opt lieferschein_opt_;
     bool lieferschein_weiter_ = false; ///< its button was pressed
-    std::string gemeldet_;             ///< what was put into panel 3 last
     Rechnungsdruck rechnungsdruck_;
 };
 

@@ -103,10 +103,12 @@ TEST(Druckauftrag, AbbruchUndFehlerStehenInDerStatuszeile) {
     };
     const Fall faelle[] = {
         {"abgebrochen", fehler::kDialogAbgebrochen, 0, 0, "DRUCKEN ABGEBROCHEN.", ""},
-        {"Dialog gestört", fehler::kGeraet, 0, 0, "FEHLER BEIM DRUCKEN!", "Fehler beim Lesen oder Schreiben"},
+        {"Dialog gestört", fehler::kDrucker, 0, 0, "FEHLER BEIM DRUCKEN!",
+         "Der Drucker meldet einen Fehler: bitte prüfen und noch einmal drucken."},
         {"Drucker nimmt nichts an", 0, fehler::kDrucker, 0, "FEHLER BEIM DRUCKEN!",
-         "Druckerfehler: Der Drucker GP ist angehalten."},
-        {"Abschluss misslingt", 0, 0, fehler::kDrucker, "FEHLER BEIM DRUCKEN!", "Druckerfehler"},
+         "Der Drucker GP ist angehalten."},
+        {"PDF nicht schreibbar", 0, 0, fehler::kDatentraegerVoll, "FEHLER BEIM DRUCKEN!",
+         "Der Datenträger ist voll: bitte Platz schaffen oder auf einem anderen speichern."},
     };
     for (const Fall& f : faelle) {
         SCOPED_TRACE(f.name);
@@ -143,10 +145,9 @@ TEST(Druckauftrag, EinePdfDateiHeisstNachDemDokumentUndIhrOrtStehtInDerStatuszei
         p.form1.Text_Kunde_1.Text = f.kunde;
         p.form1.Text_RNnr.Text = f.nummer;
         p.form1.Option_RECHNUNG_KOPIE.Value = f.kopie;
-        p.form1.StatusBar1[3].Caption = "etwas Fremdes";
         p.drucken();
         EXPECT_EQ(p.druckdialoge.vorschlag, f.name);
-        EXPECT_EQ(p.meldung(), "etwas Fremdes");
+        EXPECT_EQ(p.meldung(), "") << "on paper there is nothing to tell";
         p.drucker.datei = "/home/ich/a.pdf";
         p.drucken();
         EXPECT_EQ(p.meldung(), "Die PDF-Datei liegt hier: /home/ich/a.pdf");
