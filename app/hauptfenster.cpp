@@ -25,6 +25,7 @@ Hauptfenster::Hauptfenster(Teile teile) : t_(teile) {
     KopfVerdrahten();
     EingabeVerdrahten();
     ListenVerdrahten();
+    ZeilenmenueVerdrahten();
     BetraegeVerdrahten();
     StatusVerdrahten();
     RasterVerdrahten();
@@ -47,14 +48,11 @@ void Hauptfenster::Form_FilesDropped(const std::vector<std::string>& pfade) {
     const auto rechnung = std::find_if(pfade.begin(), pfade.end(), [](const std::string& pfad) {
         return grossbuchstaben(rechts(pfad, kEndung.size())) == kEndung;
     });
-    StatusPanel& hinweis = t_.form1.StatusBar1[3];
+    const Hinweiszeile::Befehl befehl(t_.form1.Hinweise);
     if (rechnung == pfade.end()) {
-        hinweis.Caption = "Auf das Fenster lassen sich nur Rechnungsdateien (*.qk8) ziehen.";
-        return;
-    }
-    const bool gelesen = t_.dateibefehle.Oeffnen(*rechnung);
-    if (gelesen && pfade.size() > 1 && hinweis.Caption().empty()) {
-        hinweis.Caption = "Nur eine Rechnung auf einmal: Die übrigen Dateien wurden nicht geöffnet.";
+        t_.form1.Hinweise.melden("Auf das Fenster lassen sich nur Rechnungsdateien (*.qk8) ziehen.");
+    } else if (t_.dateibefehle.Oeffnen(*rechnung) && pfade.size() > 1) {
+        t_.form1.Hinweise.melden("Nur eine Rechnung auf einmal: Die übrigen Dateien wurden nicht geöffnet.");
     }
 }
 

@@ -4,6 +4,7 @@
 #include "app/ladefolge.hpp"
 #include "invoice/file/dateibefehle.hpp"
 #include "invoice/positionen.hpp"
+#include "invoice/zeilenmenue.hpp"
 #include "masterdata/kunde_aufnehmen.hpp"
 #include "platform/platform.hpp"
 #include "print/druckauftrag.hpp"
@@ -24,6 +25,7 @@ public:
         Rechnung& rechnung;
         Summen& summen;
         Positionen& positionen;
+        Zeilenmenue& zeilenmenue;
         Dateibefehle& dateibefehle;
         Druckauftrag& druckauftrag;
         KundeAufnehmen& kunde_aufnehmen;
@@ -38,6 +40,7 @@ private:
     void KopfVerdrahten();
     void EingabeVerdrahten();
     void ListenVerdrahten();
+    void ZeilenmenueVerdrahten();
     void BetraegeVerdrahten();
     void StatusVerdrahten();
     void RasterVerdrahten();

@@ -116,6 +116,20 @@ void Hauptfenster::ListenVerdrahten() {
     }
 }
 
+void Hauptfenster::ZeilenmenueVerdrahten() {
+    Form1& f = t_.form1;
+    Positionen& positionen = t_.positionen;
+    Zeilenmenue& menue = t_.zeilenmenue;
+    f.List_DARSTELLUNG.Changed = [&menue] { menue.EintraegeFreigeben(); };
+    f.m_Zeile_aendern.Click = [&menue] { menue.m_Zeile_aendern_Click(); };
+    f.m_Zeile_loeschen.Click = [&positionen] { positionen.md_Del_artikel_Click(); };
+    f.m_Zeile_kommentar.Click = [&menue] { menue.m_Zeile_kommentar_Click(); };
+    f.m_Zeile_umbruch.Click = [&positionen] { positionen.Command_Trennzeile_Click(); };
+    f.m_Zeile_hoch.Click = [&menue] { menue.m_Zeile_hoch_Click(); };
+    f.m_Zeile_runter.Click = [&menue] { menue.m_Zeile_runter_Click(); };
+    menue.EintraegeFreigeben();
+}
+
 void Hauptfenster::BetraegeVerdrahten() {
     Form1& f = t_.form1;
     for (Control* schalter :

@@ -34,6 +34,7 @@ struct Programm::Teile {
                   zustand,        platform.dialogs,
                   platform.clock, [this] { return ANZAHL_DRUCKSEITEN(form1.List_K.items(), einstellungen); }};
     Positionen positionen{form1, zustand, rechnung, summen, platform.dialogs};
+    Zeilenmenue zeilenmenue{form1, zustand, rechnung, summen, positionen};
     Rechnungsnummern nummern{form1, einstellungen, zustand, verzeichnis, platform.dialogs};
     ZuletztGeoeffnet zuletzt{form1, werte};
     Dateistand stand;
@@ -50,8 +51,8 @@ struct Programm::Teile {
     Ladefolge ladefolge{{form1, einstellungen, programm, werte, zustand, verzeichnis, platform, summen,
                          rechnung, dateibefehle, nummern, zuletzt}};
     Hauptfenster hauptfenster{{form1, einstellungen, werte, zustand, verzeichnis, platform, rechnung, summen,
-                               positionen, dateibefehle, druckauftrag, kunde_aufnehmen, erinnerung,
-                               ladefolge}};
+                               positionen, zeilenmenue, dateibefehle, druckauftrag, kunde_aufnehmen,
+                               erinnerung, ladefolge}};
     Startfenster startfenster{form_start, werte, verzeichnis, platform.clock, [this] { form1.Show(); }};
 };
 

@@ -63,6 +63,14 @@ struct Form1 : Form {
     Menu m_website{*this, "m_website", "&Quittika im Internet"};
     Menu ueber_QUITTIKA{*this, "ueber_QUITTIKA", "über QUITTIKA..."};
 
+    // --- menu of a row of the position list ---
+    Menu m_Zeile_aendern{*this, "m_Zeile_aendern", "Än&dern"};
+    Menu m_Zeile_loeschen{*this, "m_Zeile_loeschen", "&Löschen"};
+    Menu m_Zeile_kommentar{*this, "m_Zeile_kommentar", "&Kommentar davor"};
+    Menu m_Zeile_umbruch{*this, "m_Zeile_umbruch", "&Seitenumbruch"};
+    Menu m_Zeile_hoch{*this, "m_Zeile_hoch", "nach &oben"};
+    Menu m_Zeile_runter{*this, "m_Zeile_runter", "nach &unten"};
+
     // --- command buttons of the tool area ---
     Frame Frame_drucke{*this, "Frame_drucke"};
     CommandButton Command_jetztSpeichern{Frame_drucke, "Command_jetztSpeichern", "&Speichern unter..."};

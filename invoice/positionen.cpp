@@ -75,6 +75,13 @@ void Positionen::Command_AENDERN_Click() {
     }
 }
 
+void Positionen::ZeileLoslassen() {
+    if (form1_.Command_AENDERN.Enabled()) {
+        const Rechnungszustand::Sperre still(zustand_);
+        rechnung_.EingabezeileLeeren();
+    }
+}
+
 void Positionen::NaechsteEingabe() {
     StillAuswaehlen(form1_.List_DARSTELLUNG.ListCount() - 1);
     form1_.Text_Menge.SetFocus();

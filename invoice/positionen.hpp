@@ -22,6 +22,8 @@ public:
     /// A click in one of the six lists: the same row in all others.
     void Liste_Click(ListBox& liste);
     void Check_K_Click();
+    /// Empties the input line without changing the row that was fetched; it stays selected.
+    void ZeileLoslassen();
 
     /// Puts a row directly behind the selected one, at the top when none is selected: the input line,
     /// or a page break with `Trennzeile`. Resets the input line.

@@ -102,7 +102,7 @@ const std::string& ListBox::List(int index) const {
 
 void ListBox::AddItem(std::string text) {
     items_.push_back(std::move(text));
-    notify_items();
+    tell_items();
 }
 
 void ListBox::AddItem(std::string text, int index) {
@@ -111,7 +111,7 @@ void ListBox::AddItem(std::string text, int index) {
     if (index <= ListIndex()) {
         ListIndex.adopt(ListIndex() + 1);
     }
-    notify_items();
+    tell_items();
 }
 
 void ListBox::RemoveItem(int index) {
@@ -122,13 +122,13 @@ void ListBox::RemoveItem(int index) {
     } else if (index < ListIndex()) {
         ListIndex.adopt(ListIndex() - 1);
     }
-    notify_items();
+    tell_items();
 }
 
 void ListBox::Clear() {
     items_.clear();
     ListIndex.adopt(-1);
-    notify_items();
+    tell_items();
 }
 
 void ListBox::assign(std::vector<std::string> items) {
@@ -136,7 +136,12 @@ void ListBox::assign(std::vector<std::string> items) {
     if (ListIndex() >= ListCount()) {
         ListIndex.adopt(-1);
     }
+    tell_items();
+}
+
+void ListBox::tell_items() {
     notify_items();
+    fire(Changed);
 }
 
 void ListBox::user_select(int index) {
@@ -153,6 +158,7 @@ void ListBox::check(PropertyId id, std::int64_t value) const {
 
 void ListBox::fire_for(PropertyId id) {
     if (id == PropertyId::ListIndex) {
+        fire(Changed);
         fire(Click);
     }
 }

@@ -146,11 +146,15 @@ public:
     /// A user's click on an item: fires `Click` even where it was selected already.
     void user_select(int index);
 
+    Event Changed; ///< after items or selection have changed, whoever changed them
+
 protected:
     void check(PropertyId id, std::int64_t value) const override;
     void fire_for(PropertyId id) override;
 
 private:
+    void tell_items();
+
     std::vector<std::string> items_;
 };
 

@@ -3,6 +3,7 @@
 #include "platform/qt/guard.hpp"
 #include "platform/qt/qt_text.hpp"
 
+#include <QContextMenuEvent>
 #include <QEvent>
 #include <QItemSelectionModel>
 #include <QScrollBar>
@@ -11,7 +12,10 @@
 
 namespace quittika {
 
-ListBoxView::ListBoxView(ListBox& control, QListView& widget) : TypedView(control, widget), model_(control) {
+ListBoxView::ListBoxView(ListBox& control, QListView& widget)
+    : TypedView(control, widget),
+      model_(control),
+      menu_(widget.findChild<QMenu*>(QString(), Qt::FindDirectChildrenOnly)) {
     widget.setUniformItemSizes(true);
     widget.setSelectionMode(QAbstractItemView::SingleSelection);
     widget.setEditTriggers(QAbstractItemView::NoEditTriggers);
@@ -44,7 +48,25 @@ void ListBoxView::take(int row) {
     push_index();
 }
 
+void ListBoxView::open_menu(const QContextMenuEvent& event) {
+    const bool by_mouse = event.reason() == QContextMenuEvent::Mouse;
+    const QModelIndex row = by_mouse ? widget_.indexAt(event.pos()) : model_.index(control_.ListIndex());
+    if (!row.isValid()) {
+        return;
+    }
+    mouse_down_ = false; // its release goes to the menu
+    if (row.row() != control_.ListIndex()) {
+        take(row.row());
+    }
+    menu_->popup(by_mouse ? event.globalPos()
+                          : widget_.viewport()->mapToGlobal(widget_.visualRect(row).bottomLeft()));
+}
+
 bool ListBoxView::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::ContextMenu && menu_ != nullptr) {
+        open_menu(static_cast<QContextMenuEvent&>(*event));
+        return true;
+    }
     // While the button is down the selection follows the mouse; the row chosen is the one at its release.
     if (event->type() == QEvent::MouseButtonPress) {
         mouse_down_ = true;
@@ -56,6 +78,8 @@ bool ListBoxView::eventFilter(QObject* watched, QEvent* event) {
                 const int row = selected_row();
                 if (row >= 0 && row != control_.ListIndex()) {
                     take(row);
+                } else {
+                    push_index(); // a click beside the rows chooses nothing else
                 }
             },
             Qt::QueuedConnection);

@@ -5,10 +5,14 @@
 
 #include <QComboBox>
 #include <QListView>
+#include <QMenu>
+
+class QContextMenuEvent;
 
 namespace quittika {
 
 /// Any number of changes of the items reaches the widget at once, before it is painted again.
+/// A menu that the list has for a child is the menu of its rows.
 class ListBoxView final : public TypedView<ListBox, QListView> {
 public:
     ListBoxView(ListBox& control, QListView& widget);
@@ -26,8 +30,10 @@ private:
     /// Makes the widget's row the control's, with a click.
     void take(int row);
     int selected_row() const;
+    void open_menu(const QContextMenuEvent& event);
 
     ListModel model_;
+    QMenu* menu_;
     bool dirty_ = false;
     bool pushing_ = false;
     bool mouse_down_ = false;

@@ -8,8 +8,10 @@
 #include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
+#include <QContextMenuEvent>
 #include <QLineEdit>
 #include <QListView>
+#include <QMenu>
 #include <QMessageBox>
 #include <QTest>
 #include <QTimer>
@@ -73,6 +75,43 @@ TEST_F(Hauptfenstertest, EntfernenLoeschtDieGewaehlteZeile) {
     QTest::qWait(1);
     EXPECT_EQ(f().List_Leistung.items(), std::vector<std::string>{"Tisch"});
     EXPECT_EQ(feld<QLineEdit>("Text_gesamtbetrag")->text(), "80,00");
+}
+
+TEST_F(Hauptfenstertest, ZeilenmenueUndStrgPfeilVerschiebenZeilen) {
+    zeile("1", "Stuhl", "1");
+    zeile("1", "Tisch", "2");
+    zeile("1", "Bank", "3");
+    auto* liste = feld<QListView>("List_DARSTELLUNG");
+    const auto* menue = feld<QMenu>("ui_Zeilenmenue");
+    liste->setFocus();
+    const auto rechtsklick = [&](QPoint stelle) {
+        QTest::mousePress(liste->viewport(), Qt::RightButton, {}, stelle);
+        QContextMenuEvent wunsch(QContextMenuEvent::Mouse, stelle, liste->viewport()->mapToGlobal(stelle));
+        QApplication::sendEvent(liste->viewport(), &wunsch);
+    };
+    rechtsklick(liste->visualRect(liste->model()->index(0, 0)).center());
+    EXPECT_TRUE(menue->isVisible());
+    EXPECT_EQ(feld<QLineEdit>("Text_leistung")->text(), "Stuhl") << "the row under the mouse is meant";
+    EXPECT_FALSE(feld<QAction>("m_Zeile_hoch")->isEnabled());
+    QTest::keyClick(feld<QMenu>("ui_Zeilenmenue"), Qt::Key_U);
+    QTest::qWait(1);
+    EXPECT_FALSE(menue->isVisible());
+    EXPECT_EQ(f().List_Leistung.items(), (std::vector<std::string>{"Tisch", "Stuhl", "Bank"}));
+    EXPECT_EQ(liste->currentIndex().row(), 1);
+    QApplication::setActiveWindow(fenster()); // no desktop gives the focus back from the menu
+    liste->setFocus();
+    QTest::keyClick(liste, Qt::Key_Down, Qt::ControlModifier);
+    QTest::keyClick(liste, Qt::Key_Down, Qt::ControlModifier);
+    feld<QLineEdit>("Text_Kunde_1")->setFocus();
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Up, Qt::ControlModifier);
+    QTest::qWait(1);
+    EXPECT_EQ(f().List_Leistung.items(), (std::vector<std::string>{"Tisch", "Bank", "Stuhl"}));
+    const QPoint daneben = liste->viewport()->rect().bottomLeft() - QPoint(-5, 5);
+    rechtsklick(daneben);
+    EXPECT_FALSE(menue->isVisible()) << "there is no row";
+    QTest::mouseRelease(liste->viewport(), Qt::RightButton, {}, daneben);
+    QTest::qWait(1);
+    EXPECT_EQ(liste->selectionModel()->selectedIndexes().value(0).row(), 2);
 }
 
 TEST_F(Hauptfenstertest, TabulatorFolgtDerArbeit) {
