@@ -10,37 +10,48 @@ namespace fs = std::filesystem;
 
 namespace {
 
-bool mitgeliefert(const fs::path& datei) {
-    const std::string endung = datei.extension().string();
-    for (const char* bekannt : {".bmp", ".png", ".jpg", ".qk8", ".pdf", ".htm", ".html", ".txt"}) {
-        if (endung == bekannt) {
-            return true;
+bool kopieren(const fs::path& von, const fs::path& nach) {
+    std::error_code fehler;
+    fs::create_directories(nach.parent_path(), fehler);
+    if (!fs::copy_file(von, nach, fehler)) {
+        return false;
+    }
+    fs::permissions(nach, fs::perms::owner_write, fs::perm_options::add,
+                    fehler); // the user's own from here on
+    return !fehler;
+}
+
+/// Names of the shipped files that could not be copied, parted by ", ".
+std::string mitgeliefertes_kopieren(const fs::path& von, const fs::path& nach) {
+    std::string fehlend;
+    for (const fs::path& name : MITGELIEFERTE_DATEIEN()) {
+        if (!kopieren(von / name, nach / name)) {
+            fehlend += (fehlend.empty() ? "" : ", ") + name.string();
         }
     }
-    return false;
+    return fehlend;
 }
 
 } // namespace
 
-void MITGELIEFERTES_KOPIEREN(const fs::path& von, const fs::path& nach) {
-    std::error_code fehler;
-    for (const fs::directory_entry& eintrag : fs::directory_iterator(von, fehler)) {
-        const fs::path ziel = nach / eintrag.path().filename();
-        if (eintrag.is_regular_file(fehler) && mitgeliefert(eintrag.path()) && !fs::exists(ziel, fehler)) {
-            fs::copy_file(eintrag.path(), ziel, fehler);
-        }
-    }
-}
-
-fs::path PROGRAMMORDNER(const fs::path& programmdatei, const fs::path& datenordner) {
-    fs::path ordner = programmdatei.parent_path();
+Programmordner PROGRAMMORDNER(const fs::path& programmdatei, const fs::path& datenordner) {
+    const fs::path ordner = programmdatei.parent_path();
     if (ordner_beschreibbar(ordner.string())) {
-        return ordner;
+        return {ordner, {}};
     }
     std::error_code fehler;
-    fs::create_directories(datenordner, fehler);
-    MITGELIEFERTES_KOPIEREN(ordner, datenordner);
-    return datenordner;
+    if (!fs::create_directories(datenordner, fehler)) {
+        return {datenordner,
+                fehler ? "Der Ordner >>" + datenordner.string() +
+                             "<< lässt sich nicht anlegen. Nummern, Kunden und Einstellungen können "
+                             "nicht gespeichert werden, bis er da ist."
+                       : std::string()};
+    }
+    const std::string fehlend = mitgeliefertes_kopieren(ordner, datenordner);
+    return {datenordner, fehlend.empty() ? std::string()
+                                         : "Diese mitgelieferten Dateien ließen sich nicht nach >>" +
+                                               datenordner.string() + "<< kopieren: " + fehlend +
+                                               ". Bitte von Hand nachholen."};
 }
 
 } // namespace quittika

@@ -1,15 +1,23 @@
 #pragma once
 
 #include <filesystem>
+#include <string>
+#include <vector>
 
 namespace quittika {
 
-/// The directory that the program keeps its files in: the folder of the executable, or where the user may not
-/// write there, `datenordner`, which is created and filled with the shipped files it lacks.
-std::filesystem::path PROGRAMMORDNER(const std::filesystem::path& programmdatei,
-                                     const std::filesystem::path& datenordner);
+/// Names of the shipped files in the program folder, subfolders included.
+const std::vector<std::filesystem::path>& MITGELIEFERTE_DATEIEN();
 
-/// Copies the shipped pictures, invoices and documents of one directory into another, where they are missing.
-void MITGELIEFERTES_KOPIEREN(const std::filesystem::path& von, const std::filesystem::path& nach);
+/// The directory that the program keeps its files in.
+struct Programmordner {
+    std::filesystem::path ordner;
+    std::string meldung; ///< what could not be created or filled; empty when nothing is amiss
+};
+
+/// The folder of the executable, or where the user may not write there, `datenordner`. When that has to be
+/// created, it is filled with the shipped files; nobody's own files are copied.
+Programmordner PROGRAMMORDNER(const std::filesystem::path& programmdatei,
+                              const std::filesystem::path& datenordner);
 
 } // namespace quittika

@@ -1,5 +1,6 @@
 #include "platform/verzeichnis.hpp"
 
+#include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -38,7 +39,7 @@ bool datei_vorhanden(std::string_view pfad) {
 }
 
 bool ordner_beschreibbar(const std::string& ordner) {
-    return access(ordner.c_str(), W_OK | X_OK) == 0;
+    return faccessat(AT_FDCWD, ordner.c_str(), W_OK | X_OK, AT_EACCESS) == 0;
 }
 
 } // namespace quittika

@@ -1,5 +1,7 @@
 #include "app/programmordner.hpp"
 
+#include "platform/datei.hpp"
+#include "tests/ohne_vorrechte.hpp"
 #include "tests/pruefstand.hpp"
 
 #include <gtest/gtest.h>
@@ -14,29 +16,42 @@ namespace fs = std::filesystem;
 
 TEST(Programmordner, IstDerOrdnerDesProgrammsWennManDortSchreibenDarf) {
     const Probenordner o;
-    EXPECT_EQ(PROGRAMMORDNER(o.pfad("quittika"), o.pfad("daten")), fs::path(o.ordner()));
+    EXPECT_EQ(PROGRAMMORDNER(o.pfad("quittika"), o.pfad("daten")).ordner, fs::path(o.ordner()));
     EXPECT_FALSE(fs::exists(o.pfad("daten")));
 }
 
-TEST(Programmordner, SonstDerEigeneOrdnerMitDenMitgeliefertenDateien) {
-    const fs::path fest = "/proc/self"; // nobody may write there
+TEST(Programmordner, SonstEinEigenerDerBeimAnlegenGefuelltWird) {
     const Probenordner o;
-    const fs::path ordner = PROGRAMMORDNER(fest / "quittika", o.pfad("neu/daten"));
-    EXPECT_EQ(ordner, fs::path(o.pfad("neu/daten")));
-    EXPECT_TRUE(fs::is_directory(ordner));
+    fs::create_directory(o.pfad("programm"));
+    for (const fs::path& name : MITGELIEFERTE_DATEIEN()) {
+        o.schreiben("programm" / name, "geliefert");
+        chmod(o.pfad("programm" / name).c_str(), 0444);
+    }
+    for (const char* eigene : {"Kundenliste.txt", "Rechnung von gestern.qk8", "foto.jpg"}) {
+        o.schreiben(fs::path("programm") / eigene, "eigen");
+    }
+    const OhneVorrechte niemand(o.ordner());
+    const auto anlegen = [&o] { return PROGRAMMORDNER(o.pfad("programm/quittika"), o.pfad("neu/daten")); };
+    EXPECT_EQ(anlegen().ordner, fs::path(o.pfad("neu/daten")));
+    std::size_t kopiert = 0;
+    for (const auto& eintrag : fs::recursive_directory_iterator(o.pfad("neu/daten"))) {
+        kopiert += eintrag.is_regular_file() ? 1 : 0;
+    }
+    EXPECT_EQ(kopiert, MITGELIEFERTE_DATEIEN().size()) << "nobody's own files";
+    EXPECT_EQ(o.lesen("neu/daten/Beispielrechnung.qk8"), "geliefert");
+    EXPECT_NO_THROW(datei_ersetzen(o.pfad("neu/daten/Beispielrechnung.qk8"), "eigen"));
+    fs::remove(o.pfad("neu/daten/ihrlogo.bmp"));
+    EXPECT_EQ(anlegen().meldung, "");
+    EXPECT_FALSE(fs::exists(o.pfad("neu/daten/ihrlogo.bmp"))) << "only once";
 }
 
-TEST(Programmordner, KopiertWasFehltUndUeberschreibtNichts) {
+TEST(Programmordner, WasNichtGehtWirdGesagt) {
     const Probenordner o;
-    fs::create_directories(o.pfad("daten"));
-    o.schreiben("quittika", "Programm");
-    o.schreiben("ihrlogo.bmp", "geliefert");
-    o.schreiben("Beispielrechnung.qk8", "geliefert");
-    o.schreiben("daten/ihrlogo.bmp", "eigenes");
-    MITGELIEFERTES_KOPIEREN(o.ordner(), o.pfad("daten"));
-    EXPECT_EQ(o.lesen("daten/ihrlogo.bmp"), "eigenes");
-    EXPECT_EQ(o.lesen("daten/Beispielrechnung.qk8"), "geliefert");
-    EXPECT_FALSE(fs::exists(o.pfad("daten/quittika")));
+    o.schreiben("datei", "");
+    const fs::path fest = "/proc/self/quittika"; // nobody may write there
+    EXPECT_NE(PROGRAMMORDNER(fest, o.pfad("datei/daten")).meldung.find("lässt sich nicht anlegen"),
+              std::string::npos);
+    EXPECT_NE(PROGRAMMORDNER(fest, o.pfad("daten")).meldung.find("start1.png"), std::string::npos);
 }
 
 } // namespace
