@@ -226,10 +226,12 @@ TEST(ShellTest, TellsFilesFromAddresses) {
     Opener opener;
     QtShell shell;
     shell.open(file.fileName().toStdString());
+    shell.open("file:///" + folder.path().toStdString() + "\\100% #1.txt");
     shell.open("http://www.firma.example/a?b=c");
     shell.open("www.firma.example");
     shell.open("mailto:info@firma.example");
-    const QList<QUrl> expected{QUrl::fromLocalFile(file.fileName()), QUrl("http://www.firma.example/a?b=c"),
+    const QUrl local = QUrl::fromLocalFile(file.fileName());
+    const QList<QUrl> expected{local, local, QUrl("http://www.firma.example/a?b=c"),
                                QUrl("http://www.firma.example"), QUrl("mailto:info@firma.example")};
     EXPECT_EQ(opener.opened, expected);
     EXPECT_EQ(error_of([&] { shell.open(folder.filePath("fehlt.txt").toStdString()); }), 53);
