@@ -73,20 +73,6 @@ private:
     std::vector<std::string>& files_;
 };
 
-TEST(ScriptPages, PrintToWritesAllJobsSinceIntoOneFile) {
-    std::vector<std::string> files;
-    const PdfFactory pdf = [&files](const std::string& path, const std::string& title) {
-        return std::make_unique<PdfStand>(path + " " + title + ":", files);
-    };
-    play("start d\nclick form1.Drucken\nprintto a b.pdf\nclick form1.Drucken\nclick form1.Modal\n"
-         "click Form_Notiz.Drucken\nprintto c.pdf\nclick Form_Notiz.Drucken\n",
-         pdf);
-    const std::vector<std::string> expected{
-        "a b.pdf Blatt\t1:[Nr. 1]/-", "a b.pdf Blatt\t1:[Nr. 1]/-/[Nr. 2]/-",
-        "a b.pdf Blatt\t1:[Nr. 1]/-/[Nr. 2]/-/[Nr. 1]/-", "c.pdf Notiz:[Nr. 1]/-"};
-    EXPECT_EQ(files, expected);
-}
-
 TEST(ScriptPages, APreviewIsNotPrintedAndCopiesAreNotWrittenOneByOne) {
     const FakeMetrics metrics;
     std::vector<std::string> files;

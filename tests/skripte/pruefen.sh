@@ -41,17 +41,16 @@ send() {
 
 # The values of controls, parted by " | ".
 values() {
-    local form=$1 control value row=
+    local form=$1 control row=
     shift
     for control; do
         case $control in
         *'*') send "items $form.${control%'*'}" >"$work/value" ;;
         *) send "get $form.$control" >"$work/value" ;;
         esac
-        value=$(paste -sd'|' "$work/value")
-        row+="${row:+ | }$value"
+        row+=" | $(paste -sd'|' "$work/value")"
     done
-    printf '%s\n' "$row"
+    printf '%s\n' "${row:3}"
 }
 
 play() {
