@@ -70,8 +70,7 @@ public:
 
 struct Druckprobe {
     Pruefstand p;
-    Form_Lieferschein_opt lieferschein;
-    Rechnungsdruck druck{p.form1, p.einstellungen, p.werte, lieferschein};
+    Rechnungsdruck druck{p.form1, p.einstellungen, p.werte};
     QtFontMetrics schriften;
     Druckprobe() {
         for (int i = 0; i < 15; ++i) {

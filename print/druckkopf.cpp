@@ -1,6 +1,7 @@
 #include "print/druckkopf.hpp"
 
 #include "invoice/belegtexte.hpp"
+#include "print/drucktabelle.hpp"
 #include "print/firmenkopf.hpp"
 
 #include <algorithm>
@@ -14,7 +15,6 @@ constexpr double kBlattbreite = 210;
 constexpr double kBlatthoehe = 296.1;
 constexpr Color kFarbeFaltmarken = color::rgb(120, 120, 120);
 constexpr double kSchriftKopf = 11;
-constexpr double kSchriftTabelle = 9;
 constexpr int kLeerzeilenVorKundennr = 2;
 constexpr double kTabellenbeginn = 133; ///< the first rule follows 2 mm below
 

@@ -12,6 +12,8 @@
 
 namespace quittika {
 
+inline constexpr double kSchriftTabelle = 9; ///< points, of the rows and all that follows them
+
 /// Column positions of the table in mm, not adjusted.
 struct Spalten {
     double X_Menge;

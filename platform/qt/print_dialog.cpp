@@ -1,11 +1,13 @@
 #include "platform/qt/print_dialog.hpp"
 
+#include <QComboBox>
 #include <QDialogButtonBox>
 #include <QDir>
 #include <QFileInfo>
 #include <QLineEdit>
 #include <QPrinter>
 #include <QPushButton>
+#include <QSpinBox>
 
 namespace quittika {
 
@@ -33,6 +35,9 @@ PrintDialog::PrintDialog(QPrinter& printer, const QString& file, QWidget* parent
     if (path_ != nullptr) {
         path_->setText(file);
     }
+    if (const auto* printers = findChild<QComboBox*>(QStringLiteral("printers"))) {
+        connect(printers, &QComboBox::currentIndexChanged, this, &PrintDialog::allow_copies);
+    }
     // The toolkit asks before it replaces the file that stands in the field; it must be the one that is
     // written.
     const auto* buttons = findChild<QDialogButtonBox*>();
@@ -48,10 +53,22 @@ void PrintDialog::setVisible(bool visible) {
             setting->hide();
         }
     }
+    allow_copies();
+}
+
+bool PrintDialog::into_file() const {
+    return path_ != nullptr && path_->isEnabled();
+}
+
+void PrintDialog::allow_copies() {
+    if (auto* copies = findChild<QSpinBox*>(QStringLiteral("copies"))) {
+        copies->setEnabled(!into_file());
+        copies->setValue(into_file() ? 1 : copies->value());
+    }
 }
 
 void PrintDialog::complete_path() {
-    if (path_ != nullptr && path_->isEnabled()) {
+    if (into_file()) {
         path_->setText(pdf_path(path_->text(), folder_));
     }
 }

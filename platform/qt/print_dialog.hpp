@@ -11,8 +11,8 @@ namespace quittika {
 QString pdf_path(const QString& typed, const QString& folder);
 
 /// The toolkit's printer dialog with a PDF file of the program's choice, and without the settings that not
-/// every device heeds: range, set and order of the pages, and the collation of copies that are jobs of their
-/// own.
+/// every device heeds: range, set and order of the pages, the collation of copies that are jobs of their own,
+/// and more than one copy in a file.
 class PrintDialog final : public QPrintDialog {
 public:
     /// `file`: path offered to a user who prints into a file.
@@ -21,7 +21,9 @@ public:
     void setVisible(bool visible) override;
 
 private:
+    bool into_file() const;
     void complete_path();
+    void allow_copies();
 
     QString folder_;
     QLineEdit* path_; ///< null where the toolkit offers no file

@@ -159,6 +159,7 @@ TEST_F(DialogsTest, PrintingIntoAFileProposesANameAndAsksBeforeItReplacesOne) {
         EXPECT_EQ(field(window)->text(), QDir::home().filePath("RECHNUNG 7.pdf"));
         EXPECT_TRUE(window.findChild<QWidget*>("gbPrintRange")->isHidden());
         EXPECT_TRUE(window.findChild<QWidget*>("pageSetCombo")->isHidden());
+        EXPECT_FALSE(window.findChild<QWidget*>("copies")->isEnabled());
         on_dialog<QMessageBox>([&](QMessageBox& box) {
             question = box.text();
             box.button(QMessageBox::No)->click();
@@ -169,7 +170,7 @@ TEST_F(DialogsTest, PrintingIntoAFileProposesANameAndAsksBeforeItReplacesOne) {
         field(window)->setText(folder.filePath("neu"));
         print(window);
     });
-    EXPECT_EQ(dialogs.choose_printer({1, "RECHNUNG 7.pdf"}), 1);
+    EXPECT_EQ(dialogs.choose_printer({3, "RECHNUNG 7.pdf"}), 1) << "one copy in a file";
     EXPECT_TRUE(question.contains(old)) << question.toStdString();
     QtPrinting printing([this] { return &printer.printer(); });
     EXPECT_EQ(printing.output_file(), folder.filePath("neu.pdf").toStdString());
