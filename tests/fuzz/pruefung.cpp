@@ -102,6 +102,10 @@ std::string Unterschied(Form1& gespeichert, Form1& gelesen) {
             return befund;
         }
     }
+    if (gespeichert.Combo1_mahnung.ListIndex() != gelesen.Combo1_mahnung.ListIndex() ||
+        gespeichert.Text_Notiz.Text() != gelesen.Text_Notiz.Text()) {
+        return "Mahnung oder Notiz";
+    }
     const auto listen = gespeichert.Positionslisten();
     const auto gelesene_listen = gelesen.Positionslisten();
     for (std::size_t i = 0; i < listen.size(); ++i) {

@@ -2,7 +2,6 @@
 
 #include "platform/datei.hpp"
 #include "platform/verzeichnis.hpp"
-#include "tests/ohne_vorrechte.hpp"
 #include "tests/pruefstand.hpp"
 
 #include <gtest/gtest.h>
@@ -13,22 +12,20 @@
 namespace quittika {
 namespace {
 
-int lesefehler(const std::string& pfad) {
+/// Number of the error that `tun` raises, 0 for none.
+template <class Tun> int fehlernummer(Tun tun) {
     try {
-        zeilen_lesen(pfad);
+        tun();
     } catch (const Laufzeitfehler& f) {
         return f.nummer();
     }
     return 0;
 }
-
+int lesefehler(const std::string& pfad) {
+    return fehlernummer([&] { zeilen_lesen(pfad); });
+}
 int schreibfehler(const std::string& pfad) {
-    try {
-        zeilen_ersetzen(pfad, {"neu"});
-    } catch (const Laufzeitfehler& f) {
-        return f.nummer();
-    }
-    return 0;
+    return fehlernummer([&] { zeilen_ersetzen(pfad, {"neu"}); });
 }
 
 TEST(Textdatei, JedesZeilenendeWirdGelesen) {
@@ -60,21 +57,6 @@ TEST(Textdatei, FehlerHabenIhreNummer) {
     EXPECT_EQ(schreibfehler(o.pfad("kein/ordner")), fehler::kPfadFehlt);
     EXPECT_EQ(schreibfehler("/dev/full"), fehler::kDatentraegerVoll);
     EXPECT_EQ(ZEILE_ANHAENGEN("/dev/full", "x").fehlernummer, fehler::kDatentraegerVoll);
-}
-
-TEST(Textdatei, GesperrterOrdnerLaesstDasAlteStehen) {
-    const Probenordner o;
-    o.schreiben("a.txt", "alt\r\n");
-    {
-        const OhneVorrechte niemand(o.ordner());
-        chmod(o.ordner().c_str(), 0500);
-        EXPECT_EQ(schreibfehler(o.pfad("a.txt")), fehler::kZugriffVerweigert);
-        EXPECT_EQ(schreibfehler(o.pfad("b.txt")), fehler::kZugriffVerweigert);
-        chmod(o.ordner().c_str(), 0700);
-    }
-    EXPECT_EQ(o.lesen("a.txt"), "alt\r\n");
-    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(o.ordner()), {}), 1)
-        << "nothing is left over";
 }
 
 TEST(Textdatei, ErsetzenBehaeltRechteUndFolgtVerweisen) {
@@ -135,6 +117,56 @@ TEST(Textdatei, FelderEinerZeile) {
     EXPECT_EQ(FELD_AUS_ZEILE("abc", ";", 0), "abc");
     EXPECT_EQ(FELD_AUS_ZEILE("abc", ";", -1), "ERROR");
     EXPECT_EQ(FELD_AUS_ZEILE("abc", "", 0), "ERROR");
+}
+
+TEST(Textdatei, NameMitNulTrifftKeineAndereDatei) {
+    const Probenordner o;
+    o.schreiben("a", "alt\r\n");
+    const std::string mit_nul = o.pfad("a") + std::string(1, '\0') + "b";
+    EXPECT_EQ(lesefehler(mit_nul), fehler::kDateiname);
+    EXPECT_EQ(schreibfehler(mit_nul), fehler::kDateiname);
+    EXPECT_EQ(ZEILE_ANHAENGEN(mit_nul, "neu").fehlernummer, fehler::kDateiname);
+    EXPECT_EQ(o.lesen("a"), "alt\r\n");
+}
+
+TEST(Textdatei, VerweisInsLeereUndImKreis) {
+    const Probenordner o;
+    std::filesystem::create_directory(o.pfad("daten"));
+    std::filesystem::create_symlink("daten/echt.txt", o.pfad("verweis.txt"));
+    std::filesystem::create_symlink("kreis.txt", o.pfad("kreis.txt"));
+    zeilen_ersetzen(o.pfad("verweis.txt"), {"neu"});
+    EXPECT_TRUE(std::filesystem::is_symlink(o.pfad("verweis.txt")));
+    EXPECT_EQ(o.lesen("daten/echt.txt"), "neu\r\n");
+    EXPECT_EQ(schreibfehler(o.pfad("kreis.txt")), fehler::kPfadZugriff);
+    EXPECT_TRUE(std::filesystem::is_symlink(o.pfad("kreis.txt")));
+}
+
+TEST(Textdatei, SehrLangeZeileBleibtGanz) {
+    constexpr std::size_t kLaenge = 10'000'000;
+    const Probenordner o;
+    const std::string lang(kLaenge, '\xE4');
+    o.schreiben("lang.txt", lang + "\r\nEnde");
+    const auto zeilen = zeilen_lesen(o.pfad("lang.txt"));
+    ASSERT_EQ(zeilen.size(), 2U);
+    EXPECT_EQ(zeilen[0].size(), 2 * kLaenge);
+    EXPECT_EQ(zeilen[1], "Ende");
+    EXPECT_EQ(zeilen_ersetzen(o.pfad("zurueck.txt"), zeilen), 0U);
+    EXPECT_TRUE(o.lesen("zurueck.txt") == lang + "\r\nEnde\r\n");
+}
+
+TEST(Programmpfad, RueckstrichWirdNurErsetztWoErTrennt) {
+    const Probenordner o;
+    std::filesystem::create_directory(o.pfad("d\\e"));
+    o.schreiben("d\\e/RN.txt", "17\r\n");
+    o.schreiben("woertlich\\name", "ja\r\n");
+    EXPECT_EQ(systempfad(o.ordner() + "\\neu\\RN.txt"), o.ordner() + "/neu/RN.txt");
+    EXPECT_EQ(systempfad(o.pfad("d\\e") + "\\RN.txt"), o.pfad("d\\e/RN.txt"));
+    EXPECT_EQ(systempfad(o.pfad("d\\e") + "\\neu.txt"), o.pfad("d\\e/neu.txt"));
+    EXPECT_EQ(systempfad(o.pfad("d\\e/neu.txt")), o.pfad("d\\e/neu.txt"));
+    EXPECT_EQ(systempfad(o.pfad("woertlich\\name")), o.pfad("woertlich\\name"));
+    EXPECT_EQ(systempfad(o.pfad("woertlich\\name\\neu")), o.pfad("woertlich/name/neu")) << "no folder";
+    EXPECT_TRUE(datei_vorhanden(Programmverzeichnis(o.pfad("d\\e")).pfad("\\RN.txt")));
+    EXPECT_FALSE(datei_vorhanden(o.ordner() + "\\fehlt"));
 }
 
 } // namespace
