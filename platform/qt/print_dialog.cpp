@@ -11,6 +11,12 @@
 
 namespace quittika {
 
+namespace {
+
+constexpr int kShownCharacters = 60; ///< of the path
+
+} // namespace
+
 QString pdf_path(const QString& typed, const QString& folder) {
     QString path = typed.trimmed();
     if (path.startsWith(QLatin1String("~/"))) {
@@ -34,6 +40,7 @@ PrintDialog::PrintDialog(QPrinter& printer, const QString& file, QWidget* parent
     setOption(PrintCollateCopies, false);
     if (path_ != nullptr) {
         path_->setText(file);
+        path_->setMinimumWidth(kShownCharacters * path_->fontMetrics().averageCharWidth());
     }
     if (const auto* printers = findChild<QComboBox*>(QStringLiteral("printers"))) {
         connect(printers, &QComboBox::currentIndexChanged, this, &PrintDialog::allow_copies);

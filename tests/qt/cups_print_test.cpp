@@ -7,6 +7,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QImage>
 #include <QPrinter>
 #include <QProcess>
 #include <QTemporaryDir>
@@ -170,6 +171,11 @@ protected:
         const QtFontMetrics metrics;
         QtPrinterDevice device(metrics, printer, "QK-> Prüfung");
         PrintSurface surface(device, metrics);
+        const QTemporaryDir folder;
+        const QString picture = folder.filePath("bild.png");
+        QImage red(300, 200, QImage::Format_RGB32);
+        red.fill(Qt::red);
+        red.save(picture);
         for (int page = 1; page <= pages; ++page) {
             if (page > 1) {
                 surface.NewPage();
@@ -177,6 +183,7 @@ protected:
             surface.CurrentX = 20;
             surface.CurrentY = 30;
             surface.Print("Blatt Nummer " + std::to_string(page));
+            surface.PaintPicture(picture.toStdString(), 100, 100, 30, 20);
         }
         surface.EndDoc();
     }
@@ -208,6 +215,9 @@ TEST_F(CupsTest, APageComesOutAndCopiesAreNotMultiplied) {
     EXPECT_TRUE(text.contains("Blatt Nummer 1")) << text.toStdString();
     EXPECT_TRUE(text.contains("Blatt Nummer 2"));
     EXPECT_TRUE(call("pdfinfo", {documents[0]}).contains("Pages:           2"));
+    const QByteArray pictures = call("pdfimages", {"-list", documents[0]});
+    EXPECT_TRUE(pictures.contains(" 300   200 ")) << pictures.toStdString();
+    EXPECT_FALSE(pictures.contains("jpeg")) << pictures.toStdString();
 }
 
 TEST_F(CupsTest, AFailureSaysWhatStoodInTheWay) {
