@@ -88,17 +88,12 @@ void Hauptfenster::DOKUMENT_OEFFNEN(const std::string& dokument) {
 }
 
 void Hauptfenster::Check_datum_Click() {
-    if (!t_.zustand.gesperrt() && t_.form1.Check_datum.ticked()) {
+    if (t_.form1.Check_datum.ticked()) {
         t_.form1.Text_Datum.Text = datum_text(t_.platform.clock.now());
     }
-    geaendert_und_rechnen();
 }
 
 void Hauptfenster::Check_LIEFERDATUM_Click() {
-    if (t_.zustand.gesperrt()) {
-        return;
-    }
-    t_.zustand.aendern();
     TextBox& feld = t_.form1.Text_LIEFERDATUM;
     if (t_.form1.Check_LIEFERDATUM.ticked() && !beginnt_mit(feld.Text(), kLieferdatum)) {
         feld.Text = kLieferdatum + gekuerzt(feld.Text());
@@ -107,10 +102,6 @@ void Hauptfenster::Check_LIEFERDATUM_Click() {
 }
 
 void Hauptfenster::Check_abgemahnt_Click() {
-    if (t_.zustand.gesperrt()) {
-        return;
-    }
-    t_.zustand.aendern();
     const bool abgemahnt = t_.form1.Check_abgemahnt.ticked();
     t_.form1.Combo1_mahnung.Enabled = abgemahnt;
     if (abgemahnt) {
@@ -122,12 +113,16 @@ void Hauptfenster::Option_anschreiben_Click() {
     const bool anschreiben = t_.form1.Option_anschreiben.Value();
     t_.form1.Frame_Bemerkungen[0].Visible = anschreiben;
     t_.form1.Frame_Bemerkungen[1].Visible = !anschreiben;
+    t_.summen.jetztberechnen_List();
 }
 
-void Hauptfenster::Satz_Click(const std::string& satz) {
-    if (!t_.zustand.gesperrt()) {
-        t_.form1.Text_MwSt.Text = satz;
-        geaendert_und_rechnen();
+/// VAT without a kind of it would count nothing.
+void Hauptfenster::Check_mwst_Click() {
+    Form1& f = t_.form1;
+    const bool ohne_art =
+        !f.Option_mwst_plus.Value() && !f.Option_mwst_minus.Value() && !f.Option_inkl_MwSt.Value();
+    if (f.Check_mwst.ticked() && ohne_art) {
+        f.Option_mwst_plus.Value = true;
     }
 }
 
@@ -137,10 +132,10 @@ void Hauptfenster::Text_MwSt_LostFocus() {
     SatzAuswahlZeigen(t_.form1, t_.werte);
 }
 
-void Hauptfenster::geaendert_und_rechnen() {
-    if (!t_.zustand.gesperrt()) {
-        t_.zustand.aendern();
-        t_.summen.jetztberechnen_List();
+void Hauptfenster::Command_berechnen_Click() {
+    t_.summen.jetztberechnen_List();
+    if (TextBox* feld = t_.eingabezeile.abgelehntes_feld()) {
+        Eingabezeile::hingehen(*feld);
     }
 }
 

@@ -22,7 +22,7 @@ public:
         Rechnungszustand& zustand;
         const Programmverzeichnis& verzeichnis;
         Platform& platform;
-        Rechnung& rechnung;
+        Eingabezeile& eingabezeile;
         Summen& summen;
         Positionen& positionen;
         Zeilenmenue& zeilenmenue;
@@ -35,6 +35,15 @@ public:
     explicit Hauptfenster(Teile teile);
 
 private:
+    using Ereignis = Control::Event;
+    /// The handler of an event that comes, too, when the program fills the control: it runs for the user
+    /// only.
+    Ereignis vom_benutzer(Ereignis tun);
+    /// The same for what changes the invoice: the change is noted, and everything recalculated behind it.
+    Ereignis aenderung(Ereignis tun = {});
+    /// The handler of a command of the user, before which panel 3 forgets the command before.
+    Ereignis befehl(Ereignis tun);
+
     void FensterVerdrahten();
     void MenueVerdrahten();
     void KopfVerdrahten();
@@ -42,6 +51,8 @@ private:
     void ListenVerdrahten();
     void ZeilenmenueVerdrahten();
     void BetraegeVerdrahten();
+    /// A rate, discount or shipping field: `rechnen` follows when it is left, and the Return key.
+    void WertfeldVerdrahten(TextBox& feld, const Ereignis& rechnen);
     void StatusVerdrahten();
     void RasterVerdrahten();
     void AblegenVerdrahten();
@@ -56,12 +67,11 @@ private:
     void Check_datum_Click();
     void Check_LIEFERDATUM_Click();
     void Check_abgemahnt_Click();
+    void Check_mwst_Click();
     void Option_anschreiben_Click();
-    void Satz_Click(const std::string& satz);
     void Text_MwSt_LostFocus();
+    void Command_berechnen_Click();
     void DOKUMENT_OEFFNEN(const std::string& dokument);
-    /// Recalculates after a change by the user, and notes the change.
-    void geaendert_und_rechnen();
 
     Teile t_;
     bool ohne_frage_schliessen_ = false;

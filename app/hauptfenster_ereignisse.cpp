@@ -3,12 +3,16 @@
 #include "app/raster.hpp"
 
 #include <algorithm>
+#include <functional>
+#include <map>
+#include <utility>
 
 namespace quittika {
 
 namespace {
 
 constexpr int kEingabetaste = 13;
+constexpr int kEscape = 27;
 constexpr int kEntfernen = 46;
 constexpr const char* kHilfeseite = "https://www.quittika.example/hilfe.htm";
 constexpr const char* kHauptseite = "https://www.quittika.example/";
@@ -21,7 +25,41 @@ std::string einzeilig(std::string text) {
     return text;
 }
 
+/// What each of these keys does.
+std::function<void(int)> tasten(std::map<int, Control::Event> belegung) {
+    return [belegung = std::move(belegung)](int taste) {
+        if (const auto gedrueckt = belegung.find(taste); gedrueckt != belegung.end()) {
+            gedrueckt->second();
+        }
+    };
+}
+
 } // namespace
+
+Hauptfenster::Ereignis Hauptfenster::vom_benutzer(Ereignis tun) {
+    return [&zustand = t_.zustand, tun = std::move(tun)] {
+        if (!zustand.gesperrt()) {
+            tun();
+        }
+    };
+}
+
+Hauptfenster::Ereignis Hauptfenster::aenderung(Ereignis tun) {
+    return vom_benutzer([this, tun = std::move(tun)] {
+        t_.zustand.aendern();
+        if (tun) {
+            tun();
+        }
+        t_.summen.jetztberechnen_List();
+    });
+}
+
+Hauptfenster::Ereignis Hauptfenster::befehl(Ereignis tun) {
+    return [&hinweise = t_.form1.Hinweise, tun = std::move(tun)] {
+        const Hinweiszeile::Befehl laeuft(hinweise);
+        tun();
+    };
+}
 
 void Hauptfenster::FensterVerdrahten() {
     Form1& f = t_.form1;
@@ -37,20 +75,20 @@ void Hauptfenster::FensterVerdrahten() {
 void Hauptfenster::MenueVerdrahten() {
     Form1& f = t_.form1;
     Dateibefehle& datei = t_.dateibefehle;
-    f.m_neu.Click = [&datei] { datei.m_neu_Click(); };
-    f.m_oeffnen.Click = [&datei] { datei.m_oeffnen_Click(); };
-    f.m_speichern.Click = [&datei] { datei.m_speichern_Click(); };
-    f.Command_jetztSpeichern.Click = [&datei] { datei.m_speichern_Click(); };
-    f.m_speichern_direkt.Click = [&datei] { datei.m_speichern_direkt_Click(); };
-    f.m_speichern_kurz.Click = [&datei] { datei.m_speichern_kurz_Click(); };
-    f.m_R1.Click = [&datei] { datei.m_R_Click(1); };
-    f.m_R2.Click = [&datei] { datei.m_R_Click(2); };
-    f.m_R3.Click = [&datei] { datei.m_R_Click(3); };
-    f.Command_printform.Click = [this] { t_.druckauftrag.Command_printform_Click(); };
-    f.m_Drucken.Click = [this] { t_.druckauftrag.Command_printform_Click(); };
-    f.m_beenden.Click = [this] { m_beenden_Click(); };
-    f.m_Schlagwortsuche.Click = [this] { m_Schlagwortsuche_Click(); };
-    f.ueber_QUITTIKA.Click = [this] { ueber_QUITTIKA_Click(); };
+    f.m_neu.Click = befehl([&datei] { datei.m_neu_Click(); });
+    f.m_oeffnen.Click = befehl([&datei] { datei.m_oeffnen_Click(); });
+    f.m_speichern.Click = befehl([&datei] { datei.m_speichern_Click(); });
+    f.Command_jetztSpeichern.Click = befehl([&datei] { datei.m_speichern_Click(); });
+    f.m_speichern_direkt.Click = befehl([&datei] { datei.m_speichern_direkt_Click(); });
+    f.m_speichern_kurz.Click = befehl([&datei] { datei.m_speichern_kurz_Click(); });
+    f.m_R1.Click = befehl([&datei] { datei.m_R_Click(1); });
+    f.m_R2.Click = befehl([&datei] { datei.m_R_Click(2); });
+    f.m_R3.Click = befehl([&datei] { datei.m_R_Click(3); });
+    f.Command_printform.Click = befehl([this] { t_.druckauftrag.Command_printform_Click(); });
+    f.m_Drucken.Click = befehl([this] { t_.druckauftrag.Command_printform_Click(); });
+    f.m_beenden.Click = befehl([this] { m_beenden_Click(); });
+    f.m_Schlagwortsuche.Click = befehl([this] { m_Schlagwortsuche_Click(); });
+    f.ueber_QUITTIKA.Click = befehl([this] { ueber_QUITTIKA_Click(); });
     const Programmverzeichnis& ordner = t_.verzeichnis;
     f.m_Benutzerhandbuch_html.Click = [this, &ordner] {
         DOKUMENT_OEFFNEN("file:///" + ordner.pfad("\\startbenutzerhandbuch.htm"));
@@ -69,50 +107,66 @@ void Hauptfenster::KopfVerdrahten() {
     Form1& f = t_.form1;
     for (TextBox* feld : {&f.Text_Datum, &f.Text_Kunde_1, &f.Text_Kunde_2, &f.Text_Kunde_3, &f.Text_Kunde_4,
                           &f.Text_KundennrK, &f.Text_LIEFERDATUM, &f.Text_rechnung, &f.Text_RNnr}) {
-        feld->Change = [this] { t_.zustand.aendern(); };
+        feld->Change = vom_benutzer([this] { t_.zustand.aendern(); });
     }
-    f.Check_LIEFERDATUM.Click = [this] { Check_LIEFERDATUM_Click(); };
-    f.Check_datum.Click = [this] { Check_datum_Click(); };
-    f.Command_KD_Add.Click = [this] { t_.kunde_aufnehmen.Command_KD_Add_Click(); };
-    f.Option_anschreiben.Click = [this] { Option_anschreiben_Click(); };
-    f.Option_Bemerkungen.Click = [this] { Option_anschreiben_Click(); };
+    f.Check_LIEFERDATUM.Click = aenderung([this] { Check_LIEFERDATUM_Click(); });
+    f.Check_datum.Click = aenderung([this] { Check_datum_Click(); });
+    f.Command_KD_Add.Click = befehl([this] { t_.kunde_aufnehmen.Command_KD_Add_Click(); });
+    for (OptionButton* block : {&f.Option_anschreiben, &f.Option_Bemerkungen}) {
+        block->Click = [this] { Option_anschreiben_Click(); };
+    }
     for (int n = 1; n <= 4; ++n) {
         for (TextBox& zeile : f.Text_Bemerkung(n)) {
-            zeile.Change = [this] { t_.zustand.aendern(); };
+            zeile.Change = vom_benutzer([this] { t_.zustand.aendern(); });
         }
+    }
+    // Printed otherwise, but nothing of the invoice itself.
+    for (Control* schalter :
+         {static_cast<Control*>(&f.Option_RECHNUNG), static_cast<Control*>(&f.Option_RECHNUNG_KOPIE),
+          static_cast<Control*>(&f.Option_LIEFERSCHEIN), static_cast<Control*>(&f.Option_LIEFERSCHEIN_KOPIE),
+          static_cast<Control*>(&f.Check_tele_nichtdrucken)}) {
+        schalter->Click = vom_benutzer([this] { t_.summen.jetztberechnen_List(); });
     }
 }
 
 void Hauptfenster::EingabeVerdrahten() {
     Form1& f = t_.form1;
     Positionen& positionen = t_.positionen;
-    f.Cmd_Add_To_list.Click = [&positionen] { positionen.Cmd_Add_To_list_Click(); };
-    f.Command_AENDERN.Click = [&positionen] { positionen.Command_AENDERN_Click(); };
-    f.md_Del_artikel.Click = [&positionen] { positionen.md_Del_artikel_Click(); };
-    f.Command_Trennzeile.Click = [&positionen] { positionen.Command_Trennzeile_Click(); };
-    f.Check_K.Click = [&positionen] { positionen.Check_K_Click(); };
+    f.Cmd_Add_To_list.Click = befehl([&positionen] { positionen.Cmd_Add_To_list_Click(); });
+    f.Command_AENDERN.Click = befehl([&positionen] { positionen.Command_AENDERN_Click(); });
+    f.md_Del_artikel.Click = befehl([&positionen] { positionen.md_Del_artikel_Click(); });
+    f.Command_Trennzeile.Click = befehl([&positionen] { positionen.Command_Trennzeile_Click(); });
+    f.Check_K.Click = vom_benutzer([&positionen] { positionen.Check_K_Click(); });
     for (TextBox* feld : {&f.Text_Menge, &f.Text_leistung, &f.Text_preis}) {
-        feld->GotFocus = [feld] { feld->select_all(); };
-        feld->KeyDown = [&positionen](int taste) {
-            if (taste == kEingabetaste) {
-                positionen.Cmd_Add_To_list_Click();
-            }
+        feld->GotFocus = [this, feld] {
+            feld->select_all();
+            t_.eingabezeile.fokus(true);
+        };
+        feld->LostFocus = [this] { t_.eingabezeile.fokus(false); };
+        feld->KeyDown = tasten({{kEingabetaste, befehl([&positionen] { positionen.Eingabetaste(); })},
+                                {kEscape, [&positionen] { positionen.ZeileLoslassen(); }}});
+    }
+    for (TextBox* feld : {&f.Text_Menge, &f.Text_preis}) {
+        feld->Change = vom_benutzer([this, feld] {
+            t_.form1.Hinweise.vergessen(*feld);
+            t_.eingabezeile.mitrechnen();
+        });
+        feld->LostFocus = [this, &positionen] {
+            t_.eingabezeile.fokus(false);
+            positionen.EingabezeileVerlassen();
         };
     }
-    f.Text_Menge.LostFocus = [this] { t_.summen.EingabezeileVerlassen(); };
-    f.Text_preis.LostFocus = [this] { t_.summen.EingabezeileVerlassen(); };
 }
 
 void Hauptfenster::ListenVerdrahten() {
     Form1& f = t_.form1;
-    f.List_DARSTELLUNG.Click = [this] { t_.positionen.List_DARSTELLUNG_Click(); };
-    f.List_DARSTELLUNG.KeyDown = [this](int taste) {
-        if (taste == kEntfernen) {
-            t_.positionen.md_Del_artikel_Click();
-        }
-    };
+    Positionen& positionen = t_.positionen;
+    f.List_DARSTELLUNG.Click = vom_benutzer(befehl([&positionen] { positionen.List_DARSTELLUNG_Click(); }));
+    f.List_DARSTELLUNG.KeyDown =
+        tasten({{kEntfernen, befehl([&positionen] { positionen.md_Del_artikel_Click(); })},
+                {kEscape, [&positionen] { positionen.ZeileLoslassen(); }}});
     for (ListBox* liste : f.Positionslisten()) {
-        liste->Click = [this, liste] { t_.positionen.Liste_Click(*liste); };
+        liste->Click = vom_benutzer([&positionen, liste] { positionen.Liste_Click(*liste); });
     }
 }
 
@@ -121,42 +175,55 @@ void Hauptfenster::ZeilenmenueVerdrahten() {
     Positionen& positionen = t_.positionen;
     Zeilenmenue& menue = t_.zeilenmenue;
     f.List_DARSTELLUNG.Changed = [&menue] { menue.EintraegeFreigeben(); };
-    f.m_Zeile_aendern.Click = [&menue] { menue.m_Zeile_aendern_Click(); };
-    f.m_Zeile_loeschen.Click = [&positionen] { positionen.md_Del_artikel_Click(); };
-    f.m_Zeile_kommentar.Click = [&menue] { menue.m_Zeile_kommentar_Click(); };
-    f.m_Zeile_umbruch.Click = [&positionen] { positionen.Command_Trennzeile_Click(); };
-    f.m_Zeile_hoch.Click = [&menue] { menue.m_Zeile_hoch_Click(); };
-    f.m_Zeile_runter.Click = [&menue] { menue.m_Zeile_runter_Click(); };
+    f.m_Zeile_aendern.Click = befehl([&menue] { menue.m_Zeile_aendern_Click(); });
+    f.m_Zeile_loeschen.Click = befehl([&positionen] { positionen.md_Del_artikel_Click(); });
+    f.m_Zeile_kommentar.Click = befehl([&menue] { menue.m_Zeile_kommentar_Click(); });
+    f.m_Zeile_umbruch.Click = befehl([&positionen] { positionen.Command_Trennzeile_Click(); });
+    f.m_Zeile_hoch.Click = befehl([&menue] { menue.m_Zeile_hoch_Click(); });
+    f.m_Zeile_runter.Click = befehl([&menue] { menue.m_Zeile_runter_Click(); });
     menue.EintraegeFreigeben();
 }
 
 void Hauptfenster::BetraegeVerdrahten() {
     Form1& f = t_.form1;
     for (Control* schalter :
-         {static_cast<Control*>(&f.Check_mwst), static_cast<Control*>(&f.Option_mwst_plus),
-          static_cast<Control*>(&f.Option_mwst_minus), static_cast<Control*>(&f.Option_inkl_MwSt),
-          static_cast<Control*>(&f.Check_RABATT), static_cast<Control*>(&f.Check_Versandkosten),
-          static_cast<Control*>(&f.Check_VersandMwStEXTRA), static_cast<Control*>(&f.Check_VersandINKL_MwSt),
-          static_cast<Control*>(&f.Check_mengenartDECIMAL), static_cast<Control*>(&f.Check_000)}) {
-        schalter->Click = [this] { geaendert_und_rechnen(); };
+         {static_cast<Control*>(&f.Option_mwst_plus), static_cast<Control*>(&f.Option_mwst_minus),
+          static_cast<Control*>(&f.Option_inkl_MwSt), static_cast<Control*>(&f.Check_RABATT),
+          static_cast<Control*>(&f.Check_Versandkosten), static_cast<Control*>(&f.Check_VersandMwStEXTRA),
+          static_cast<Control*>(&f.Check_VersandINKL_MwSt), static_cast<Control*>(&f.Check_mengenartDECIMAL),
+          static_cast<Control*>(&f.Check_000)}) {
+        schalter->Click = aenderung();
     }
-    f.Option_Satz1.Click = [this] { Satz_Click(t_.werte.MWST_SATZ1); };
-    f.Option_Satz2.Click = [this] { Satz_Click(t_.werte.MWST_SATZ2); };
-    for (TextBox* feld : {&f.Text_MwSt, &f.Text_Rabatt, &f.Text_PreisVersankostenEingabe, &f.Text_Versandk}) {
-        feld->Change = [this] { t_.zustand.aendern(); };
-        feld->LostFocus = [this] { t_.summen.jetztberechnen_List(); };
+    f.Check_mwst.Click = aenderung([this] { Check_mwst_Click(); });
+    f.Option_Satz1.Click = aenderung([this] { t_.form1.Text_MwSt.Text = t_.werte.MWST_SATZ1; });
+    f.Option_Satz2.Click = aenderung([this] { t_.form1.Text_MwSt.Text = t_.werte.MWST_SATZ2; });
+    WertfeldVerdrahten(f.Text_MwSt, [this] { Text_MwSt_LostFocus(); });
+    for (TextBox* feld : {&f.Text_Rabatt, &f.Text_PreisVersankostenEingabe, &f.Text_Versandk}) {
+        WertfeldVerdrahten(*feld, [this] { t_.summen.jetztberechnen_List(); });
     }
-    f.Text_MwSt.LostFocus = [this] { Text_MwSt_LostFocus(); };
-    f.Command_berechnen.Click = [this] { t_.summen.jetztberechnen_List(); };
+    f.Command_berechnen.Click = befehl([this] { Command_berechnen_Click(); });
+}
+
+void Hauptfenster::WertfeldVerdrahten(TextBox& feld, const Ereignis& rechnen) {
+    CommandButton& knopf = t_.form1.Command_berechnen;
+    feld.Change = vom_benutzer([this, &feld] {
+        t_.zustand.aendern();
+        t_.form1.Hinweise.vergessen(feld);
+    });
+    feld.GotFocus = [&knopf] { knopf.Default = true; };
+    feld.LostFocus = [&knopf, rechnen] {
+        knopf.Default = false;
+        rechnen();
+    };
+    feld.KeyDown = tasten({{kEingabetaste, befehl(rechnen)}});
 }
 
 void Hauptfenster::StatusVerdrahten() {
     Form1& f = t_.form1;
-    for (Control* feld : {static_cast<Control*>(&f.Check_versendet), static_cast<Control*>(&f.Check_bezahlt),
-                          static_cast<Control*>(&f.Combo1_mahnung)}) {
-        feld->Click = [this] { t_.zustand.aendern(); };
-    }
-    f.Check_abgemahnt.Click = [this] { Check_abgemahnt_Click(); };
+    f.Check_versendet.Click = aenderung();
+    f.Check_bezahlt.Click = aenderung();
+    f.Check_abgemahnt.Click = aenderung([this] { Check_abgemahnt_Click(); });
+    f.Combo1_mahnung.Click = vom_benutzer([this] { t_.zustand.aendern(); });
 }
 
 void Hauptfenster::RasterVerdrahten() {

@@ -2,7 +2,6 @@
 
 #include "platform/datum.hpp"
 #include "platform/textdatei.hpp"
-#include "platform/zahlen.hpp"
 
 #include <array>
 #include <string>
@@ -14,11 +13,6 @@ namespace {
 constexpr int kEigenesLayout = 9;
 constexpr int kTwipsJePixel = 15;
 constexpr int kRahmen = 40 * kTwipsJePixel; ///< title bar and the desktop's own bar
-
-std::string satztext(const std::string& satz) {
-    const auto wert = double_versuch(satz);
-    return wert ? format_zahl(*wert, "0.00") : satz;
-}
 
 /// Picture of the main window in which a page design shows its logo.
 Image& Logobild(Form1& f, int layout) {
@@ -57,7 +51,6 @@ void Ladefolge::Form_Load() {
         KonstantenSetzen();
         BilderLaden();
         LayoutZeigen();
-        SaetzeZeigen();
         VorgabenUebernehmen();
         z_.rechnung.NotizSetzen(vorgabe::kNotiz);
         Zentrieren();
@@ -76,9 +69,8 @@ void Ladefolge::Form_Load() {
 }
 
 void Ladefolge::KonstantenSetzen() {
-    z_.form1.Label_preis.Caption = "Einzelpreis[" + z_.werte.WAEHRUNG + "]";
-    z_.form1.Label_gesamtp.Caption = "Gesamtpreis[" + z_.werte.WAEHRUNG + "]";
-    z_.form1.Label_preisx.Caption = z_.form1.Label_preis.Caption();
+    z_.einstellungen.Label_preis.Caption = "Einzelpreis[" + z_.werte.WAEHRUNG + "]";
+    z_.einstellungen.Label_gesamtp.Caption = "Gesamtpreis[" + z_.werte.WAEHRUNG + "]";
 }
 
 void Ladefolge::BilderLaden() {
@@ -110,30 +102,11 @@ void Ladefolge::LayoutZeigen() {
     z_.form1.Image_WASSERZ.Picture = z_.einstellungen.Picture_wasserz.Picture();
 }
 
-void Ladefolge::SaetzeZeigen() {
-    const PROGRAMMEINSTELLUNG& w = z_.werte;
-    z_.form1.Text_MwSt.Text = z_.form1.Option_Satz2.Value() ? w.MWST_SATZ2 : w.MWST_SATZ1;
-    z_.form1.Option_Satz1.Caption = satztext(w.MWST_SATZ1) + " %";
-    z_.form1.Option_Satz2.Caption = satztext(w.MWST_SATZ2) + " %";
-    for (TextBox* feld : {&z_.form1.Text_MwSt, &z_.form1.Text_Rabatt}) {
-        feld->Text = satztext(feld->Text());
-    }
-}
-
 void Ladefolge::VorgabenUebernehmen() {
     Form1& f = z_.form1;
-    frm_einstellungen& e = z_.einstellungen;
+    z_.vorgaben.uebernehmen();
     f.Check_datum.Value = z_.programm.Check_datum.Value();
-    for (int n = 1; n <= 4; ++n) {
-        for (int block = 0; block < 2; ++block) {
-            f.Text_Bemerkung(n)[block].Text = e.Text_Bemerkung(n)[block].Text();
-        }
-    }
-    f.Text_rechnung.Text = e.Text_rechnung.Text();
-    f.Check_mwst.Value = e.Check_mwst.Value();
-    f.Option_mwst_plus.Value = e.Option_mwst_plus.Value();
-    f.Option_mwst_minus.Value = e.Option_mwst_minus.Value();
-    f.Option_inkl_MwSt.Value = e.Option_inkl_MwSt.Value();
+    f.Text_rechnung.Text = z_.einstellungen.Text_rechnung.Text();
     f.Text_Datum.Text = datum_text(z_.platform.clock.now());
 }
 

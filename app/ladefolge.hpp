@@ -25,6 +25,7 @@ public:
         const Platform& platform;
         Summen& summen;
         Rechnung& rechnung;
+        Vorgaben& vorgaben;
         Dateibefehle& dateibefehle;
         Rechnungsnummern& nummern;
         ZuletztGeoeffnet& zuletzt;
@@ -36,8 +37,6 @@ public:
 
     /// Logo pictures of the main window by page design; none without a logo and with the user's own design.
     void LayoutZeigen();
-    /// VAT rate of the invoice and the captions of the two rates.
-    void SaetzeZeigen();
 
 private:
     void KonstantenSetzen();

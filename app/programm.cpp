@@ -29,18 +29,20 @@ struct Programm::Teile {
     frm_Programm programm;
     Form_START form_start;
 
-    Rechnung rechnung{form1, zustand, platform.clock};
+    Eingabezeile eingabezeile{form1, platform.dialogs};
+    Rechnung rechnung{form1, zustand, eingabezeile, platform.clock};
+    Vorgaben vorgaben{form1, einstellungen, werte};
     Summen summen{form1,          einstellungen,
-                  zustand,        platform.dialogs,
+                  zustand,        eingabezeile,
                   platform.clock, [this] { return ANZAHL_DRUCKSEITEN(form1.List_K.items(), einstellungen); }};
-    Positionen positionen{form1, zustand, rechnung, summen, platform.dialogs};
-    Zeilenmenue zeilenmenue{form1, zustand, rechnung, summen, positionen};
+    Positionen positionen{form1, zustand, eingabezeile, rechnung, summen, platform.dialogs};
+    Zeilenmenue zeilenmenue{form1, zustand, eingabezeile, rechnung, summen, positionen};
     Rechnungsnummern nummern{form1, einstellungen, zustand, verzeichnis, platform.dialogs};
     ZuletztGeoeffnet zuletzt{form1, werte};
     Dateistand stand;
     Rechnungsschreiber schreiber{form1, werte, zustand, verzeichnis, stand, platform.dialogs, platform.clock};
     Rechnungsleser leser{form1, werte, zustand, rechnung, stand, platform.dialogs};
-    Dateibefehle dateibefehle{form1,     zustand, rechnung, summen, stand, platform.dialogs,
+    Dateibefehle dateibefehle{form1,     zustand, rechnung, vorgaben, summen, stand, platform.dialogs,
                               schreiber, leser,   nummern,  zuletzt};
     Druckauftrag druckauftrag{
         form1, einstellungen, werte, platform.dialogs, platform.printing, platform.desktop, [this] {
@@ -49,9 +51,9 @@ struct Programm::Teile {
     KundeAufnehmen kunde_aufnehmen{form1, verzeichnis, platform.dialogs};
     Erinnerung erinnerung{form1, zustand};
     Ladefolge ladefolge{{form1, einstellungen, programm, werte, zustand, verzeichnis, platform, summen,
-                         rechnung, dateibefehle, nummern, zuletzt}};
-    Hauptfenster hauptfenster{{form1, einstellungen, werte, zustand, verzeichnis, platform, rechnung, summen,
-                               positionen, zeilenmenue, dateibefehle, druckauftrag, kunde_aufnehmen,
+                         rechnung, vorgaben, dateibefehle, nummern, zuletzt}};
+    Hauptfenster hauptfenster{{form1, einstellungen, werte, zustand, verzeichnis, platform, eingabezeile,
+                               summen, positionen, zeilenmenue, dateibefehle, druckauftrag, kunde_aufnehmen,
                                erinnerung, ladefolge}};
     Startfenster startfenster{form_start, werte, verzeichnis, platform.clock, [this] { form1.Show(); }};
 };

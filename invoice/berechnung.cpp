@@ -8,49 +8,57 @@ namespace quittika {
 
 namespace {
 
-constexpr int kUeberlauf = 6;
-constexpr int kDivisionDurchNull = 11;
-
 double geteilt(double zaehler, double nenner) {
     if (nenner == 0) {
-        throw Laufzeitfehler(kDivisionDurchNull);
+        throw Laufzeitfehler(fehler::kDivisionDurchNull);
     }
     return endlich(zaehler / nenner);
+}
+
+/// Fills the amounts one behind the other; none is put before it is known to be one.
+void berechnen(const Rechenvorgabe& vorgabe, Rechenergebnis& e) {
+    if (vorgabe.rabatt) {
+        e.Rabattbetrag = endlich(vorgabe.Rabattprozent / 100 * vorgabe.Listensumme);
+    }
+    const double summe = e.Summe_nach_Rabatt = endlich(vorgabe.Listensumme - e.Rabattbetrag);
+    const double p = vorgabe.MwSt_Satz / 100 + 1;
+    double betrag = summe;
+    double mwst = 0;
+    switch (vorgabe.mwst) {
+    case Mwst_Modus::Ohne:
+        break;
+    case Mwst_Modus::Plus:
+        betrag = endlich(p * summe);
+        mwst = betrag - summe;
+        break;
+    case Mwst_Modus::Minus:
+        betrag = geteilt(summe, p);
+        mwst = -(summe - betrag);
+        break;
+    case Mwst_Modus::Inklusive:
+        mwst = summe - geteilt(summe, p);
+        break;
+    }
+    e.MwSt_Betrag = endlich(mwst);
+    e.Gesamtbetrag = endlich(vorgabe.Versand_Eingabe + betrag);
 }
 
 } // namespace
 
 double endlich(double wert) {
     if (!std::isfinite(wert)) {
-        throw Laufzeitfehler(kUeberlauf);
+        throw Laufzeitfehler(fehler::kUeberlauf);
     }
     return wert;
 }
 
 Rechenergebnis RECHNUNGSBETRAEGE(const Rechenvorgabe& vorgabe) {
     Rechenergebnis e;
-    if (vorgabe.rabatt) {
-        e.Rabattbetrag = endlich(vorgabe.Rabattprozent / 100 * vorgabe.Listensumme);
+    try {
+        berechnen(vorgabe, e);
+    } catch (const Laufzeitfehler& fehler) {
+        e.fehler = fehler.nummer();
     }
-    e.Summe_nach_Rabatt = endlich(vorgabe.Listensumme - e.Rabattbetrag);
-    const double p = vorgabe.MwSt_Satz / 100 + 1;
-    double betrag = e.Summe_nach_Rabatt;
-    switch (vorgabe.mwst) {
-    case Mwst_Modus::Ohne:
-        break;
-    case Mwst_Modus::Plus:
-        betrag = endlich(p * e.Summe_nach_Rabatt);
-        e.MwSt_Betrag = endlich(betrag - e.Summe_nach_Rabatt);
-        break;
-    case Mwst_Modus::Minus:
-        betrag = geteilt(e.Summe_nach_Rabatt, p);
-        e.MwSt_Betrag = endlich(-(e.Summe_nach_Rabatt - betrag));
-        break;
-    case Mwst_Modus::Inklusive:
-        e.MwSt_Betrag = endlich(e.Summe_nach_Rabatt - geteilt(e.Summe_nach_Rabatt, p));
-        break;
-    }
-    e.Gesamtbetrag = endlich(vorgabe.Versand_Eingabe + betrag);
     return e;
 }
 

@@ -27,11 +27,13 @@ struct Rechenvorgabe {
     double Versand_Eingabe = 0; ///< gross
 };
 
+/// What cannot be calculated, and all that rests on it, is 0.
 struct Rechenergebnis {
     double Rabattbetrag = 0;
     double Summe_nach_Rabatt = 0;
     double MwSt_Betrag = 0; ///< negative in `Minus`
     double Gesamtbetrag = 0;
+    int fehler = 0; ///< 11 for a rate of -100 where it divides, 6 for an overflow, 0 for none
 };
 
 struct Versandaufteilung {
@@ -39,12 +41,11 @@ struct Versandaufteilung {
     double Versand_MwSt = 0;
 };
 
-/// Discount, VAT and amount due. Throws `Laufzeitfehler` 11 for a rate of -100 where it divides, 6 on
-/// overflow.
+/// Discount, VAT and amount due.
 Rechenergebnis RECHNUNGSBETRAEGE(const Rechenvorgabe& vorgabe);
 
 /// Splits gross shipping at `satz` per cent; `bisher` is what stays where nothing is to be split.
-/// Throws `Laufzeitfehler` 11 and 6 as above.
+/// Throws `Laufzeitfehler` 11 for a rate of -100, 6 on overflow.
 Versandaufteilung VERSAND_AUFTEILEN(Versand_Modus modus, double Versand_Eingabe, double satz,
                                     Versandaufteilung bisher);
 

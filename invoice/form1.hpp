@@ -17,6 +17,8 @@ inline constexpr const char* kNotiz = "Es liegen keine Notizen vor...";
 inline constexpr const char* kMenge = "0";
 inline constexpr const char* kLeistung = "+  +  +  +  +  +  +  +  +  +  +  +  +  +  +  +  +  +  +  +  +  + ";
 inline constexpr const char* kBetrag = "0,00";
+inline constexpr const char* kVersandtext = "Versandkosten:";
+inline constexpr const char* kVersandMwSt = "Versandk.-MwSt.:";
 } // namespace vorgabe
 
 /// The main window. Its controls are the invoice in hand.
@@ -186,7 +188,7 @@ struct Form1 : Form {
     OptionButton Option_Satz2{Frame_MwSatz, "Option_Satz2", "7,00 %"};
     Frame Frame_Versandkosten{*this, "Frame_Versandkosten", "Versandkosten"};
     CheckBox Check_Versandkosten{Frame_Versandkosten, "Check_Versandkosten", "berechnen"};
-    TextBox Text_Versandk{Frame_Versandkosten, "Text_Versandk", "Versandkosten:"};
+    TextBox Text_Versandk{Frame_Versandkosten, "Text_Versandk", vorgabe::kVersandtext};
     TextBox Text_PreisVersankostenEingabe{Frame_Versandkosten, "Text_PreisVersankostenEingabe",
                                           vorgabe::kBetrag};
     CheckBox Check_VersandMwStEXTRA{Frame_Versandkosten, "Check_VersandMwStEXTRA",
@@ -200,9 +202,9 @@ struct Form1 : Form {
     Label Label_summeNACHRABATT{Frame4, "Label_summeNACHRABATT", "Summe nach Rabatt:"};
     TextBox Text_summeNACHRABATT{Frame4, "Text_summeNACHRABATT", vorgabe::kBetrag};
     TextBox Text_summemwst{Frame4, "Text_summemwst", vorgabe::kBetrag};
-    Label Label_Versandkosten{Frame4, "Label_Versandkosten", "Versandkosten:"};
+    Label Label_Versandkosten{Frame4, "Label_Versandkosten", vorgabe::kVersandtext};
     TextBox Text_PreisVersankosten{Frame4, "Text_PreisVersankosten", vorgabe::kBetrag};
-    Label Label_VersandkostenMWST{Frame4, "Label_VersandkostenMWST", "Versandk.-MwSt.:"};
+    Label Label_VersandkostenMWST{Frame4, "Label_VersandkostenMWST", vorgabe::kVersandMwSt};
     TextBox Text_PreisVersankostenMwST{Frame4, "Text_PreisVersankostenMwST", vorgabe::kBetrag};
     Label Label_summe{Frame4, "Label_summe", "Gesamtbetrag:"}; ///< stands beside the amount due
     TextBox Text_gesamtbetrag{Frame4, "Text_gesamtbetrag", vorgabe::kBetrag};

@@ -1,7 +1,6 @@
 #include "invoice/hinweiszeile.hpp"
 
-#include <algorithm>
-#include <utility>
+#include "platform/text.hpp"
 
 namespace quittika {
 
@@ -9,31 +8,32 @@ Hinweiszeile::Befehl::Befehl(Hinweiszeile& zeile) : zeile_(zeile) {
     if (zeile_.befehle_++ > 0) {
         return;
     }
-    zeile_.fremdes_uebernehmen();
-    if (!std::exchange(zeile_.frisch_, false)) {
-        zeile_.leeren();
+    std::erase_if(zeile_.meldungen_, [](const Meldung& meldung) { return !meldung.frisch; });
+    for (Meldung& meldung : zeile_.meldungen_) {
+        meldung.frisch = false;
     }
+    zeile_.zeigen();
 }
 
-void Hinweiszeile::melden(const std::string& text) {
+void Hinweiszeile::melden(const std::string& text, const Control* feld) {
     if (text.empty()) {
         return;
     }
-    fremdes_uebernehmen();
-    frisch_ = befehle_ == 0;
-    if (frisch_) {
-        meldungen_.clear();
-    }
-    if (std::find(meldungen_.begin(), meldungen_.end(), text) == meldungen_.end()) {
-        meldungen_.push_back(text);
-    }
+    std::erase_if(meldungen_, [&](const Meldung& meldung) {
+        return meldung.text == text || (feld != nullptr && meldung.feld == feld);
+    });
+    meldungen_.push_back({text, feld, befehle_ == 0});
+    zeigen();
+}
+
+void Hinweiszeile::vergessen(const Control& feld) {
+    std::erase_if(meldungen_, [&](const Meldung& meldung) { return meldung.feld == &feld; });
     zeigen();
 }
 
 void Hinweiszeile::setzen(Lage lage, const std::string& text) {
     std::string& jetzt = lagen_.at(static_cast<std::size_t>(lage));
     if (jetzt != text) {
-        fremdes_uebernehmen();
         jetzt = text;
         zeigen();
     }
@@ -44,25 +44,23 @@ void Hinweiszeile::leeren() {
     zeigen();
 }
 
-/// What another module has put into the panel itself counts as a message.
-void Hinweiszeile::fremdes_uebernehmen() {
-    if (panel_.Caption() != gezeigt_) {
-        meldungen_.clear();
-        if (!panel_.Caption().empty()) {
-            meldungen_.push_back(panel_.Caption());
-        }
+void Hinweiszeile::zeigen() {
+    std::string text;
+    const auto anfuegen = [&text](const std::string& teil) {
+        text += (text.empty() || teil.empty() ? "" : " ") + teil;
+    };
+    anfuegen(lagen_.front());
+    for (const Meldung& meldung : meldungen_) {
+        anfuegen(meldung.text);
     }
+    for (std::size_t i = 1; i < lagen_.size(); ++i) {
+        anfuegen(lagen_.at(i));
+    }
+    panel_.Caption = text;
 }
 
-void Hinweiszeile::zeigen() {
-    std::vector<std::string> teile = meldungen_;
-    teile.insert(teile.begin(), lagen_.front());
-    teile.insert(teile.end(), lagen_.begin() + 1, lagen_.end());
-    gezeigt_.clear();
-    for (const std::string& teil : teile) {
-        gezeigt_ += (gezeigt_.empty() || teil.empty() ? "" : " ") + teil;
-    }
-    panel_.Caption = gezeigt_;
+std::string BESCHRIFTUNG(const Control& steuerelement) {
+    return ersetzen(steuerelement.Caption(), "&", "");
 }
 
 } // namespace quittika

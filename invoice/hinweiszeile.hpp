@@ -22,17 +22,19 @@ public:
 
     explicit Hinweiszeile(StatusPanel& panel) : panel_(panel) {}
 
-    /// Tells what happened. The messages of one command add up; outside of a command the new one takes the
-    /// place of what stood there. An empty text tells nothing.
-    void melden(const std::string& text);
+    /// Tells what happened, beside what stands there. A field has one message at most. An empty text tells
+    /// nothing.
+    void melden(const std::string& text, const Control* feld = nullptr);
+    /// Takes away what was told of a field: something else is being typed there.
+    void vergessen(const Control& feld);
     /// Sets what holds; an empty text ends it.
     void setzen(Lage lage, const std::string& text);
     /// Takes the messages away. Conditions stay: they end with their cause.
     void leeren();
 
-    /// A command of the user, for its lifetime. It takes away the messages of the command before, but not one
-    /// that appeared since: leaving a field by a click on a button tells something about what the button
-    /// does.
+    /// A command of the user, for its lifetime. It takes away the messages of the command before, but not
+    /// those that appeared since: leaving a field by a click on a button tells something about what the
+    /// button does.
     class Befehl {
     public:
         explicit Befehl(Hinweiszeile& zeile);
@@ -45,15 +47,20 @@ public:
     };
 
 private:
-    void fremdes_uebernehmen();
+    struct Meldung {
+        std::string text;
+        const Control* feld;
+        bool frisch; ///< told outside of a command
+    };
     void zeigen();
 
     StatusPanel& panel_;
-    std::vector<std::string> meldungen_;
+    std::vector<Meldung> meldungen_;
     std::array<std::string, 3> lagen_;
-    std::string gezeigt_;
     int befehle_ = 0;
-    bool frisch_ = false; ///< told outside of a command
 };
+
+/// Caption of a control as it reads on screen, without the mark of its access key.
+std::string BESCHRIFTUNG(const Control& steuerelement);
 
 } // namespace quittika

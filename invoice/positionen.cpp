@@ -1,5 +1,7 @@
 #include "invoice/positionen.hpp"
 
+#include "platform/text.hpp"
+
 #include <algorithm>
 #include <string>
 
@@ -13,29 +15,42 @@ constexpr const char* kLeer = " ";
 
 } // namespace
 
-Positionen::Positionen(Form1& form1, Rechnungszustand& zustand, Rechnung& rechnung, Summen& summen,
-                       Dialogs& dialogs)
-    : form1_(form1), zustand_(zustand), rechnung_(rechnung), summen_(summen), dialogs_(dialogs) {}
+Positionen::Positionen(Form1& form1, Rechnungszustand& zustand, Eingabezeile& eingabezeile,
+                       Rechnung& rechnung, Summen& summen, Dialogs& dialogs)
+    : form1_(form1),
+      zustand_(zustand),
+      eingabezeile_(eingabezeile),
+      rechnung_(rechnung),
+      summen_(summen),
+      dialogs_(dialogs) {}
+
+void Positionen::EingabezeileVerlassen() {
+    if (eingabezeile_.Menge() && eingabezeile_.Preis()) {
+        summen_.jetztberechnen_List();
+    } else {
+        form1_.Text_gesamtp.Text = vorgabe::kBetrag;
+    }
+}
 
 Positionen::Eingabe Positionen::EingabePruefen() {
     if (form1_.Check_K.ticked()) {
         return Eingabe::Gueltig;
     }
     // What is added is what the fields show once they are left, by mouse and by the return key alike.
-    summen_.EingabezeileVerlassen();
-    const std::optional<double> menge = summen_.Menge();
-    if (menge && *menge == 0) {
+    EingabezeileVerlassen();
+    if (const std::optional<double> menge = eingabezeile_.Menge(); menge && *menge == 0) {
         return Eingabe::Menge_Null;
     }
-    if (menge && summen_.Preis()) {
-        return Eingabe::Gueltig;
+    if (TextBox* feld = eingabezeile_.falsches_feld()) {
+        EingabeAblehnen(*feld);
+        return Eingabe::Ungueltig;
     }
-    EingabeAblehnen();
-    return Eingabe::Ungueltig;
+    return Eingabe::Gueltig;
 }
 
-void Positionen::EingabeAblehnen() {
+void Positionen::EingabeAblehnen(TextBox& feld) {
     dialogs_.message({"Ihre Eingabe ist nicht gültig!", "Achtung Fehler!"});
+    Eingabezeile::hingehen(feld);
 }
 
 void Positionen::MengeNullMelden() {
@@ -44,13 +59,16 @@ void Positionen::MengeNullMelden() {
 
 void Positionen::Cmd_Add_To_list_Click() {
     zustand_.aendern();
-    if (!summen_.MengeIstZahl()) {
+    if (!eingabezeile_.MengeIstZahl()) {
+        form1_.Hinweise.melden(KEINE_ZAHL(form1_.Text_Menge.Text()) + ", die Menge steht auf 0.",
+                               &form1_.Text_Menge);
         form1_.Text_Menge.Text = vorgabe::kMenge;
     }
     const Eingabe eingabe = EingabePruefen();
-    if (eingabe == Eingabe::Gueltig) {
-        ZeileHinzufuegen(false);
-    } else if (eingabe == Eingabe::Menge_Null) {
+    if (eingabe == Eingabe::Ungueltig || (eingabe == Eingabe::Gueltig && !ZeileHinzufuegen(false))) {
+        return;
+    }
+    if (eingabe == Eingabe::Menge_Null) {
         MengeNullMelden();
     }
     NaechsteEingabe();
@@ -68,6 +86,7 @@ void Positionen::Command_AENDERN_Click() {
     zustand_.aendern();
     StillAuswaehlen(alte_zeile);
     ZeileEntfernen();
+    EingabezeileLeeren();
     ListenAbschliessen();
     NaechsteEingabe();
     if (eingabe == Eingabe::Menge_Null) {
@@ -75,17 +94,28 @@ void Positionen::Command_AENDERN_Click() {
     }
 }
 
-void Positionen::ZeileLoslassen() {
-    if (form1_.Command_AENDERN.Enabled()) {
-        const Rechnungszustand::Sperre still(zustand_);
-        rechnung_.EingabezeileLeeren();
+void Positionen::Eingabetaste() {
+    if (eingabezeile_.zeile() >= 0) {
+        Command_AENDERN_Click();
+    } else {
+        Cmd_Add_To_list_Click();
     }
+}
+
+void Positionen::ZeileLoslassen() {
+    if (eingabezeile_.zeile() >= 0) {
+        EingabezeileLeeren();
+    }
+}
+
+void Positionen::EingabezeileLeeren() {
+    const Rechnungszustand::Sperre still(zustand_);
+    eingabezeile_.leeren();
 }
 
 void Positionen::NaechsteEingabe() {
     StillAuswaehlen(form1_.List_DARSTELLUNG.ListCount() - 1);
-    form1_.Text_Menge.SetFocus();
-    form1_.Text_Menge.select_all();
+    Eingabezeile::hingehen(form1_.Text_Menge);
 }
 
 void Positionen::md_Del_artikel_Click() {
@@ -94,30 +124,42 @@ void Positionen::md_Del_artikel_Click() {
         return;
     }
     zustand_.aendern();
+    ZeileLoslassen();
     ZeileEntfernen();
     ListenAbschliessen();
     StillAuswaehlen(std::min(zeile, form1_.List_DARSTELLUNG.ListCount() - 1));
+    form1_.List_DARSTELLUNG.SetFocus();
 }
 
 void Positionen::Command_Trennzeile_Click() {
     zustand_.aendern();
+    const int zeile = form1_.List_DARSTELLUNG.ListIndex() + 1;
     ZeileHinzufuegen(true);
-    StillAuswaehlen(form1_.List_DARSTELLUNG.ListCount() - 1);
+    StillAuswaehlen(zeile);
+    form1_.List_DARSTELLUNG.SetFocus();
 }
 
 bool Positionen::ZeileHinzufuegen(bool Trennzeile) {
     summen_.jetztberechnen_List();
-    if (!Trennzeile && !summen_.ZeilensummeGueltig()) {
-        EingabeAblehnen();
+    if (!Trennzeile && !eingabezeile_.SummeGueltig()) {
+        EingabeAblehnen(form1_.Text_preis);
         return false;
     }
-    {
-        const Rechnungszustand::Sperre still(zustand_);
-        ZeileEinfuegen(form1_.List_DARSTELLUNG.ListIndex() + 1, Trennzeile);
-        rechnung_.EingabezeileLeeren();
+    if (!Trennzeile) {
+        StrichpunkteErsetzen();
     }
+    ZeileEinfuegen(form1_.List_DARSTELLUNG.ListIndex() + 1, Trennzeile);
+    EingabezeileLeeren();
     ListenAbschliessen();
     return true;
+}
+
+void Positionen::StrichpunkteErsetzen() {
+    const std::string& text = form1_.Text_leistung.Text();
+    if (text.find(';') != std::string::npos) {
+        form1_.Text_leistung.Text = ZEICHENERSETZEN(text, ";", ",");
+        form1_.Hinweise.melden("Aus \";\" wurde \",\": In der Datei endet bei einem \";\" das Feld.");
+    }
 }
 
 void Positionen::ZeileEinfuegen(int stelle, bool Trennzeile) {
@@ -143,16 +185,14 @@ void Positionen::ListenAbschliessen() {
 }
 
 void Positionen::StillAuswaehlen(int zeile) {
-    {
-        const Rechnungszustand::Sperre still(zustand_);
-        form1_.List_DARSTELLUNG.ListIndex = zeile;
-    }
-    form1_.Command_AENDERN.Enabled = false;
+    const Rechnungszustand::Sperre still(zustand_);
+    form1_.List_DARSTELLUNG.ListIndex = zeile;
     ZeileAuswaehlen(zeile, form1_.List_DARSTELLUNG);
+    eingabezeile_.zeile_setzen(-1);
 }
 
 void Positionen::ZeileAuswaehlen(int zeile, const Control& quelle) {
-    auswahl_laeuft_ = true;
+    const Rechnungszustand::Sperre still(zustand_);
     for (ListBox* liste : form1_.Positionslisten()) {
         if (liste != &quelle && zeile < liste->ListCount()) {
             liste->ListIndex = zeile;
@@ -161,7 +201,6 @@ void Positionen::ZeileAuswaehlen(int zeile, const Control& quelle) {
     if (&quelle != &form1_.List_DARSTELLUNG && zeile < form1_.List_DARSTELLUNG.ListCount()) {
         form1_.List_DARSTELLUNG.ListIndex = zeile;
     }
-    auswahl_laeuft_ = false;
 }
 
 void Positionen::List_DARSTELLUNG_Click() {
@@ -169,35 +208,26 @@ void Positionen::List_DARSTELLUNG_Click() {
 }
 
 void Positionen::Liste_Click(ListBox& liste) {
-    if (auswahl_laeuft_ || zustand_.gesperrt()) {
-        return;
-    }
     ZeileAuswaehlen(liste.ListIndex(), liste);
     ZeileInEingabeHolen();
 }
 
 void Positionen::ZeileInEingabeHolen() {
-    if (form1_.List_DARSTELLUNG.ListIndex() < 0) {
-        form1_.Command_AENDERN.Enabled = false;
-        return;
-    }
-    {
+    const int zeile = form1_.List_DARSTELLUNG.ListIndex();
+    if (zeile >= 0) {
         const Rechnungszustand::Sperre still(zustand_);
         form1_.Check_K.Value = form1_.List_K.Text() == "K" ? 1 : 0;
         form1_.Text_Menge.Text = form1_.List_Menge.Text();
         form1_.Text_leistung.Text = form1_.List_Leistung.Text();
         form1_.Text_preis.Text = form1_.List_Preis.Text();
         form1_.Text_gesamtp.Text = form1_.List_Gesamtp.Text();
+        eingabezeile_.felder_zeigen();
     }
-    EingabefelderZeigen(form1_);
-    form1_.Command_AENDERN.Enabled = true;
+    eingabezeile_.zeile_setzen(zeile);
 }
 
 void Positionen::Check_K_Click() {
-    if (zustand_.gesperrt()) {
-        return;
-    }
-    EingabefelderZeigen(form1_);
+    eingabezeile_.felder_zeigen();
     if (form1_.Text_Menge.Text() == kLeer) {
         form1_.Text_Menge.Text = vorgabe::kMenge;
     }

@@ -35,13 +35,10 @@ void SatzAuswahlZeigen(Form1& form1, const PROGRAMMEINSTELLUNG& einstellung) {
     form1.Option_Satz2.Value = !form1.Option_Satz1.Value() && satz && satz == wert(einstellung.MWST_SATZ2);
 }
 
-void EingabefelderZeigen(Form1& form1) {
-    const bool kommentar = form1.Check_K.ticked();
-    for (Control* feld :
-         {static_cast<Control*>(&form1.Text_Menge), static_cast<Control*>(&form1.Text_preis),
-          static_cast<Control*>(&form1.Check_mengenartDECIMAL), static_cast<Control*>(&form1.Check_000)}) {
-        feld->Visible = !kommentar;
-    }
+void ZweiteKopfzeileZeigen(Form1& form1) {
+    form1.Label_Mengex.Caption = form1.Label_Menge.Caption();
+    form1.Label_Leistungx.Caption = form1.Label_Leistung.Caption();
+    form1.Label_preisx.Caption = form1.Label_preis.Caption();
 }
 
 void LieferdatumFreigeben(Form1& form1) {
@@ -50,8 +47,8 @@ void LieferdatumFreigeben(Form1& form1) {
     form1.Text_LIEFERDATUM.BackColor = frei ? color::kWhite : color::kGrey;
 }
 
-Rechnung::Rechnung(Form1& form1, Rechnungszustand& zustand, const Clock& uhr)
-    : form1_(form1), zustand_(zustand), uhr_(uhr) {}
+Rechnung::Rechnung(Form1& form1, Rechnungszustand& zustand, Eingabezeile& eingabezeile, const Clock& uhr)
+    : form1_(form1), zustand_(zustand), eingabezeile_(eingabezeile), uhr_(uhr) {}
 
 void Rechnung::RechnungLeeren() {
     const Rechnungszustand::Sperre still(zustand_);
@@ -61,7 +58,7 @@ void Rechnung::RechnungLeeren() {
         betrag->Text = vorgabe::kBetrag;
     }
     StatusLeeren();
-    EingabezeileLeeren();
+    eingabezeile_.leeren();
     for (ListBox* liste : form1_.Positionslisten()) {
         liste->Clear();
     }
@@ -89,16 +86,6 @@ void Rechnung::StatusLeeren() {
     form1_.Check_bezahlt.Value = 0;
     form1_.Check_abgemahnt.Value = 0;
     form1_.Combo1_mahnung.Enabled = form1_.Check_abgemahnt.ticked();
-}
-
-void Rechnung::EingabezeileLeeren() {
-    form1_.Text_Menge.Text = vorgabe::kMenge;
-    form1_.Text_leistung.Text = vorgabe::kLeistung;
-    form1_.Text_preis.Text = vorgabe::kBetrag;
-    form1_.Text_gesamtp.Text = vorgabe::kBetrag;
-    form1_.Check_K.Value = 0;
-    EingabefelderZeigen(form1_);
-    form1_.Command_AENDERN.Enabled = false;
 }
 
 void Rechnung::NotizSetzen(const std::string& notiz) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "invoice/eingabezeile.hpp"
 #include "invoice/form1.hpp"
 #include "invoice/rechnungszustand.hpp"
 #include "platform/shell.hpp"
@@ -12,12 +13,10 @@ namespace quittika {
 /// The invoice in hand as a whole: reset, and the visible list.
 class Rechnung {
 public:
-    Rechnung(Form1& form1, Rechnungszustand& zustand, const Clock& uhr);
+    Rechnung(Form1& form1, Rechnungszustand& zustand, Eingabezeile& eingabezeile, const Clock& uhr);
 
     /// Puts the values of an empty invoice into the controls; the number stays.
     void RechnungLeeren();
-    /// Puts the input line back to its start values.
-    void EingabezeileLeeren();
     /// Rebuilds `List_DARSTELLUNG` from the six lists. Afterwards nothing is selected in it,
     /// and the last row in the six.
     void DarstellungAufbauen();
@@ -31,14 +30,15 @@ private:
 
     Form1& form1_;
     Rechnungszustand& zustand_;
+    Eingabezeile& eingabezeile_;
     const Clock& uhr_;
 };
 
 /// Switches on the rate that `Text_MwSt` holds, or none of the two where it is another.
 void SatzAuswahlZeigen(Form1& form1, const PROGRAMMEINSTELLUNG& einstellung);
 
-/// Shows what a position needs in the input line, hides it for a comment.
-void EingabefelderZeigen(Form1& form1);
+/// Takes the headings of the columns over the input line from those over the list.
+void ZweiteKopfzeileZeigen(Form1& form1);
 
 /// Enables the delivery date and its colour by `Check_LIEFERDATUM`.
 void LieferdatumFreigeben(Form1& form1);

@@ -34,9 +34,9 @@ public:
 
     /// True after a change by the user that is not saved yet.
     bool geaendert() const { return geaendert_; }
-    /// Notes a change by the user; nothing while the program itself fills the controls.
+    /// Notes a change by the user.
     void aendern() {
-        if (sperren_ == 0 && !geaendert_) {
+        if (!geaendert_) {
             geaendert_ = true;
             melden();
         }

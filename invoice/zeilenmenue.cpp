@@ -4,9 +4,14 @@
 
 namespace quittika {
 
-Zeilenmenue::Zeilenmenue(Form1& form1, Rechnungszustand& zustand, Rechnung& rechnung, Summen& summen,
-                         Positionen& positionen)
-    : form1_(form1), zustand_(zustand), rechnung_(rechnung), summen_(summen), positionen_(positionen) {}
+Zeilenmenue::Zeilenmenue(Form1& form1, Rechnungszustand& zustand, Eingabezeile& eingabezeile,
+                         Rechnung& rechnung, Summen& summen, Positionen& positionen)
+    : form1_(form1),
+      zustand_(zustand),
+      eingabezeile_(eingabezeile),
+      rechnung_(rechnung),
+      summen_(summen),
+      positionen_(positionen) {}
 
 void Zeilenmenue::EintraegeFreigeben() {
     const int zeile = form1_.List_DARSTELLUNG.ListIndex();
@@ -20,7 +25,7 @@ void Zeilenmenue::EintraegeFreigeben() {
 }
 
 void Zeilenmenue::m_Zeile_aendern_Click() {
-    if (!form1_.Command_AENDERN.Enabled()) {
+    if (eingabezeile_.zeile() < 0) {
         positionen_.ZeileInEingabeHolen();
     }
     (form1_.Check_K.ticked() ? form1_.Text_leistung : form1_.Text_Menge).SetFocus();
@@ -51,6 +56,9 @@ void Zeilenmenue::ZeileVerschieben(int schritt) {
     summen_.jetztberechnen_List();
     rechnung_.DarstellungAufbauen();
     Auswaehlen(nach);
+    if (eingabezeile_.zeile() >= 0) {
+        eingabezeile_.zeile_setzen(nach);
+    }
 }
 
 void Zeilenmenue::Auswaehlen(int zeile) {

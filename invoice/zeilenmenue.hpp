@@ -7,8 +7,8 @@ namespace quittika {
 /// The menu of a row of the position list: what it does beyond the buttons beside the list.
 class Zeilenmenue {
 public:
-    Zeilenmenue(Form1& form1, Rechnungszustand& zustand, Rechnung& rechnung, Summen& summen,
-                Positionen& positionen);
+    Zeilenmenue(Form1& form1, Rechnungszustand& zustand, Eingabezeile& eingabezeile, Rechnung& rechnung,
+                Summen& summen, Positionen& positionen);
 
     /// Moves to the input line, where the selected row stands to be changed.
     void m_Zeile_aendern_Click();
@@ -28,6 +28,7 @@ private:
 
     Form1& form1_;
     Rechnungszustand& zustand_;
+    Eingabezeile& eingabezeile_;
     Rechnung& rechnung_;
     Summen& summen_;
     Positionen& positionen_;

@@ -1,9 +1,32 @@
 #include "masterdata/kunde_aufnehmen.hpp"
 
+#include "invoice/programmname.hpp"
 #include "invoice/zeichenersatz.hpp"
+#include "platform/laufzeitfehler.hpp"
+#include "platform/text.hpp"
 #include "platform/textdatei.hpp"
 
+#include <algorithm>
+#include <iterator>
+#include <utility>
+#include <vector>
+
 namespace quittika {
+
+namespace {
+
+/// Compares with the line as it would read in the file. A list that cannot be read holds nothing.
+bool schon_in_der_liste(const std::string& pfad, const std::string& zeile) {
+    const std::string gesucht = aus_ansi(nach_ansi(zeile).bytes);
+    try {
+        const std::vector<std::string> zeilen = zeilen_lesen(pfad);
+        return std::find(zeilen.begin(), zeilen.end(), gesucht) != zeilen.end();
+    } catch (const Laufzeitfehler&) {
+        return false;
+    }
+}
+
+} // namespace
 
 std::string KUNDENZEILE(const Form1& form1) {
     std::string zeile;
@@ -19,14 +42,48 @@ KundeAufnehmen::KundeAufnehmen(Form1& form1, const Programmverzeichnis& verzeich
 
 void KundeAufnehmen::Command_KD_Add_Click() {
     const std::string pfad = verzeichnis_.pfad("\\Kundenliste.txt");
-    const auto ergebnis = ZEILE_ANHAENGEN(pfad, KUNDENZEILE(form1_));
-    form1_.StatusBar1[3].Caption = ZEICHENERSATZ_MELDUNG(ergebnis.ersetzt);
-    if (!ergebnis) {
-        dialogs_.message({"Es ist ein Fehler beim hinzufügen des Kunden passiert. Bitte überprüfen Sie Ihre "
-                          "Kundendatei >>Kundenliste.txt<< im Programmverzeichnis.",
-                          pfad + " Kundendateifehler... Fehlernr: " + std::to_string(ergebnis.fehlernummer),
-                          Buttons::Ok, Symbol::Exclamation});
+    const std::string zeile = KUNDENZEILE(form1_);
+    if (!Bestaetigt(pfad, zeile)) {
+        form1_.StatusBar1[2].Caption = "Kunde nicht aufgenommen.";
+        return;
     }
+    const auto ergebnis = ZEILE_ANHAENGEN(pfad, zeile);
+    form1_.Hinweise.melden(ZEICHENERSATZ_MELDUNG(ergebnis.ersetzt));
+    if (ergebnis) {
+        form1_.StatusBar1[2].Caption = "Kunde aufgenommen.";
+    } else {
+        FehlerMelden(pfad, ergebnis.fehlernummer);
+    }
+}
+
+bool KundeAufnehmen::Bestaetigt(const std::string& pfad, const std::string& zeile) {
+    std::string frage;
+    if (nur_platzhalter()) {
+        frage = "Es sind noch keine Kundendaten eingetragen. Trotzdem in die Kundenliste aufnehmen?";
+    } else if (schon_in_der_liste(pfad, zeile)) {
+        frage = "Dieser Kunde steht schon genau so in der Kundenliste. Noch einmal aufnehmen?";
+    }
+    return frage.empty() ||
+           dialogs_.message({frage, kProgrammname, Buttons::YesNo, Symbol::Question}) == Answer::Yes;
+}
+
+bool KundeAufnehmen::nur_platzhalter() const {
+    const std::pair<const TextBox*, const char*> felder[] = {{&form1_.Text_Kunde_1, vorgabe::kKunde1},
+                                                             {&form1_.Text_Kunde_2, vorgabe::kKunde2},
+                                                             {&form1_.Text_Kunde_3, vorgabe::kKunde3},
+                                                             {&form1_.Text_Kunde_4, vorgabe::kKunde4},
+                                                             {&form1_.Text_KundennrK, vorgabe::kKundennr}};
+    return std::all_of(std::begin(felder), std::end(felder), [](const auto& feld) {
+        const std::string text = gekuerzt(feld.first->Text());
+        return text.empty() || text == feld.second;
+    });
+}
+
+void KundeAufnehmen::FehlerMelden(const std::string& pfad, int fehlernummer) {
+    dialogs_.message({"Es ist ein Fehler beim hinzufügen des Kunden passiert. Bitte überprüfen Sie Ihre "
+                      "Kundendatei >>Kundenliste.txt<< im Programmverzeichnis.",
+                      pfad + " Kundendateifehler... Fehlernr: " + std::to_string(fehlernummer), Buttons::Ok,
+                      Symbol::Exclamation});
 }
 
 } // namespace quittika

@@ -13,10 +13,15 @@ class KundeAufnehmen {
 public:
     KundeAufnehmen(Form1& form1, const Programmverzeichnis& verzeichnis, Dialogs& dialogs);
 
-    /// Appends the customer to Kundenliste.txt; a message tells when that fails.
+    /// Appends the customer to Kundenliste.txt; panel 2 tells that it is done, a message that it failed. Asks
+    /// first where nothing is filled in, or the list holds the same line already.
     void Command_KD_Add_Click();
 
 private:
+    bool Bestaetigt(const std::string& pfad, const std::string& zeile);
+    bool nur_platzhalter() const;
+    void FehlerMelden(const std::string& pfad, int fehlernummer);
+
     Form1& form1_;
     const Programmverzeichnis& verzeichnis_;
     Dialogs& dialogs_;

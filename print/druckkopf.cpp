@@ -37,7 +37,7 @@ void Druckkopf::DRUCKE_FALTMARKEN(Blatt& blatt) const {
 }
 
 void Druckkopf::kopfbeginn(Blatt& blatt) const {
-    blatt.surface.FontName = programm_.DRUCKERSCHRIFT;
+    blatt.surface.FontName = programm_.RECHNUNGSSCHRIFT;
     DRUCKE_WASSERZEICHEN(blatt);
     DRUCKE_FALTMARKEN(blatt);
     blatt.gehe_zu(12, 0);

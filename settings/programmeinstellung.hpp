@@ -24,14 +24,15 @@ struct PROGRAMMEINSTELLUNG {
     Color FARBE_BEMERKUNGEN = 0;
     Color FARBE_FIRMENDATEN = 0;
     Color FARBE_KUNDENNR = 0;
-    int LAYOUTNUMMER = 2; ///< page design, 1 to 8 built in, 9 the user's own
-    std::string DRUCKERSCHRIFT = "Arial";
-    int GROESSE_RECHNUNG = 10;    ///< points
-    int GROESSE_WERBUNG = 10;     ///< points
-    int GROESSE_ANSCHREIBEN = 10; ///< points
-    int GROESSE_BEMERKUNGEN = 10; ///< points
-    int GROESSE_ZUSATZ_1 = 10;    ///< points
-    int GROESSE_ZUSATZ_2 = 10;    ///< points
+    int LAYOUTNUMMER = 2;                   ///< page design, 1 to 8 built in, 9 the user's own
+    std::string DRUCKERSCHRIFT = "Arial";   ///< print font of new invoices
+    std::string RECHNUNGSSCHRIFT = "Arial"; ///< print font of the invoice in hand
+    int GROESSE_RECHNUNG = 10;              ///< points
+    int GROESSE_WERBUNG = 10;               ///< points
+    int GROESSE_ANSCHREIBEN = 10;           ///< points
+    int GROESSE_BEMERKUNGEN = 10;           ///< points
+    int GROESSE_ZUSATZ_1 = 10;              ///< points
+    int GROESSE_ZUSATZ_2 = 10;              ///< points
 };
 
 } // namespace quittika

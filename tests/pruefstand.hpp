@@ -96,16 +96,18 @@ struct Pruefstand {
     Rechnungszustand zustand;
     Form1 form1;
     frm_einstellungen einstellungen;
-    Rechnung rechnung{form1, zustand, uhr};
-    Summen summen{form1, einstellungen, zustand, dialoge, uhr, [] { return 1; }};
-    Positionen positionen{form1, zustand, rechnung, summen, dialoge};
+    Eingabezeile eingabezeile{form1, dialoge};
+    Rechnung rechnung{form1, zustand, eingabezeile, uhr};
+    Vorgaben vorgaben{form1, einstellungen, werte};
+    Summen summen{form1, einstellungen, zustand, eingabezeile, uhr, [] { return 1; }};
+    Positionen positionen{form1, zustand, eingabezeile, rechnung, summen, dialoge};
     Rechnungsnummern nummern{form1, einstellungen, zustand, verzeichnis, dialoge};
     ZuletztGeoeffnet zuletzt{form1, werte};
     Dateistand stand;
     Rechnungsschreiber schreiber{form1, werte, zustand, verzeichnis, stand, dialoge, uhr};
     Rechnungsleser leser{form1, werte, zustand, rechnung, stand, dialoge};
-    Dateibefehle befehle{form1,   zustand,   rechnung, summen,  stand,
-                         dialoge, schreiber, leser,    nummern, zuletzt};
+    Dateibefehle befehle{form1,   zustand,   rechnung, vorgaben, summen, stand,
+                         dialoge, schreiber, leser,    nummern,  zuletzt};
 
     Pruefstand() {
         rechnung.RechnungLeeren();

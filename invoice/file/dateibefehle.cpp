@@ -14,12 +14,14 @@ constexpr const char* kSpeicherfehler = "FEHLER BEIM SPEICHERN";
 
 } // namespace
 
-Dateibefehle::Dateibefehle(Form1& form1, Rechnungszustand& zustand, Rechnung& rechnung, Summen& summen,
-                           const Dateistand& stand, Dialogs& dialogs, Rechnungsschreiber& schreiber,
-                           Rechnungsleser& leser, Rechnungsnummern& nummern, ZuletztGeoeffnet& zuletzt)
+Dateibefehle::Dateibefehle(Form1& form1, Rechnungszustand& zustand, Rechnung& rechnung, Vorgaben& vorgaben,
+                           Summen& summen, const Dateistand& stand, Dialogs& dialogs,
+                           Rechnungsschreiber& schreiber, Rechnungsleser& leser, Rechnungsnummern& nummern,
+                           ZuletztGeoeffnet& zuletzt)
     : form1_(form1),
       zustand_(zustand),
       rechnung_(rechnung),
+      vorgaben_(vorgaben),
       summen_(summen),
       stand_(stand),
       dialogs_(dialogs),
@@ -58,13 +60,20 @@ void Dateibefehle::m_neu_Click() {
         return;
     }
     form1_.StatusBar1[2].Caption = "";
-    form1_.Hinweise.leeren();
-    nummern_.RNNUMMERZUWEISEN();
     rechnung_.RechnungLeeren();
+    NeuBeginnen();
     zustand_.DateiLoesen();
-    summen_.VersandMerken({});
     summen_.jetztberechnen_List();
     zustand_.als_gespeichert_merken();
+}
+
+void Dateibefehle::NeuBeginnen() {
+    const Rechnungszustand::Sperre still(zustand_);
+    form1_.Hinweise.leeren();
+    nummern_.RNNUMMERZUWEISEN();
+    vorgaben_.uebernehmen();
+    summen_.VersandMerken({});
+    PfadZeigen("");
 }
 
 bool Dateibefehle::m_speichern_Click() {
@@ -211,10 +220,7 @@ bool Dateibefehle::oeffneRN(const std::string& pfad) {
         }
         leser_.DateiEinlesen(gewaehlt);
         zuletzt_.ZuletztGeoeffnetMerken(gewaehlt);
-        const bool rechnung = leser_.DateiDatenAnzeigen();
-        AktuellenPfadSetzen(rechnung && !leser_.befund().abgeschnitten ? gewaehlt : std::string());
-        PfadZeigen(gewaehlt);
-        Auffrischen();
+        GelesenesZeigen(gewaehlt);
         form1_.StatusBar1[2].Caption = "GEÖFFNETE DATEI: " + gewaehlt;
         CMD_Seite1_Click(0);
         return true;
@@ -231,11 +237,8 @@ void Dateibefehle::m_R_Click(int n) {
     const std::string pfad = zuletzt_.Eintrag(n);
     try {
         leser_.DateiEinlesen(pfad);
-        AktuellenPfadSetzen(leser_.DateiDatenAnzeigen() && !leser_.befund().abgeschnitten ? pfad
-                                                                                          : std::string());
-        PfadZeigen(pfad);
         form1_.StatusBar1[2].Caption = "GEÖFFNETE DATEI: " + pfad;
-        Auffrischen();
+        GelesenesZeigen(pfad);
     } catch (const Laufzeitfehler& fehler) {
         OeffnungsfehlerMelden(pfad, fehler);
     }
@@ -256,10 +259,21 @@ void Dateibefehle::AktuellenPfadSetzen(const std::string& pfad) {
     form1_.m_speichern_direkt.Enabled = !pfad.empty();
 }
 
+void Dateibefehle::GelesenesZeigen(const std::string& pfad) {
+    const bool rechnung = leser_.DateiDatenAnzeigen();
+    AktuellenPfadSetzen(rechnung && !leser_.befund().abgeschnitten ? pfad : std::string());
+    if (rechnung) {
+        PfadZeigen(pfad);
+        form1_.Hinweise.leeren();
+        form1_.Hinweise.melden(BEFUND_MELDUNG(leser_.befund()));
+        summen_.VersandMerken(leser_.VersandGelesen());
+    } else {
+        NeuBeginnen();
+    }
+    Auffrischen();
+}
+
 void Dateibefehle::Auffrischen() {
-    form1_.Hinweise.leeren();
-    form1_.Hinweise.melden(BEFUND_MELDUNG(leser_.befund()));
-    summen_.VersandMerken(leser_.VersandGelesen());
     summen_.jetztberechnen_List();
     rechnung_.DarstellungAufbauen();
     {

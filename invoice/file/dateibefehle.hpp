@@ -5,6 +5,7 @@
 #include "invoice/file/rechnungsschreiber.hpp"
 #include "invoice/file/zuletzt_geoeffnet.hpp"
 #include "invoice/summen.hpp"
+#include "invoice/vorgaben.hpp"
 #include "platform/laufzeitfehler.hpp"
 
 #include <string>
@@ -14,8 +15,8 @@ namespace quittika {
 /// New, open and save: the commands of the file menu.
 class Dateibefehle {
 public:
-    Dateibefehle(Form1& form1, Rechnungszustand& zustand, Rechnung& rechnung, Summen& summen,
-                 const Dateistand& stand, Dialogs& dialogs, Rechnungsschreiber& schreiber,
+    Dateibefehle(Form1& form1, Rechnungszustand& zustand, Rechnung& rechnung, Vorgaben& vorgaben,
+                 Summen& summen, const Dateistand& stand, Dialogs& dialogs, Rechnungsschreiber& schreiber,
                  Rechnungsleser& leser, Rechnungsnummern& nummern, ZuletztGeoeffnet& zuletzt);
 
     /// Starts a new invoice, after asking whether to save the present one.
@@ -59,11 +60,16 @@ private:
     /// A file that was refused leaves no current path: what stands in the window is not what another file
     /// holds.
     void AktuellenPfadSetzen(const std::string& pfad);
+    /// Shows what the reader has read of a file; after a refusal a new invoice begins.
+    void GelesenesZeigen(const std::string& pfad);
+    /// Gives a new invoice what `RechnungLeeren` does not reset.
+    void NeuBeginnen();
     void Auffrischen();
 
     Form1& form1_;
     Rechnungszustand& zustand_;
     Rechnung& rechnung_;
+    Vorgaben& vorgaben_;
     Summen& summen_;
     const Dateistand& stand_;
     Dialogs& dialogs_;

@@ -166,7 +166,7 @@ void Rechnungsleser::VersandUebernehmen() {
         HaekchenUebernehmen(form1_.Check_VersandINKL_MwSt, DatenLesen[dateizeile::kVersandInklusive]);
     } else {
         form1_.Check_Versandkosten.Value = 0;
-        form1_.Text_Versandk.Text = "Versandkosten:";
+        form1_.Text_Versandk.Text = vorgabe::kVersandtext;
         form1_.Text_PreisVersankostenEingabe.Text = vorgabe::kBetrag;
     }
     form1_.Label_Versandkosten.Caption = form1_.Text_Versandk.Text();
@@ -204,13 +204,11 @@ void Rechnungsleser::UebrigesUebernehmen() {
     }
     const std::string& schrift = DatenLesen[dateizeile::kSchrift];
     if (!schrift.empty() && schrift != kNichtGesetzt) {
-        einstellung_.DRUCKERSCHRIFT = schrift;
+        einstellung_.RECHNUNGSSCHRIFT = schrift;
     }
     const std::string& notiz = DatenLesen[dateizeile::kNotiz];
     rechnung_.NotizSetzen(notiz == kNichtGesetzt ? std::string(vorgabe::kNotiz) : notiz);
-    form1_.Label_Mengex.Caption = form1_.Label_Menge.Caption();
-    form1_.Label_Leistungx.Caption = form1_.Label_Leistung.Caption();
-    form1_.Label_preisx.Caption = form1_.Label_preis.Caption();
+    ZweiteKopfzeileZeigen(form1_);
     LieferdatumFreigeben(form1_);
 }
 

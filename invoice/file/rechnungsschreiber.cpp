@@ -68,7 +68,7 @@ void Rechnungsschreiber::BesondereZeilen() {
         {dateizeile::kKennung, kDateikennung},
         {dateizeile::kMahnung, std::to_string(form1_.Combo1_mahnung.ListIndex())},
         {dateizeile::kMwStSatz, zahl_text(satz)},
-        {dateizeile::kSchrift, einstellung_.DRUCKERSCHRIFT},
+        {dateizeile::kSchrift, einstellung_.RECHNUNGSSCHRIFT},
         {dateizeile::kNotiz, zustand_.Notiztext},
         {dateizeile::kVersandMwSt, numerisch_oder_null(form1_.Text_PreisVersankostenMwST.Text())},
         {dateizeile::kVersandNetto, numerisch_oder_null(form1_.Text_PreisVersankosten.Text())},

@@ -58,18 +58,28 @@ TEST(Berechnung, JederModusVonHandGerechnet) {
     }
 }
 
-TEST(Berechnung, ArithmetischeFehlerHabenIhreNummer) {
-    const auto nummer = [](const Rechenvorgabe& v) {
-        try {
-            RECHNUNGSBETRAEGE(v);
-        } catch (const Laufzeitfehler& f) {
-            return f.nummer();
-        }
-        return 0;
+TEST(Berechnung, WasSichNichtBerechnenLaesstIstNull) {
+    struct Fehlerfall {
+        Rechenvorgabe vorgabe;
+        int nummer;
+        Rechenergebnis ergebnis;
     };
-    EXPECT_EQ(nummer({1, false, 0, Mwst_Modus::Minus, -100, 0}), 11);
-    EXPECT_EQ(nummer({1, false, 0, Mwst_Modus::Inklusive, -100, 0}), 11);
-    EXPECT_EQ(nummer({1e308, true, 1e308, Mwst_Modus::Ohne, 0, 0}), 6);
+    const Fehlerfall faelle[] = {
+        {{100, true, 10, Mwst_Modus::Minus, -100, 5}, 11, {10, 90, 0, 0}},
+        {{100, false, 0, Mwst_Modus::Inklusive, -100, 0}, 11, {0, 100, 0, 0}},
+        {{1e308, true, 1e308, Mwst_Modus::Ohne, 0, 0}, 6, {0, 0, 0, 0}},
+        {{1e308, false, 0, Mwst_Modus::Plus, 100, 0}, 6, {0, 1e308, 0, 0}},
+        {{1.7e308, false, 0, Mwst_Modus::Ohne, 0, 1.7e308}, 6, {0, 1.7e308, 0, 0}},
+    };
+    for (const Fehlerfall& f : faelle) {
+        SCOPED_TRACE(f.vorgabe.MwSt_Satz);
+        const Rechenergebnis e = RECHNUNGSBETRAEGE(f.vorgabe);
+        EXPECT_EQ(e.fehler, f.nummer);
+        EXPECT_EQ(e.Rabattbetrag, f.ergebnis.Rabattbetrag);
+        EXPECT_EQ(e.Summe_nach_Rabatt, f.ergebnis.Summe_nach_Rabatt);
+        EXPECT_EQ(e.MwSt_Betrag, 0);
+        EXPECT_EQ(e.Gesamtbetrag, 0);
+    }
 }
 
 TEST(Berechnung, VersandWirdGeteilt) {

@@ -31,7 +31,8 @@ TEST(Mengen, WerdenNachIhrerArtGelesenUndGeschrieben) {
         {"keine Zahl", false, "zwei", "zwei", 1},
         {"leer", true, "", "", 1},
         {"Leerzeichen einer Kommentarzeile", false, " ", " ", 0},
-        {"Punkt und Komma", true, "1.234,5", "1,234,5", 1},
+        {"Punkt und Komma", true, "1.234,5", "1234,5", 0},
+        {"Punkte am falschen Ort", true, "1.2.3,4", "1,2,3,4", 1},
         {"unendlich", true, "inf", "inf", 1},
     };
     for (const Fall& f : faelle) {
@@ -87,19 +88,6 @@ TEST(Summen, DezimaleStoerungenVerschwinden) {
     p.summen.jetztberechnen_List();
     EXPECT_EQ(p.form1.Text_summe.Text(), "1,00");
     EXPECT_EQ(p.form1.Text_summemwst.Text(), "0,16");
-}
-
-TEST(Summen, DivisionDurchNullLaesstDieBetraegeStehen) {
-    Pruefstand p;
-    p.zeile("1", "Posten", "119");
-    p.form1.Check_mwst.Value = 1;
-    p.form1.Option_mwst_minus.Value = true;
-    p.summen.jetztberechnen_List();
-    EXPECT_EQ(p.form1.Text_gesamtbetrag.Text(), "100,00");
-    p.form1.Text_MwSt.Text = "-100";
-    p.summen.jetztberechnen_List();
-    EXPECT_EQ(p.form1.Text_gesamtbetrag.Text(), "100,00");
-    EXPECT_TRUE(p.dialoge.boxen.empty());
 }
 
 TEST(Summen, VersandBeschriftungenFolgenDerArt) {
