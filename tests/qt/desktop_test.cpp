@@ -154,9 +154,7 @@ TEST_F(DesktopTest, FilesFallOnTheWindowAndTextOnTheField) {
     files.setUrls({QUrl("file:///tmp/%C3%96l%20a.qk8")});
     files.setText("file:///tmp/%C3%96l%20a.qk8");
     EXPECT_EQ(drop_on_field(files, Qt::MoveAction | Qt::CopyAction), Qt::CopyAction);
-    EXPECT_EQ(dropped, "/tmp/Öl a.qk8|");
     EXPECT_EQ(drop_on_field(files, Qt::MoveAction), Qt::IgnoreAction) << "the file would be gone";
-    EXPECT_EQ(form1.Text_Kunde_1.Text(), "Name, Vorname");
     QMimeData text;
     text.setText("file:///tmp/a.qk8");
     EXPECT_EQ(drop_on_field(text, Qt::CopyAction), Qt::CopyAction);
