@@ -5,6 +5,7 @@
 #include "app/hauptfenster.hpp"
 #include "app/ladefolge.hpp"
 #include "app/startfenster.hpp"
+#include "print/leistungsspalte.hpp"
 #include "print/seitenumbruch.hpp"
 
 #include <utility>
@@ -35,7 +36,11 @@ struct Programm::Teile {
     Summen summen{form1,          einstellungen,
                   zustand,        eingabezeile,
                   platform.clock, [this] { return ANZAHL_DRUCKSEITEN(form1.List_K.items(), einstellungen); }};
-    Positionen positionen{form1, zustand, eingabezeile, rechnung, summen, platform.dialogs};
+    Leistungsspalte leistungsspalte{form1, einstellungen, werte, platform.printing.metrics()};
+    Positionen positionen{
+        form1, zustand, eingabezeile, rechnung, summen, platform.dialogs, [this](int zeile) {
+            return leistungsspalte.HINWEIS(zeile);
+        }};
     Zeilenmenue zeilenmenue{form1, zustand, eingabezeile, rechnung, summen, positionen};
     Rechnungsnummern nummern{form1, einstellungen, zustand, verzeichnis, platform.dialogs};
     ZuletztGeoeffnet zuletzt{form1, werte};

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <string>
+#include <utility>
 
 namespace quittika {
 
@@ -16,13 +17,15 @@ constexpr const char* kLeer = " ";
 } // namespace
 
 Positionen::Positionen(Form1& form1, Rechnungszustand& zustand, Eingabezeile& eingabezeile,
-                       Rechnung& rechnung, Summen& summen, Dialogs& dialogs)
+                       Rechnung& rechnung, Summen& summen, Dialogs& dialogs,
+                       std::function<std::string(int zeile)> Druckhinweis)
     : form1_(form1),
       zustand_(zustand),
       eingabezeile_(eingabezeile),
       rechnung_(rechnung),
       summen_(summen),
-      dialogs_(dialogs) {}
+      dialogs_(dialogs),
+      druckhinweis_(std::move(Druckhinweis)) {}
 
 void Positionen::EingabezeileVerlassen() {
     if (eingabezeile_.Menge() && eingabezeile_.Preis()) {
@@ -148,7 +151,9 @@ bool Positionen::ZeileHinzufuegen(bool Trennzeile) {
     if (!Trennzeile) {
         StrichpunkteErsetzen();
     }
-    ZeileEinfuegen(form1_.List_DARSTELLUNG.ListIndex() + 1, Trennzeile);
+    const int stelle = form1_.List_DARSTELLUNG.ListIndex() + 1;
+    ZeileEinfuegen(stelle, Trennzeile);
+    form1_.Hinweise.melden(druckhinweis_(stelle));
     EingabezeileLeeren();
     ListenAbschliessen();
     return true;

@@ -7,13 +7,17 @@
 #include "invoice/summen.hpp"
 #include "platform/dialogs.hpp"
 
+#include <functional>
+#include <string>
+
 namespace quittika {
 
 /// Adds, changes and deletes rows of the position lists.
 class Positionen {
 public:
+    /// `Druckhinweis`: what there is to say of a row on paper, by its index; empty for nothing.
     Positionen(Form1& form1, Rechnungszustand& zustand, Eingabezeile& eingabezeile, Rechnung& rechnung,
-               Summen& summen, Dialogs& dialogs);
+               Summen& summen, Dialogs& dialogs, std::function<std::string(int zeile)> Druckhinweis);
 
     void Cmd_Add_To_list_Click();
     /// Replaces the selected row by the input line; quantity 0 without "K" deletes it.
@@ -61,6 +65,7 @@ private:
     Rechnung& rechnung_;
     Summen& summen_;
     Dialogs& dialogs_;
+    std::function<std::string(int zeile)> druckhinweis_;
 };
 
 } // namespace quittika

@@ -27,7 +27,7 @@ std::string Leistungsspalte::HINWEIS(int zeile) const {
     if (art != "-" && art != "K") {
         return {};
     }
-    const PrintFont schrift{programm_.DRUCKERSCHRIFT, kSchriftTabelle, false};
+    const PrintFont schrift{programm_.RECHNUNGSSCHRIFT, kSchriftTabelle, false};
     const Spalten spalten = Drucktabelle(form1_, einstellungen_, programm_, {}).spalten();
     const double ende =
         art == "K"

@@ -100,7 +100,7 @@ struct Pruefstand {
     Rechnung rechnung{form1, zustand, eingabezeile, uhr};
     Vorgaben vorgaben{form1, einstellungen, werte};
     Summen summen{form1, einstellungen, zustand, eingabezeile, uhr, [] { return 1; }};
-    Positionen positionen{form1, zustand, eingabezeile, rechnung, summen, dialoge};
+    Positionen positionen{form1, zustand, eingabezeile, rechnung, summen, dialoge, [](int) { return ""; }};
     Rechnungsnummern nummern{form1, einstellungen, zustand, verzeichnis, dialoge};
     ZuletztGeoeffnet zuletzt{form1, werte};
     Dateistand stand;
