@@ -2,6 +2,7 @@
 
 #include "app/fenstertitel.hpp"
 #include "app/form_ueber_quittika.hpp"
+#include "invoice/belegtexte.hpp"
 #include "invoice/programmname.hpp"
 #include "platform/datum.hpp"
 #include "platform/laufzeitfehler.hpp"
@@ -53,6 +54,22 @@ void Hauptfenster::Form_FilesDropped(const std::vector<std::string>& pfade) {
         t_.form1.Hinweise.melden("Auf das Fenster lassen sich nur Rechnungsdateien (*.qk8) ziehen.");
     } else if (t_.dateibefehle.Oeffnen(*rechnung) && pfade.size() > 1) {
         t_.form1.Hinweise.melden("Nur eine Rechnung auf einmal: Die übrigen Dateien wurden nicht geöffnet.");
+    }
+}
+
+void Hauptfenster::KundeAnwaehlen() {
+    t_.form1.Text_Kunde_1.SetFocus();
+    PlatzhalterMarkieren(t_.form1.Text_Kunde_1);
+}
+
+void Hauptfenster::EingabezeileAnwaehlen() {
+    const bool kommentar = t_.form1.Check_K.ticked();
+    Eingabezeile::hingehen(kommentar ? t_.form1.Text_leistung : t_.form1.Text_Menge);
+}
+
+void Hauptfenster::PlatzhalterMarkieren(TextBox& feld) {
+    if (KUNDENTEXT(t_.form1, feld).empty()) {
+        feld.select_all();
     }
 }
 

@@ -61,6 +61,11 @@ private:
     void Form_QueryUnload(bool& abbrechen);
     void TitelZeigen();
     void Form_FilesDropped(const std::vector<std::string>& pfade);
+    /// To the first field of the customer, where an invoice begins.
+    void KundeAnwaehlen();
+    void EingabezeileAnwaehlen();
+    /// Marks the whole text of a customer field that holds its placeholder, so that typing replaces it.
+    void PlatzhalterMarkieren(TextBox& feld);
     void m_beenden_Click();
     void ueber_QUITTIKA_Click();
     void m_Schlagwortsuche_Click();

@@ -63,7 +63,10 @@ Hauptfenster::Ereignis Hauptfenster::befehl(Ereignis tun) {
 
 void Hauptfenster::FensterVerdrahten() {
     Form1& f = t_.form1;
-    f.Load = [this] { t_.ladefolge.Form_Load(); };
+    f.Load = [this] {
+        t_.ladefolge.Form_Load();
+        KundeAnwaehlen();
+    };
     f.QueryUnload = [this](bool& abbrechen) { Form_QueryUnload(abbrechen); };
     f.Unload = [this] { t_.platform.desktop.end(); };
     f.FilesDropped = [this](const std::vector<std::string>& pfade) { Form_FilesDropped(pfade); };
@@ -75,7 +78,10 @@ void Hauptfenster::FensterVerdrahten() {
 void Hauptfenster::MenueVerdrahten() {
     Form1& f = t_.form1;
     Dateibefehle& datei = t_.dateibefehle;
-    f.m_neu.Click = befehl([&datei] { datei.m_neu_Click(); });
+    f.m_neu.Click = befehl([this, &datei] {
+        datei.m_neu_Click();
+        KundeAnwaehlen();
+    });
     f.m_oeffnen.Click = befehl([&datei] { datei.m_oeffnen_Click(); });
     f.m_speichern.Click = befehl([&datei] { datei.m_speichern_Click(); });
     f.Command_jetztSpeichern.Click = befehl([&datei] { datei.m_speichern_Click(); });
@@ -86,6 +92,7 @@ void Hauptfenster::MenueVerdrahten() {
     f.m_R3.Click = befehl([&datei] { datei.m_R_Click(3); });
     f.Command_printform.Click = befehl([this] { t_.druckauftrag.Command_printform_Click(); });
     f.m_Drucken.Click = befehl([this] { t_.druckauftrag.Command_printform_Click(); });
+    f.m_eingabezeile.Click = [this] { EingabezeileAnwaehlen(); };
     f.m_beenden.Click = befehl([this] { m_beenden_Click(); });
     f.m_Schlagwortsuche.Click = befehl([this] { m_Schlagwortsuche_Click(); });
     f.ueber_QUITTIKA.Click = befehl([this] { ueber_QUITTIKA_Click(); });
@@ -108,6 +115,10 @@ void Hauptfenster::KopfVerdrahten() {
     for (TextBox* feld : {&f.Text_Datum, &f.Text_Kunde_1, &f.Text_Kunde_2, &f.Text_Kunde_3, &f.Text_Kunde_4,
                           &f.Text_KundennrK, &f.Text_LIEFERDATUM, &f.Text_rechnung, &f.Text_RNnr}) {
         feld->Change = vom_benutzer([this] { t_.zustand.aendern(); });
+    }
+    for (TextBox* feld :
+         {&f.Text_Kunde_1, &f.Text_Kunde_2, &f.Text_Kunde_3, &f.Text_Kunde_4, &f.Text_KundennrK}) {
+        feld->GotFocus = [this, feld] { PlatzhalterMarkieren(*feld); };
     }
     f.Check_LIEFERDATUM.Click = aenderung([this] { Check_LIEFERDATUM_Click(); });
     f.Check_datum.Click = aenderung([this] { Check_datum_Click(); });

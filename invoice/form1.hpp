@@ -54,6 +54,7 @@ struct Form1 : Form {
     Menu m_Kundenliste{*this, "m_Kundenliste", "Kundenliste"};
     Menu m_Artikelliste{*this, "m_Artikelliste", "Artikelliste"};
     Menu m_Schlagwortsuche{*this, "m_Schlagwortsuche", "&Schlagwortsuche"};
+    Menu m_eingabezeile{*this, "m_eingabezeile", "&Zur Eingabezeile"};
     Menu m_start_analyzer{*this, "m_start_analyzer", "Starte Manager + Analyzer..."};
     Menu m_startdesigner{*this, "m_startdesigner", "Starte Designer..."};
     Menu m_updatesuchen{*this, "m_updatesuchen", "jetzt nach einer neueren Quittika Version suchen..."};
@@ -87,7 +88,7 @@ struct Form1 : Form {
     TextBox Text1{Frame_drucke, "Text1", "1"}; ///< copies of the last print job, hidden
 
     // --- document kind ---
-    Frame Frame_rechnung{*this, "Frame_rechnung", "Dokument"};
+    Frame Frame_rechnung{*this, "Frame_rechnung", "D&okument"};
     OptionButton Option_RECHNUNG{Frame_rechnung, "Option_RECHNUNG", "Rechnung"};
     OptionButton Option_RECHNUNG_KOPIE{Frame_rechnung, "Option_RECHNUNG_KOPIE", "Rechnungskopie"};
     OptionButton Option_LIEFERSCHEIN{Frame_rechnung, "Option_LIEFERSCHEIN", "Lieferschein"};
@@ -100,7 +101,7 @@ struct Form1 : Form {
     TextBox Text_LIEFERDATUM{Frame_rechnung, "Text_LIEFERDATUM", " "};
 
     // --- customer ---
-    Frame Frame_Kundendaten{*this, "Frame_Kundendaten", "Kunde"};
+    Frame Frame_Kundendaten{*this, "Frame_Kundendaten", "Ku&nde"};
     TextBox Text_Kunde_1{Frame_Kundendaten, "Text_Kunde_1", vorgabe::kKunde1};
     TextBox Text_Kunde_2{Frame_Kundendaten, "Text_Kunde_2", vorgabe::kKunde2};
     TextBox Text_Kunde_3{Frame_Kundendaten, "Text_Kunde_3", vorgabe::kKunde3};
@@ -127,9 +128,9 @@ struct Form1 : Form {
     TextBox Text_preis{Frame_ADDs, "Text_preis", vorgabe::kBetrag};
     TextBox Text_gesamtp{Frame_ADDs, "Text_gesamtp", vorgabe::kBetrag};
     CommandButton Cmd_Add_To_list{Frame_ADDs, "Cmd_Add_To_list", "&Hinzufügen"};
-    CommandButton Command_AENDERN{Frame_ADDs, "Command_AENDERN", "Än&dern"};
+    CommandButton Command_AENDERN{Frame_ADDs, "Command_AENDERN", "&Ändern"};
     CommandButton md_Del_artikel{Frame_ADDs, "md_Del_artikel", "&Löschen"};
-    CommandButton Command_Trennzeile{Frame_ADDs, "Command_Trennzeile", "Seiten&umbruch"};
+    CommandButton Command_Trennzeile{Frame_ADDs, "Command_Trennzeile", "Seitenum&bruch"};
     CommandButton Command_PLUS_LIST{Frame_ADDs, "Command_PLUS_LIST", "&Artikel..."};
     CheckBox Check_mengenartDECIMAL{Frame_ADDs, "Check_mengenartDECIMAL", "Menge mit Nachkommastellen"};
     CheckBox Check_000{Frame_ADDs, "Check_000", "Preis dreistellig (0,000)"};
@@ -153,7 +154,7 @@ struct Form1 : Form {
     ListBox List_Gesamtp{Frame_LIST, "List_Gesamtp"};
 
     // --- text blocks: element 0 cover letter, element 1 remarks ---
-    Frame Frame3{*this, "Frame3", "Texte auf der Rechnung"};
+    Frame Frame3{*this, "Frame3", "Texte auf der Rechnun&g"};
     OptionButton Option_anschreiben{Frame3, "Option_anschreiben", "Anschreiben"};
     OptionButton Option_Bemerkungen{Frame3, "Option_Bemerkungen", "Bemerkungen"};
     CommandButton Cmd_Vorlagen{Frame3, "Cmd_Vorlagen", "Textvorlagen..."};
@@ -165,7 +166,7 @@ struct Form1 : Form {
     ControlArray<TextBox, 2> Text_Bemerkung4{Frame_Bemerkungen, "Text_Bemerkung4"};
 
     // --- status and note ---
-    Frame Frame_status{*this, "Frame_status", "Status"};
+    Frame Frame_status{*this, "Frame_status", "Stat&us"};
     CheckBox Check_versendet{Frame_status, "Check_versendet", "versendet"};
     CheckBox Check_bezahlt{Frame_status, "Check_bezahlt", "bezahlt"};
     CheckBox Check_abgemahnt{Frame_status, "Check_abgemahnt", "abgemahnt"};
@@ -175,7 +176,7 @@ struct Form1 : Form {
     TextBox Text_Notiz{Frame_status, "Text_Notiz", vorgabe::kNotiz}; ///< copy of the note, hidden
 
     // --- discount, VAT, shipping ---
-    Frame Frame6{*this, "Frame6", "Rabatt und Mehrwertsteuer"};
+    Frame Frame6{*this, "Frame6", "Rabatt und Mehr&wertsteuer"};
     CheckBox Check_RABATT{Frame6, "Check_RABATT", "Rabatt %"};
     TextBox Text_Rabatt{Frame6, "Text_Rabatt", vorgabe::kBetrag};
     CheckBox Check_mwst{Frame6, "Check_mwst", "MwSt. %"};
@@ -186,7 +187,7 @@ struct Form1 : Form {
     Frame Frame_MwSatz{Frame6, "Frame_MwSatz"};
     OptionButton Option_Satz1{Frame_MwSatz, "Option_Satz1", "19,00 %"};
     OptionButton Option_Satz2{Frame_MwSatz, "Option_Satz2", "7,00 %"};
-    Frame Frame_Versandkosten{*this, "Frame_Versandkosten", "Versandkosten"};
+    Frame Frame_Versandkosten{*this, "Frame_Versandkosten", "&Versandkosten"};
     CheckBox Check_Versandkosten{Frame_Versandkosten, "Check_Versandkosten", "berechnen"};
     TextBox Text_Versandk{Frame_Versandkosten, "Text_Versandk", vorgabe::kVersandtext};
     TextBox Text_PreisVersankostenEingabe{Frame_Versandkosten, "Text_PreisVersankostenEingabe",

@@ -3,6 +3,7 @@
 #include "platform/qt/guard.hpp"
 #include "platform/qt/qt_text.hpp"
 
+#include <QButtonGroup>
 #include <QKeyEvent>
 #include <QPushButton>
 
@@ -49,6 +50,22 @@ CommandButtonView::CommandButtonView(CommandButton& control, QAbstractButton& wi
     }
 }
 
+void CommandButtonView::push(PropertyId id) {
+    auto* button = qobject_cast<QPushButton*>(&widget_);
+    if (id == PropertyId::Default && button != nullptr) {
+        button->setDefault(control_.Default());
+    } else {
+        ButtonView::push(id);
+    }
+}
+
+void CommandButtonView::push_all() {
+    push(PropertyId::Caption);
+    if (control_.Default()) { // a design may mark a button, too
+        push(PropertyId::Default);
+    }
+}
+
 bool CommandButtonView::key_pressed(const QKeyEvent& event) {
     const bool presses = event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
     if (presses && !event.isAutoRepeat()) {
@@ -73,7 +90,11 @@ void CheckBoxView::push_value() {
 
 OptionButtonView::OptionButtonView(OptionButton& control, QRadioButton& widget)
     : ButtonView(control, widget) {
-    widget.setAutoExclusive(false); // the control sees to that
+    // The control sees to the exclusion. A group of one leaves it to it, and the button still tells a screen
+    // reader that it is one of several.
+    auto* alone = new QButtonGroup(&widget);
+    alone->setExclusive(false);
+    alone->addButton(&widget);
 }
 
 void OptionButtonView::push_all() {

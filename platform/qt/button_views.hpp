@@ -27,6 +27,8 @@ public:
     CommandButtonView(CommandButton& control, QAbstractButton& widget);
 
 protected:
+    void push(PropertyId id) override;
+    void push_all() override;
     bool key_pressed(const QKeyEvent& event) override;
 };
 

@@ -4,6 +4,7 @@
 #include "platform/qt/widgets/theme.hpp"
 
 #include <QAbstractScrollArea>
+#include <QApplication>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QPushButton>
@@ -17,6 +18,7 @@ namespace quittika {
 namespace {
 
 constexpr double kDisabledShare = 0.55; ///< how much of the text's colour is left on a disabled control
+constexpr int kMiddle = 128;
 
 struct Roles {
     std::vector<QPalette::ColorRole> back;
@@ -40,8 +42,24 @@ Roles roles_of(const QWidget& widget) {
     return {{QPalette::Window}, {QPalette::WindowText}, !paints_itself};
 }
 
+/// On a dark desktop, buttons and fields take a light colour as a tinge of their own: white is then the
+/// desktop's own ground, a grey a shade above it.
+QColor ground_on_desktop(const QColor& given, const Roles& roles) {
+    constexpr double kGreyShare = 0.2;
+    constexpr double kColorShare = 0.45;
+    constexpr int kGrey = 40; ///< largest saturation
+    const QPalette::ColorRole role = roles.back.front();
+    if (!theme::dark() || role == QPalette::Window || given.lightness() < kMiddle) {
+        return given;
+    }
+    const QColor own = QApplication::palette().color(role);
+    if (given == QColor(Qt::white)) {
+        return own;
+    }
+    return theme::mix(given, own, given.hsvSaturation() < kGrey ? kGreyShare : kColorShare);
+}
+
 QColor readable_on(const QColor& ground) {
-    constexpr int kMiddle = 128;
     return qGray(ground.rgb()) < kMiddle ? QColor(Qt::white) : QColor(Qt::black);
 }
 
@@ -80,7 +98,8 @@ void WidgetColors::apply(QWidget& widget, Color back, Color fore) {
     remember(widget);
     const Roles roles = roles_of(widget);
     QPalette palette = before_;
-    const QColor ground = back < 0 ? widget.palette().color(roles.back.front()) : to_qt(back);
+    const QColor ground =
+        back < 0 ? widget.palette().color(roles.back.front()) : ground_on_desktop(to_qt(back), roles);
     if (back >= 0) {
         for (const QPalette::ColorRole role : roles.back) {
             palette.setColor(role, ground);

@@ -15,6 +15,7 @@ Color from_qt(const QColor& color);
 
 /// Puts a control's colours on its widget. A negative colour is the desktop's own; text on a given ground
 /// is then black or white, whichever can be read, and black text on the desktop's own ground is its own too.
+/// On a dark desktop light buttons and fields are only tinged, so that they do not blind.
 class WidgetColors {
 public:
     void apply(QWidget& widget, Color back, Color fore);

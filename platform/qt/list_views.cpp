@@ -2,6 +2,7 @@
 
 #include "platform/qt/guard.hpp"
 #include "platform/qt/qt_text.hpp"
+#include "platform/qt/widgets/column_list.hpp"
 
 #include <QContextMenuEvent>
 #include <QEvent>
@@ -9,13 +10,34 @@
 #include <QScrollBar>
 
 #include <memory>
+#include <vector>
 
 namespace quittika {
+
+namespace {
+
+/// The form's lists of these names; none if one of them is missing.
+std::vector<const ListBox*> lists_of(const Form& form, const QStringList& names) {
+    std::vector<const ListBox*> lists;
+    for (const QString& name : names) {
+        const auto* list = dynamic_cast<const ListBox*>(form.find(from_qt(name)));
+        if (list == nullptr) {
+            return {};
+        }
+        lists.push_back(list);
+    }
+    return lists;
+}
+
+} // namespace
 
 ListBoxView::ListBoxView(ListBox& control, QListView& widget)
     : TypedView(control, widget),
       model_(control),
       menu_(widget.findChild<QMenu*>(QString(), Qt::FindDirectChildrenOnly)) {
+    if (const auto* in_columns = qobject_cast<ColumnList*>(&widget)) {
+        model_.set_columns(lists_of(control.form(), in_columns->sources()));
+    }
     widget.setUniformItemSizes(true);
     widget.setSelectionMode(QAbstractItemView::SingleSelection);
     widget.setEditTriggers(QAbstractItemView::NoEditTriggers);

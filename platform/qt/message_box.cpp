@@ -3,6 +3,8 @@
 #include "platform/qt/qt_text.hpp"
 
 #include <QApplication>
+#include <QCloseEvent>
+#include <QKeyEvent>
 #include <QMessageBox>
 
 #include <utility>
@@ -14,12 +16,12 @@ namespace {
 struct ButtonSet {
     Buttons buttons;
     QMessageBox::StandardButtons shown;
-    QMessageBox::StandardButton escape;
+    QMessageBox::StandardButton escape; ///< none where each answer has its consequence
 };
 
 constexpr ButtonSet kSets[] = {
     {Buttons::Ok, QMessageBox::Ok, QMessageBox::Ok},
-    {Buttons::YesNo, QMessageBox::Yes | QMessageBox::No, QMessageBox::No},
+    {Buttons::YesNo, QMessageBox::Yes | QMessageBox::No, QMessageBox::NoButton},
     {Buttons::YesNoCancel, QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, QMessageBox::Cancel},
 };
 
@@ -54,6 +56,40 @@ const ButtonSet& set_of(Buttons buttons) {
     return kSets[0];
 }
 
+/// A box that can know no third way: then neither its frame nor Escape answers for the user.
+class Question final : public QMessageBox {
+public:
+    using QMessageBox::QMessageBox;
+
+    void insist() {
+        setWindowFlags((windowFlags() | Qt::CustomizeWindowHint | Qt::WindowTitleHint) &
+                       ~(Qt::WindowCloseButtonHint | Qt::WindowSystemMenuHint));
+        insists_ = true;
+    }
+    void reject() override {
+        if (!insists_) {
+            QMessageBox::reject();
+        }
+    }
+
+protected:
+    void closeEvent(QCloseEvent* event) override {
+        if (insists_) {
+            event->ignore();
+        } else {
+            QMessageBox::closeEvent(event);
+        }
+    }
+    void keyPressEvent(QKeyEvent* event) override {
+        if (!insists_ || !event->matches(QKeySequence::Cancel)) {
+            QMessageBox::keyPressEvent(event);
+        }
+    }
+
+private:
+    bool insists_ = false;
+};
+
 Answer answer_of(int button) {
     for (const auto& [answer, standard] : kAnswers) {
         if (standard == button) {
@@ -82,10 +118,14 @@ QWidget* dialog_parent() {
 
 Answer show_message(const MessageBox& box) {
     const ButtonSet& set = set_of(box.buttons);
-    QMessageBox window(look_up(kIcons, box.symbol), to_qt(box.title), lines_to_qt(box.text), set.shown,
-                       dialog_parent());
+    Question window(look_up(kIcons, box.symbol), to_qt(box.title), lines_to_qt(box.text), set.shown,
+                    dialog_parent());
     window.setTextFormat(Qt::PlainText);
-    window.setEscapeButton(set.escape);
+    if (set.escape != QMessageBox::NoButton) {
+        window.setEscapeButton(set.escape);
+    } else {
+        window.insist();
+    }
     const QMessageBox::StandardButton preset = look_up(kAnswers, box.preset);
     window.setDefaultButton(
         set.shown.testFlag(preset)

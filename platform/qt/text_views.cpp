@@ -3,11 +3,14 @@
 #include "platform/qt/guard.hpp"
 #include "platform/qt/qt_text.hpp"
 
+#include <QEvent>
+#include <QFocusEvent>
 #include <QTextBlock>
 #include <QTextCursor>
 #include <QTextDocument>
 
 #include <algorithm>
+#include <utility>
 
 namespace quittika {
 
@@ -172,6 +175,18 @@ TextLineView::TextLineView(TextBox& control, QLineEdit& widget) : TextView(contr
     connect(&widget, &QLineEdit::textChanged, this, [this] { take_text(); });
     connect(&widget, &QLineEdit::cursorPositionChanged, this, [this] { take_selection(); });
     connect(&widget, &QLineEdit::selectionChanged, this, [this] { take_selection(); });
+}
+
+bool TextLineView::eventFilter(QObject* watched, QEvent* event) {
+    const bool taken = TextView::eventFilter(watched, event);
+    if (event->type() == QEvent::FocusIn) {
+        const bool by_mouse = static_cast<QFocusEvent*>(event)->reason() == Qt::MouseFocusReason;
+        marked_on_entry_ = by_mouse && widget_.hasSelectedText();
+    } else if (event->type() == QEvent::MouseButtonRelease && std::exchange(marked_on_entry_, false) &&
+               !widget_.hasSelectedText()) {
+        widget_.selectAll();
+    }
+    return taken;
 }
 
 TextAreaView::TextAreaView(TextBox& control, QPlainTextEdit& widget) : TextView(control, widget) {

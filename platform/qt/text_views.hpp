@@ -35,6 +35,13 @@ private:
 class TextLineView final : public TextView<QLineEdit> {
 public:
     TextLineView(TextBox& control, QLineEdit& widget);
+
+protected:
+    /// What is marked when the field is entered stays so when it was entered by a click.
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    bool marked_on_entry_ = false; ///< and the mouse button is still down
 };
 
 class TextAreaView final : public TextView<QPlainTextEdit> {

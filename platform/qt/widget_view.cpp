@@ -69,6 +69,13 @@ bool explicitly_hidden(const QWidget& widget) {
     return widget.testAttribute(Qt::WA_WState_ExplicitShowHide) && widget.testAttribute(Qt::WA_WState_Hidden);
 }
 
+/// A letter with Alt names a control. Where none answers to it, it is no text either.
+bool is_unanswered_mnemonic(const QKeyEvent& key) {
+    const Qt::KeyboardModifiers held = key.modifiers();
+    return held.testFlag(Qt::AltModifier) && !held.testFlag(Qt::ControlModifier) &&
+           !held.testFlag(Qt::GroupSwitchModifier) && !key.text().isEmpty() && key.text().at(0).isPrint();
+}
+
 /// A change of the focus inside a window; what leaves or comes back with the whole window is none.
 bool moves_in_window(const QFocusEvent& event) {
     return event.reason() != Qt::ActiveWindowFocusReason && event.reason() != Qt::PopupFocusReason &&
@@ -222,6 +229,9 @@ bool WidgetView::eventFilter(QObject* /*watched*/, QEvent* event) {
         return false;
     case QEvent::KeyPress: {
         const auto& key = static_cast<const QKeyEvent&>(*event);
+        if (is_unanswered_mnemonic(key)) {
+            return true;
+        }
         const int code = control_.KeyDown ? desktop_key_code(key.key()) : 0;
         if (code != 0) {
             guarded([&] { control_.KeyDown(code); });

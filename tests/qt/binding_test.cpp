@@ -1,3 +1,4 @@
+#include "tests/qt/desktop_look.hpp"
 #include "tests/qt/test_form.hpp"
 
 #include <gtest/gtest.h>
@@ -275,6 +276,22 @@ TEST(Colours, FrameLeavesTheFieldsInsideTheirGround) {
     bound.form.Choice.BackColor = color::rgb(10, 20, 30);
     EXPECT_EQ(bound.widget("First").palette().color(QPalette::Base), before);
     EXPECT_EQ(bound.widget("First").palette().color(QPalette::WindowText), QColor(Qt::white));
+}
+
+TEST(Colours, LightOnesOnlyTingeADarkDesktop) {
+    const DesktopLook dark(9, QPalette(QColor(49, 54, 59), QColor(42, 46, 50)));
+    const QColor button = QApplication::palette().color(QPalette::Button);
+    Bound bound;
+    const auto ground = [&](const char* name, QPalette::ColorRole role, Color color) {
+        bound.form.find(name)->BackColor = color;
+        return bound.widget(name).palette().color(role);
+    };
+    EXPECT_LT(ground("Button", QPalette::Button, 14737632).lightness(), 128);
+    EXPECT_EQ(ground("Button", QPalette::Button, color::kWhite), button);
+    EXPECT_LT(ground("Field", QPalette::Base, color::kGrey).lightness(), 128);
+    EXPECT_EQ(ground("Caption_", QPalette::Window, color::kYellow), QColor(255, 255, 0))
+        << "a patch of colour";
+    EXPECT_EQ(bound.widget("Button").palette().color(QPalette::ButtonText), QColor(Qt::white));
 }
 
 TEST(Events, KeyCodesOfTheDesktop) {

@@ -64,7 +64,8 @@ const Box kBoxes[] = {
     {"Escape on one button", Buttons::Ok, Answer::Ok, Qt::Key_Escape, "OK", Answer::Ok},
     {"Return on a question", Buttons::YesNo, Answer::Ok, Qt::Key_Return, "Ja Nein", Answer::Yes},
     {"preset no", Buttons::YesNo, Answer::No, Qt::Key_Return, "Ja Nein", Answer::No},
-    {"Escape on a question", Buttons::YesNo, Answer::Yes, Qt::Key_Escape, "Ja Nein", Answer::No},
+    {"Escape on a question, then Return", Buttons::YesNo, Answer::Yes, Qt::Key_Escape, "Ja Nein",
+     Answer::Yes},
     {"preset cancel", Buttons::YesNoCancel, Answer::Cancel, Qt::Key_Return, "Ja Nein Abbrechen",
      Answer::Cancel},
     {"Escape with cancel", Buttons::YesNoCancel, Answer::Yes, Qt::Key_Escape, "Ja Nein Abbrechen",
@@ -86,6 +87,13 @@ TEST_F(DialogsTest, MessageBoxes) {
                 }
             }
             QTest::keyClick(&box, c.key);
+            const bool insists = c.buttons == Buttons::YesNo && c.key == Qt::Key_Escape;
+            EXPECT_EQ(box.isVisible(), insists) << c.what;
+            if (insists) {
+                box.close();
+                EXPECT_TRUE(box.isVisible()) << "the frame knows no third way either";
+                QTest::keyClick(&box, Qt::Key_Return);
+            }
         });
         EXPECT_EQ(
             dialogs.message({"<i>Zeile 1\r\nZeile 2", "Titel & <b>", c.buttons, Symbol::Question, c.preset}),

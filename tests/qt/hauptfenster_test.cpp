@@ -9,12 +9,14 @@
 #include <QAction>
 #include <QApplication>
 #include <QContextMenuEvent>
+#include <QHelpEvent>
 #include <QLineEdit>
 #include <QListView>
 #include <QMenu>
 #include <QMessageBox>
 #include <QTest>
 #include <QTimer>
+#include <QToolTip>
 
 namespace quittika::test {
 
@@ -127,6 +129,59 @@ TEST_F(Hauptfenstertest, TabulatorFolgtDerArbeit) {
     }
 }
 
+TEST_F(Hauptfenstertest, BuchstabenMitAltErreichenJedeGruppe) {
+    const std::pair<Qt::Key, const char*> ziele[] = {
+        {Qt::Key_N, "Text_Kunde_1"},       {Qt::Key_O, "Option_RECHNUNG"},
+        {Qt::Key_M, "Text_RNnr"},          {Qt::Key_D, "Text_Datum"},
+        {Qt::Key_U, "Check_versendet"},    {Qt::Key_P, "Text_Menge"},
+        {Qt::Key_G, "Option_anschreiben"}, {Qt::Key_W, "Option_Satz1"},
+        {Qt::Key_V, "Check_Versandkosten"}};
+    for (const auto& [taste, ziel] : ziele) {
+        feld<QLineEdit>("Text_leistung")->setFocus();
+        QTest::keyClick(QApplication::focusWidget(), taste, Qt::AltModifier);
+        EXPECT_EQ(QApplication::focusWidget()->objectName().toStdString(), ziel);
+    }
+    ASSERT_FALSE(f().Command_PLUS_LIST.Enabled());
+    tippen("Text_Kunde_2", "Weg 1");
+    QTest::keyClick(feld<QLineEdit>("Text_Kunde_2"), Qt::Key_A, Qt::AltModifier);
+    EXPECT_EQ(f().Text_Kunde_2.Text(), "Weg 1") << "the letter of a disabled button is no text";
+}
+
+TEST_F(Hauptfenstertest, PlatzhalterSindBeimBetretenMarkiert) {
+    EXPECT_EQ(QApplication::focusWidget(), feld<QLineEdit>("Text_Kunde_1"));
+    EXPECT_EQ(feld<QLineEdit>("Text_Kunde_1")->selectedText(), "Name, Vorname");
+    auto* strasse = feld<QLineEdit>("Text_Kunde_2");
+    QTest::mouseClick(strasse, Qt::LeftButton);
+    EXPECT_EQ(strasse->selectedText(), "Strasse, Hausnr");
+    QTest::mouseClick(strasse, Qt::LeftButton);
+    EXPECT_EQ(strasse->selectedText(), "") << "the second click sets the cursor";
+    tippen("Text_Kunde_2", "Weg 1");
+    QTest::keyClick(strasse, Qt::Key_F2);
+    EXPECT_TRUE(feld<QLineEdit>("Text_Menge")->hasFocus());
+    EXPECT_EQ(feld<QLineEdit>("Text_Menge")->selectedText(), "0");
+    strasse->setFocus();
+    EXPECT_EQ(strasse->selectedText(), "") << "no placeholder any more";
+}
+
+TEST_F(Hauptfenstertest, ZuLangeLeistungIstGekuerztUndTraegtIhrenTextAlsHinweis) {
+    const QString leistung = QString(30, QLatin1Char('W')).replace(QLatin1Char('W'), QLatin1String("Brett "));
+    zeile("2", leistung.toUtf8(), "999999999,99");
+    zeile("1", "Stuhl", "5");
+    auto* liste = feld<QListView>("List_DARSTELLUNG");
+    const QModelIndex erste = liste->model()->index(0, 0);
+    EXPECT_TRUE(erste.data().toString().contains(leistung)) << "the item itself is whole";
+    EXPECT_EQ(erste.data(Qt::AccessibleTextRole).toString(),
+              "1; 2; " + leistung + "; 999999999,99; 1999999999,98");
+    const auto hinweis = [liste](int nummer) {
+        const QPoint ort = liste->visualRect(liste->model()->index(nummer, 0)).center();
+        QHelpEvent frage(QEvent::ToolTip, ort, liste->viewport()->mapToGlobal(ort));
+        QApplication::sendEvent(liste->viewport(), &frage);
+        return QToolTip::text();
+    };
+    EXPECT_EQ(hinweis(1), "");
+    EXPECT_TRUE(hinweis(0).contains(leistung.trimmed()));
+}
+
 TEST_F(Hauptfenstertest, RasterEntstehtBeimAufklappen) {
     f().Raster[0].Text_leistung[0].Text = "vorher";
     EXPECT_EQ(feld<QLineEdit>("Text_leistung1(0)"), nullptr) << "not made before it is looked at";
@@ -162,7 +217,7 @@ TEST_F(Hauptfenstertest, NeuFragtMitDeutschenTasten) {
             for (const QAbstractButton* taste : box->buttons()) {
                 tasten << taste->text().remove(QLatin1Char('&'));
             }
-            box->reject();
+            box->button(QMessageBox::No)->click();
         }
     });
     feld<QAction>("m_neu")->trigger();

@@ -1,21 +1,41 @@
 #include "platform/qt/widgets/amount_field.hpp"
 
+#include "platform/qt/widgets/theme.hpp"
+
 #include <QEvent>
+#include <QPainter>
 
 namespace quittika {
+
+namespace {
+
+constexpr const char* kWidest = "-999999999,99";
+constexpr int kEdge = 2; ///< pixels that the frame of an input field takes
+
+} // namespace
 
 AmountField::AmountField(QWidget* parent) : QLineEdit(parent) {
     setFrame(false);
     setReadOnly(true);
     setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    setTextMargins(0, 0, kEdge, 0);
     setFocusPolicy(Qt::ClickFocus);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     clear_ground();
 }
 
 QSize AmountField::sizeHint() const {
-    const QSize text = fontMetrics().size(Qt::TextSingleLine, QStringLiteral("-99999,99"));
-    return {text.width() + 8, text.height() + 2};
+    const QSize text = fontMetrics().size(Qt::TextSingleLine, QLatin1String(kWidest));
+    return {text.width() + 8 + kEdge, text.height() + 2};
+}
+
+void AmountField::paintEvent(QPaintEvent* event) {
+    QLineEdit::paintEvent(event);
+    if (hasFocus()) {
+        QPainter painter(this);
+        painter.setPen(theme::accent());
+        painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    }
 }
 
 void AmountField::clear_ground() {

@@ -57,7 +57,7 @@ void Card::paintEvent(QPaintEvent* /*event*/) {
     painter.setFont(title_font());
     painter.setPen(theme::mix(text, panel, 0.75));
     const QRect line(kTitleLeft, kTitleTop, width() - 2 * kTitleLeft, QFontMetrics(title_font()).height());
-    painter.drawText(line, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextHideMnemonic, title());
+    painter.drawText(line, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextShowMnemonic, title());
 }
 
 } // namespace quittika

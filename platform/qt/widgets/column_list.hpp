@@ -1,34 +1,79 @@
 #pragma once
 
+#include <QList>
 #include <QListView>
+#include <QPointer>
 
 namespace quittika {
 
-/// A list of rows in a fixed-pitch font, whose size follows the width so that `columns` characters fill it.
+class ColumnRow;
+
+/// A list whose rows stand in columns, in a fixed-pitch font of the window's size. One column takes the room
+/// that the others leave; what is too long for its column is shortened and tells itself as a tool tip.
+///
+/// `columns` has a word a column: where its texts come from, a colon, the alignment (l left, c centred, r
+/// right, n a number with leading zeros), the characters that fit at least, and a plus on the one that grows.
+/// A row's texts come from its model under `kColumnTexts`; a row without them is drawn as any list draws it.
 class ColumnList : public QListView {
     Q_OBJECT
-    Q_PROPERTY(int columns READ columns WRITE setColumns)
+    Q_PROPERTY(QString columns READ columns WRITE setColumns)
 public:
+    static constexpr int kColumnTexts = Qt::UserRole; ///< QStringList
+    static constexpr int kPadding = 5;                ///< pixels between a column's edge and its text
+
+    /// Edges of a column in pixels from the list's left edge.
+    struct Span {
+        int left;
+        int right;
+    };
+
     explicit ColumnList(QWidget* parent = nullptr);
 
-    int columns() const { return columns_; }
-    void setColumns(int columns);
-    /// Left edge of the first character of a row, in pixels from the list's left edge.
-    double text_left() const;
-    /// Width of a character in pixels.
-    double column_width() const;
+    QString columns() const { return written_; }
+    void setColumns(const QString& columns);
+    /// Where the texts of each column come from.
+    QStringList sources() const;
+    Span span(int column) const;
+    /// Lets a row of labels or fields have its say about the widths.
+    void add_row(ColumnRow& row);
+    /// Gives each column its place; to be called when a row needs another width.
+    void arrange();
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
+signals:
+    void arranged();
+
 protected:
+    bool event(QEvent* event) override;
+    bool viewportEvent(QEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 
 private:
-    int chrome_width() const;
-    void fit_font();
+    class Delegate;
+    struct Column {
+        QString source;
+        Qt::Alignment alignment;
+        bool leading_zeros;
+        bool grows;
+        int characters;
+    };
 
-    int columns_ = 80;
+    int needed_width(int column) const;
+    int chrome_width() const;
+    int row_height() const;
+    /// Text of a column as it stands in a row, in full.
+    QString cell_text(int column, const QString& text) const;
+    /// Room for the text of a column in the row at `row`, in the viewport.
+    QRect cell(int column, const QRect& row) const;
+    /// The texts of a row that do not fit, in full.
+    QStringList shortened(const QModelIndex& index) const;
+
+    QString written_;
+    QList<Column> columns_;
+    QList<Span> spans_;
+    QList<QPointer<ColumnRow>> rows_;
 };
 
 } // namespace quittika

@@ -3,10 +3,24 @@
 #include "platform/qt/widgets/column_list.hpp"
 
 #include <QEvent>
+#include <QLabel>
+#include <QLineEdit>
 #include <QVariant>
+
 #include <algorithm>
 
 namespace quittika {
+
+namespace {
+
+constexpr const char* kColumn = "column";
+
+/// Space that a child leaves at the edges of its column; a field has a frame of its own.
+int inset_of(const QWidget& child) {
+    return qobject_cast<const QLabel*>(&child) != nullptr ? ColumnList::kPadding : 1;
+}
+
+} // namespace
 
 ColumnRow::ColumnRow(QWidget* parent) : QWidget(parent) {
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
@@ -20,11 +34,26 @@ QSize ColumnRow::sizeHint() const {
     return {0, height};
 }
 
+int ColumnRow::needed_width(int column) const {
+    int width = 0;
+    for (const QWidget* child : findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
+        const QVariant place = child->property(kColumn);
+        if (place.isValid() && place.toInt() == column && qobject_cast<const QLineEdit*>(child) == nullptr) {
+            width = std::max(width, child->sizeHint().width() + 2 * inset_of(*child));
+        }
+    }
+    return width;
+}
+
 bool ColumnRow::event(QEvent* event) {
     switch (event->type()) {
     case QEvent::LayoutRequest:
         updateGeometry();
-        [[fallthrough]];
+        if (ColumnList* list = find_list()) {
+            list->arrange();
+            list->updateGeometry();
+        }
+        break;
     case QEvent::Resize:
     case QEvent::Move:
     case QEvent::Show:
@@ -37,8 +66,7 @@ bool ColumnRow::event(QEvent* event) {
 }
 
 bool ColumnRow::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::FontChange || event->type() == QEvent::Resize ||
-        event->type() == QEvent::Move) {
+    if (event->type() == QEvent::Move) {
         place_children();
     }
     return QWidget::eventFilter(watched, event);
@@ -49,6 +77,8 @@ ColumnList* ColumnRow::find_list() {
         columns_ = window()->findChild<ColumnList*>(list_name_);
         if (columns_) {
             columns_->installEventFilter(this);
+            connect(columns_, &ColumnList::arranged, this, &ColumnRow::place_children);
+            columns_->add_row(*this);
         }
     }
     return columns_;
@@ -59,14 +89,13 @@ void ColumnRow::place_children() {
     if (list == nullptr) {
         return;
     }
-    const double left =
-        list->mapTo(window(), QPoint()).x() - mapTo(window(), QPoint()).x() + list->text_left();
-    const double column = list->column_width();
+    const int left = list->mapTo(window(), QPoint()).x() - mapTo(window(), QPoint()).x();
     for (QWidget* child : findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
-        const int from = qRound(left + child->property("columnFrom").toDouble() * column);
-        const int to = qRound(left + child->property("columnTo").toDouble() * column);
+        const ColumnList::Span span = list->span(child->property(kColumn).toInt());
+        const int inset = inset_of(*child);
         const int tall = std::min(height(), child->sizeHint().height());
-        child->setGeometry(from, (height() - tall) / 2, to - from, tall);
+        child->setGeometry(left + span.left + inset, (height() - tall) / 2,
+                           span.right - span.left - 2 * inset, tall);
     }
 }
 

@@ -7,9 +7,8 @@ namespace quittika {
 
 class ColumnList;
 
-/// A row of labels or fields over a `ColumnList`. Each child stands between the character columns
-/// that its properties `columnFrom` and `columnTo` name (0 is the left edge of the first character),
-/// in line with the list's text at any size.
+/// A row of labels or fields over a `ColumnList`. Each child stands over the column that its property
+/// `column` names, counted from 0, its text in line with the list's.
 class ColumnRow : public QWidget {
     Q_OBJECT
     Q_PROPERTY(QString list READ list WRITE setList)
@@ -19,6 +18,8 @@ public:
     /// Object name of the list in the same window.
     QString list() const { return list_name_; }
     void setList(const QString& name) { list_name_ = name; }
+    /// Width in pixels that the children over a column need to be read; fields take what there is.
+    int needed_width(int column) const;
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }
 

@@ -6,8 +6,8 @@ class QBoxLayout;
 
 namespace quittika {
 
-/// The main window's content. It scrolls only where a screen is too small for it; a wide one
-/// has the `side` part beside the rest, a narrow one beneath it.
+/// The main window's content. It scrolls only where a screen is too small for it; a narrow one has the `side`
+/// part beneath the rest, a wide one beside it, and a very wide one has its pieces beside each other as well.
 class ContentArea : public QScrollArea {
     Q_OBJECT
     Q_PROPERTY(QString body READ body WRITE setBody)

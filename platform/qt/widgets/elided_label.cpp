@@ -21,15 +21,19 @@ QSize ElidedLabel::minimumSizeHint() const {
             QLabel::minimumSizeHint().height()};
 }
 
+int ElidedLabel::text_flags() const {
+    return buddy() != nullptr ? Qt::TextShowMnemonic : 0;
+}
+
 QString ElidedLabel::shown_text() const {
-    return fontMetrics().elidedText(text(), mode_, contentsRect().width() - 2 * margin());
+    return fontMetrics().elidedText(text(), mode_, contentsRect().width() - 2 * margin(), text_flags());
 }
 
 void ElidedLabel::paintEvent(QPaintEvent* /*event*/) {
     QStylePainter painter(this);
     const QRect box = contentsRect().adjusted(margin(), margin(), -margin(), -margin());
     const auto place = QStyle::visualAlignment(layoutDirection(), alignment());
-    painter.drawItemText(box, static_cast<int>(place), palette(), isEnabled(), shown_text(),
+    painter.drawItemText(box, static_cast<int>(place) | text_flags(), palette(), isEnabled(), shown_text(),
                          foregroundRole());
 }
 

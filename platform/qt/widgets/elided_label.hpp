@@ -19,6 +19,8 @@ protected:
     bool event(QEvent* event) override;
 
 private:
+    /// Of a label with a buddy, "&" marks a letter.
+    int text_flags() const;
     QString shown_text() const;
 
     Qt::TextElideMode mode_ = Qt::ElideRight;

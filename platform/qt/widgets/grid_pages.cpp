@@ -1,6 +1,7 @@
 #include "platform/qt/widgets/grid_pages.hpp"
 
 #include "platform/qt/widgets/amount_field.hpp"
+#include "platform/qt/widgets/theme.hpp"
 
 #include <QCheckBox>
 #include <QFrame>
@@ -26,13 +27,15 @@ QString element(const char* name, int row, int page) {
 }
 
 template <class Field>
-Field* make_field(QWidget* frame, const QString& name, const QString& text, int width) {
+Field* make_field(QWidget* frame, const QString& name, const QString& spoken, const QString& text,
+                  int width) {
     auto* field = new Field(frame);
     field->setObjectName(name);
     field->setText(text);
+    field->setAccessibleName(spoken);
     field->setAlignment(width > 0 ? Qt::AlignRight | Qt::AlignVCenter : Qt::AlignLeft | Qt::AlignVCenter);
     if (width > 0) {
-        field->setFixedWidth(width);
+        field->setFixedWidth(theme::scaled(width));
     }
     return field;
 }
@@ -63,22 +66,31 @@ QWidget* GridPages::make_page(int page) {
 }
 
 void GridPages::add_row(QGridLayout& grid, QWidget* frame, int page, int row) {
+    const auto spoken = [page, row](const char* what) {
+        return QStringLiteral("%1, Seite %2, Zeile %3").arg(QString::fromUtf8(what)).arg(page + 1).arg(row);
+    };
     auto* tick = new QCheckBox(QStringLiteral("K"), frame);
     tick->setObjectName(element("Check_K", row, page));
-    tick->setFixedWidth(kTickWidth);
+    tick->setAccessibleName(spoken("Kommentarzeile"));
+    tick->setFixedWidth(theme::scaled(kTickWidth));
     auto* button = new QPushButton(QStringLiteral("+"), frame);
     button->setObjectName(element("Command_PLUS_", row, page));
-    button->setFixedWidth(kButtonWidth);
+    button->setAccessibleName(spoken("Artikel"));
+    button->setFixedWidth(theme::scaled(kButtonWidth));
 
     const QString nothing = QStringLiteral("0,00");
     grid.addWidget(tick, row, 0);
+    grid.addWidget(make_field<QLineEdit>(frame, element("Text_menge", row, page), spoken("Menge"),
+                                         QStringLiteral("0"), kQuantityWidth),
+                   row, 1);
     grid.addWidget(
-        make_field<QLineEdit>(frame, element("Text_menge", row, page), QStringLiteral("0"), kQuantityWidth),
-        row, 1);
-    grid.addWidget(make_field<QLineEdit>(frame, element("Text_leistung", row, page), QString(), 0), row, 2);
-    grid.addWidget(make_field<QLineEdit>(frame, element("Text_preis", row, page), nothing, kAmountWidth), row,
-                   3);
-    grid.addWidget(make_field<AmountField>(frame, element("Text_gesamtp", row, page), nothing, kAmountWidth),
+        make_field<QLineEdit>(frame, element("Text_leistung", row, page), spoken("Leistung"), QString(), 0),
+        row, 2);
+    grid.addWidget(make_field<QLineEdit>(frame, element("Text_preis", row, page), spoken("Einzelpreis"),
+                                         nothing, kAmountWidth),
+                   row, 3);
+    grid.addWidget(make_field<AmountField>(frame, element("Text_gesamtp", row, page), spoken("Gesamtpreis"),
+                                           nothing, kAmountWidth),
                    row, 4);
     grid.addWidget(button, row, 5);
 }

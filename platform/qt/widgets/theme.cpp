@@ -1,8 +1,12 @@
 #include "platform/qt/widgets/theme.hpp"
 
+#include <QAbstractScrollArea>
 #include <QApplication>
+#include <QEvent>
 #include <QFont>
+#include <QFontInfo>
 #include <QIcon>
+#include <QPainter>
 #include <QPalette>
 #include <QProxyStyle>
 #include <QStyle>
@@ -13,9 +17,9 @@ namespace quittika::theme {
 
 namespace {
 
-// The windows are laid out for this range; larger type comes with the desktop's scaling.
 constexpr double kSmallestFont = 9.0;
-constexpr double kLargestFont = 10.0;
+constexpr double kLargestFont = 24.0;
+constexpr double kDesignFont = 13.4; ///< pixels; the windows are designed for this size
 
 struct RoleColor {
     QPalette::ColorRole role;
@@ -38,10 +42,47 @@ constexpr RoleColor kLightDisabled[] = {
     {QPalette::Base, 0xffeef1f4},       {QPalette::Highlight, 0xffb9c2cc},
 };
 
-/// Entries of a menu bar in the text colour of the window that they stand on, whatever its colour.
+/// Entries of a menu bar in the text colour of the window that they stand on, whatever its colour; ticks and
+/// icons as large as the text asks for; the focus to be seen on lists and long texts.
 class ProgramStyle : public QProxyStyle {
 public:
-    ProgramStyle() : QProxyStyle(QStringLiteral("fusion")) {}
+    /// `scale`: of ticks and icons.
+    explicit ProgramStyle(double scale) : QProxyStyle(QStringLiteral("fusion")), scale_(scale) {}
+
+    void polish(QWidget* widget) override {
+        QProxyStyle::polish(widget);
+        if (qobject_cast<QAbstractScrollArea*>(widget) != nullptr) {
+            widget->installEventFilter(this);
+        }
+    }
+    using QProxyStyle::polish;
+
+    int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override {
+        const int size = QProxyStyle::pixelMetric(metric, option, widget);
+        switch (metric) {
+        case PM_IndicatorWidth:
+        case PM_IndicatorHeight:
+        case PM_ExclusiveIndicatorWidth:
+        case PM_ExclusiveIndicatorHeight:
+        case PM_ButtonIconSize:
+        case PM_SmallIconSize:
+        case PM_ScrollBarExtent:
+            return qRound(size * scale_);
+        default:
+            return size;
+        }
+    }
+
+    void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                       const QWidget* widget) const override {
+        QProxyStyle::drawPrimitive(element, option, painter, widget);
+        const bool has_focus = option->state.testFlag(State_HasFocus);
+        if (element == PE_Frame && has_focus && qobject_cast<const QAbstractScrollArea*>(widget) != nullptr) {
+            outline(*painter, option->rect, accent(), 0);
+        } else if (dark() && !has_focus) {
+            draw_dark_outline(element, *option, *painter);
+        }
+    }
 
     void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
                      const QWidget* widget) const override {
@@ -53,10 +94,48 @@ public:
         own.palette.setBrush(QPalette::ButtonText, own.palette.windowText());
         QProxyStyle::drawControl(element, &own, painter, widget);
     }
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut) {
+            static_cast<QWidget*>(watched)->update(); // a scroll area by itself updates its inside only
+        }
+        return QProxyStyle::eventFilter(watched, event);
+    }
+
+private:
+    static void outline(QPainter& painter, const QRect& rect, const QColor& color, double radius) {
+        painter.save();
+        painter.setRenderHint(QPainter::Antialiasing, radius > 0);
+        painter.setPen(color);
+        painter.setBrush(Qt::NoBrush);
+        const double shift = radius > 0 ? 0.5 : 0.0;
+        painter.drawRoundedRect(QRectF(rect).adjusted(shift, shift, shift - 1, shift - 1), radius, radius);
+        painter.restore();
+    }
+
+    /// The style's own outlines are darker than the ground, which nobody sees on a dark one.
+    static void draw_dark_outline(PrimitiveElement element, const QStyleOption& option, QPainter& painter) {
+        constexpr double kShare = 0.4;
+        constexpr double kFieldShare = 0.2;
+        constexpr double kRadius = 2.0;
+        const QColor text = option.palette.color(QPalette::WindowText);
+        const QColor ground = option.palette.color(QPalette::Base);
+        if (element == PE_IndicatorCheckBox) {
+            outline(painter, option.rect, mix(text, ground, kShare), kRadius);
+        } else if (element == PE_IndicatorRadioButton) {
+            outline(painter, option.rect, mix(text, ground, kShare), option.rect.width() / 2.0);
+        } else if (element == PE_FrameLineEdit || element == PE_Frame) {
+            outline(painter, option.rect, mix(text, ground, kFieldShare), kRadius);
+        }
+    }
+
+    double scale_;
 };
 
 bool is_dark(const QColor& color) {
-    return color.lightness() < 128;
+    constexpr int kMiddle = 128;
+    return color.lightness() < kMiddle;
 }
 
 QPalette program_palette(QPalette palette) {
@@ -81,12 +160,24 @@ QColor accent() {
 }
 
 void apply(QApplication& application) {
-    QApplication::setStyle(new ProgramStyle); // taken over by the application
-    QApplication::setPalette(program_palette(QApplication::palette()));
     QFont font = QApplication::font();
     font.setPointSizeF(std::clamp(font.pointSizeF(), kSmallestFont, kLargestFont));
     QApplication::setFont(font);
+    QApplication::setStyle(new ProgramStyle(scale())); // taken over by the application
+    QApplication::setPalette(program_palette(QApplication::palette()));
     application.setWindowIcon(QIcon(QStringLiteral(":/icons/quittika.png")));
+}
+
+bool dark() {
+    return is_dark(QApplication::palette().color(QPalette::Window));
+}
+
+double scale() {
+    return std::max(1.0, QFontInfo(QApplication::font()).pixelSize() / kDesignFont);
+}
+
+int scaled(int pixels) {
+    return qRound(pixels * scale());
 }
 
 QColor mix(const QColor& a, const QColor& b, double share) {

@@ -9,13 +9,15 @@ namespace quittika {
 namespace {
 
 constexpr int kPadding = 4;
+constexpr int kIcon = 24;
 constexpr double kRadius = 4.0;
 
 } // namespace
 
 TileButton::TileButton(QWidget* parent) : QToolButton(parent) {
     setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
-    setIconSize({24, 24});
+    const int icon = (kIcon + theme::scaled(kIcon)) / 2; // a picture need not grow as the text does
+    setIconSize({icon, icon});
     setFocusPolicy(Qt::TabFocus);
     setAttribute(Qt::WA_Hover);
 }
@@ -24,6 +26,10 @@ QSize TileButton::sizeHint() const {
     const QSize label = fontMetrics().size(Qt::TextShowMnemonic, text());
     return {std::max(label.width(), iconSize().width()) + 2 * kPadding,
             iconSize().height() + label.height() + 2 * kPadding};
+}
+
+QSize TileButton::minimumSizeHint() const {
+    return {iconSize().width() + 2 * kPadding, sizeHint().height()};
 }
 
 QColor TileButton::ground() const {
@@ -53,8 +59,9 @@ void TileButton::paintEvent(QPaintEvent* /*event*/) {
 
     const auto role = testAttribute(Qt::WA_SetPalette) ? QPalette::ButtonText : QPalette::WindowText;
     painter.setPen(palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, role));
-    const QRect line = content.adjusted(0, iconSize().height(), 0, 0);
-    painter.drawText(line, Qt::AlignCenter | Qt::TextShowMnemonic, text());
+    const QRect line = content.adjusted(kPadding / 2, iconSize().height(), -kPadding / 2, 0);
+    painter.drawText(line, Qt::AlignCenter | Qt::TextShowMnemonic,
+                     fontMetrics().elidedText(text(), Qt::ElideRight, line.width(), Qt::TextShowMnemonic));
 }
 
 } // namespace quittika

@@ -4,14 +4,14 @@
 
 namespace quittika {
 
-/// A flat button with its icon over its text. Only a palette of its own gives it a ground,
-/// in the palette's Button and ButtonText colours.
+/// A flat button with its icon over its text, which is shortened where room is scarce. Only a palette of its
+/// own gives it a ground, in the palette's Button and ButtonText colours.
 class TileButton : public QToolButton {
     Q_OBJECT
 public:
     explicit TileButton(QWidget* parent = nullptr);
     QSize sizeHint() const override;
-    QSize minimumSizeHint() const override { return sizeHint(); }
+    QSize minimumSizeHint() const override;
 
 protected:
     void paintEvent(QPaintEvent* event) override;
