@@ -94,16 +94,28 @@ bool Eingabezeile::MengeIstZahl() const {
     return ZAHL_LESEN(form1_.Text_Menge.Text()).has_value();
 }
 
-TextBox* Eingabezeile::falsches_feld() const {
-    const std::optional<double> menge = Menge();
-    const std::optional<double> preis = Preis();
+std::optional<Eingabezeile::Ablehnung> Eingabezeile::pruefen() const {
     if (form1_.Check_K.ticked()) {
-        return nullptr;
+        return std::nullopt;
     }
+    const std::optional<double> menge = Menge();
     if (!menge) {
-        return &form1_.Text_Menge;
+        return Ablehnung{&form1_.Text_Menge, grund(form1_.Text_Menge)};
     }
-    return preis && std::isfinite(*menge * *preis) ? nullptr : &form1_.Text_preis;
+    const std::optional<double> preis = Preis();
+    if (!preis) {
+        return Ablehnung{&form1_.Text_preis, grund(form1_.Text_preis)};
+    }
+    return std::isfinite(*menge * *preis) ? std::nullopt : std::optional(Ablehnung{&form1_.Text_preis, {}});
+}
+
+/// Why a field is refused.
+std::string Eingabezeile::grund(const TextBox& feld) const {
+    if (&feld == &form1_.Text_Menge && MengeIstZahl()) {
+        return "Eine ganze Menge geht nur bis 32767. Mehr erlaubt das Kästchen \"" +
+               BESCHRIFTUNG(form1_.Check_mengenartDECIMAL) + "\".";
+    }
+    return KEINE_ZAHL(feld.Text()) + ".";
 }
 
 void Eingabezeile::lesen() {
@@ -122,7 +134,7 @@ double Eingabezeile::uebernehmen(TextBox& feld, const std::optional<Feldwert>& g
         return 0;
     }
     if (!gelesen) {
-        form1_.Hinweise.melden(KEINE_ZAHL(feld.Text()) + " und zählt als 0.", &feld);
+        form1_.Hinweise.melden(grund(feld) + " Gerechnet wird mit 0.", &feld);
         feld.Text = MIT_KOMMA(feld.Text());
         abgelehnt_ = abgelehnt_ == nullptr ? &feld : abgelehnt_;
         return 0;

@@ -26,9 +26,13 @@ public:
     std::optional<double> Preis() const;
     /// Whether the quantity is a number at all, too big or not.
     bool MengeIstZahl() const;
-    /// The field that keeps the row from being added: its text is no number, or makes the total no number.
-    /// Null for none.
-    TextBox* falsches_feld() const;
+    /// A field that keeps the row from being added, and why.
+    struct Ablehnung {
+        TextBox* feld;
+        std::string grund;
+    };
+    /// The first field whose text is no number, or makes the total none; nothing where all is well.
+    std::optional<Ablehnung> pruefen() const;
     /// Whether the row total was a number at the last reading.
     bool SummeGueltig() const { return summe_gueltig_; }
 
@@ -54,6 +58,7 @@ private:
     std::optional<Feldwert> menge_lesen() const;
     std::optional<Feldwert> preis_lesen() const;
     std::string_view betragsformat() const { return form1_.Check_000.ticked() ? "0.000" : "0.00"; }
+    std::string grund(const TextBox& feld) const;
     double uebernehmen(TextBox& feld, const std::optional<Feldwert>& gelesen);
     void summe_zeigen(double menge, double preis);
     void standardknopf_zeigen();

@@ -44,16 +44,17 @@ Positionen::Eingabe Positionen::EingabePruefen() {
     if (const std::optional<double> menge = eingabezeile_.Menge(); menge && *menge == 0) {
         return Eingabe::Menge_Null;
     }
-    if (TextBox* feld = eingabezeile_.falsches_feld()) {
-        EingabeAblehnen(*feld);
+    if (const auto ablehnung = eingabezeile_.pruefen()) {
+        EingabeAblehnen(*ablehnung);
         return Eingabe::Ungueltig;
     }
     return Eingabe::Gueltig;
 }
 
-void Positionen::EingabeAblehnen(TextBox& feld) {
+void Positionen::EingabeAblehnen(const Eingabezeile::Ablehnung& ablehnung) {
+    form1_.Hinweise.melden(ablehnung.grund, ablehnung.feld);
     dialogs_.message({"Ihre Eingabe ist nicht gültig!", "Achtung Fehler!"});
-    Eingabezeile::hingehen(feld);
+    Eingabezeile::hingehen(*ablehnung.feld);
 }
 
 void Positionen::MengeNullMelden() {
@@ -145,7 +146,7 @@ void Positionen::Command_Trennzeile_Click() {
 bool Positionen::ZeileHinzufuegen(bool Trennzeile) {
     summen_.jetztberechnen_List();
     if (!Trennzeile && !eingabezeile_.SummeGueltig()) {
-        EingabeAblehnen(form1_.Text_preis);
+        EingabeAblehnen({&form1_.Text_preis, {}});
         return false;
     }
     if (!Trennzeile) {

@@ -47,7 +47,7 @@ public:
 private:
     enum class Eingabe { Gueltig, Menge_Null, Ungueltig };
     Eingabe EingabePruefen();
-    void EingabeAblehnen(TextBox& feld);
+    void EingabeAblehnen(const Eingabezeile::Ablehnung& ablehnung);
     void MengeNullMelden();
     void ZeileEinfuegen(int stelle, bool Trennzeile);
     void StrichpunkteErsetzen();

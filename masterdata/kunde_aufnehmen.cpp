@@ -63,8 +63,8 @@ bool KundeAufnehmen::Bestaetigt(const std::string& pfad, const std::string& zeil
     } else if (schon_in_der_liste(pfad, zeile)) {
         frage = "Dieser Kunde steht schon genau so in der Kundenliste. Noch einmal aufnehmen?";
     }
-    return frage.empty() ||
-           dialogs_.message({frage, kProgrammname, Buttons::YesNo, Symbol::Question}) == Answer::Yes;
+    return frage.empty() || dialogs_.message({frage, kProgrammname, Buttons::YesNo, Symbol::Question,
+                                              Answer::No}) == Answer::Yes;
 }
 
 bool KundeAufnehmen::nur_platzhalter() const {
