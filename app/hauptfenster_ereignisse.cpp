@@ -226,7 +226,10 @@ void Hauptfenster::WertfeldVerdrahten(TextBox& feld, const Ereignis& rechnen) {
         knopf.Default = false;
         rechnen();
     };
-    feld.KeyDown = tasten({{kEingabetaste, befehl(rechnen)}});
+    feld.KeyDown = tasten({{kEingabetaste, befehl([rechnen, &feld] {
+                                rechnen();
+                                feld.select_all();
+                            })}});
 }
 
 void Hauptfenster::StatusVerdrahten() {

@@ -164,7 +164,7 @@ void Positionen::StrichpunkteErsetzen() {
     const std::string& text = form1_.Text_leistung.Text();
     if (text.find(';') != std::string::npos) {
         form1_.Text_leistung.Text = ZEICHENERSETZEN(text, ";", ",");
-        form1_.Hinweise.melden("Aus \";\" wurde \",\": In der Datei endet bei einem \";\" das Feld.");
+        form1_.Hinweise.melden("Aus \";\" wurde \",\": \";\" trennt in der Datei die Felder.");
     }
 }
 

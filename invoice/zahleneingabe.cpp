@@ -96,8 +96,7 @@ Feldwert FELDWERT(std::string_view getippt, const Zahleneingabe& zahl, double we
     if (zahl.wie_tausender) {
         const std::string eingabe = gekuerzt(getippt);
         feld.hinweis = eingabe + " wurde als " + gelesen +
-                       " gelesen. Tausender schreiben Sie so: " + ersetzen(eingabe, ".", "") + " oder " +
-                       eingabe + ",00.";
+                       " gelesen. Tausender: " + ersetzen(eingabe, ".", "") + " oder " + eingabe + ",00.";
     }
     if (gerundet) {
         feld.hinweis += (feld.hinweis.empty() ? "" : " ") + gelesen + " wurde auf " + feld.text +

@@ -156,6 +156,24 @@ TEST_F(Hauptfenstertest, ZeilenmenueUndStrgPfeilVerschiebenZeilen) {
     EXPECT_EQ(liste->selectionModel()->selectedIndexes().value(0).row(), 2);
 }
 
+TEST_F(Hauptfenstertest, JederSchalterRechnet) {
+    int schalter = 0;
+    for (Control* control : f().controls()) {
+        auto* option = dynamic_cast<OptionButton*>(control);
+        if (option == nullptr && dynamic_cast<CheckBox*>(control) == nullptr) {
+            continue;
+        }
+        if (option != nullptr) {
+            option->Value.adopt(false);
+        }
+        f().StatusBar1[2].Caption = "";
+        control->user_click();
+        EXPECT_EQ(f().StatusBar1[2].Caption(), "Anzahl Druckseiten: 1") << control->name();
+        ++schalter;
+    }
+    EXPECT_GT(schalter, 20);
+}
+
 TEST_F(Hauptfenstertest, TabulatorFolgtDerArbeit) {
     feld<QLineEdit>("Text_Kunde_1")->setFocus();
     for (const char* naechstes : {"Text_Kunde_2", "Text_Kunde_3", "Text_Kunde_4", "Text_KundennrK"}) {
