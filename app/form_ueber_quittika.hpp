@@ -1,12 +1,16 @@
 #pragma once
 
 #include "platform/forms/controls.hpp"
+#include "platform/forms/twips.hpp"
 
 namespace quittika {
 
 /// The about box.
 struct Form_ueber_QUITTIKA : Form {
-    Form_ueber_QUITTIKA() : Form("Form_ueber_QUITTIKA", "über QUITTIKA") { Text_Funktion.Locked.adopt(true); }
+    Form_ueber_QUITTIKA()
+        : Form("Form_ueber_QUITTIKA", "über QUITTIKA", {.width = twips(440), .height = twips(280)}) {
+        Text_Funktion.Locked.adopt(true);
+    }
     Label Label_Name{*this, "Label_Name", "QUITTIKA 2008"};
     Label Label_Version{*this, "Label_Version"};
     TextBox Text_Funktion{

@@ -1,6 +1,7 @@
 #include "app/ladefolge.hpp"
 
 #include "platform/datum.hpp"
+#include "platform/forms/twips.hpp"
 #include "platform/textdatei.hpp"
 
 #include <array>
@@ -11,8 +12,7 @@ namespace quittika {
 namespace {
 
 constexpr int kEigenesLayout = 9;
-constexpr int kTwipsJePixel = 15;
-constexpr int kRahmen = 40 * kTwipsJePixel; ///< title bar and the desktop's own bar
+constexpr int kRahmen = twips(40); ///< title bar and the desktop's own bar
 
 /// Picture of the main window in which a page design shows its logo.
 Image& Logobild(Form1& f, int layout) {
@@ -114,10 +114,8 @@ void Ladefolge::Zentrieren() {
     Form1& f = z_.form1;
     const int breite = z_.platform.desktop.screen_width();
     const int hoehe = z_.platform.desktop.screen_height();
-    if (f.Width() == 0) {
-        f.Width = std::min(breite, 1360 * kTwipsJePixel);
-        f.Height = std::min(hoehe - kRahmen, 860 * kTwipsJePixel);
-    }
+    f.Width = std::min(breite, f.Width());
+    f.Height = std::min(hoehe - kRahmen, f.Height());
     f.Left = (breite - f.Width()) / 2;
     f.Top = (hoehe - f.Height()) / 2;
 }

@@ -1,5 +1,7 @@
 #include "invoice/form1.hpp"
 
+#include "platform/forms/twips.hpp"
+
 #include <string>
 
 namespace quittika {
@@ -21,7 +23,7 @@ Form1::Rasterzeile::Rasterzeile(ControlArray<Frame, kSeiten>& seiten, int n)
       Command_PLUS_(seiten, nummeriert("Command_PLUS_", n), std::string("+")) {}
 
 Form1::Form1()
-    : Form("form1", "Quittika 2008"),
+    : Form("form1", "Quittika 2008", {.width = twips(1360), .height = twips(860)}),
       Raster{{{Frame_seite1, 1},
               {Frame_seite1, 2},
               {Frame_seite1, 3},
@@ -41,10 +43,7 @@ Form1::Form1()
     Text_LIEFERDATUM.Enabled.adopt(false);
     Image_hintergrund.Visible.adopt(false);
     Image_WASSERZ.Visible.adopt(false);
-    for (Control* versteckt : {static_cast<Control*>(&Text1), static_cast<Control*>(&Text_Notiz),
-                               static_cast<Control*>(&Label_gesamtbetrag)}) {
-        versteckt->Visible.adopt(false);
-    }
+    Label_gesamtbetrag.Visible.adopt(false);
     for (TextBox* ergebnis :
          {&Text_gesamtp, &Text_summe, &Text_summeRabatt, &Text_summeNACHRABATT, &Text_summemwst,
           &Text_gesamtbetrag, &Text_PreisVersankosten, &Text_PreisVersankostenMwST}) {

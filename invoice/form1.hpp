@@ -85,7 +85,7 @@ struct Form1 : Form {
     CommandButton Cmd_Barcode{Frame_drucke, "Cmd_Barcode", "Barcode-Modus"};
     CommandButton Command1{Frame_drucke, "Command1", "Analyzer..."};
     CommandButton Command2{Frame_drucke, "Command2", "Designer..."};
-    TextBox Text1{Frame_drucke, "Text1", "1"}; ///< copies of the last print job, hidden
+    TextBox Text1{Frame_drucke, Named("Text1").data_only(), "1"}; ///< copies of the last print job
 
     // --- document kind ---
     Frame Frame_rechnung{*this, "Frame_rechnung", "D&okument"};
@@ -173,7 +173,7 @@ struct Form1 : Form {
     ComboBox Combo1_mahnung{
         Frame_status, "Combo1_mahnung", {"Zahlungserinnerung", "1. Mahnung", "2. Mahnung", "3. Mahnung"}};
     CommandButton Cmd_Notiz{Frame_status, "Cmd_Notiz", "Notiz verfassen/ändern..."};
-    TextBox Text_Notiz{Frame_status, "Text_Notiz", vorgabe::kNotiz}; ///< copy of the note, hidden
+    TextBox Text_Notiz{Frame_status, Named("Text_Notiz").data_only(), vorgabe::kNotiz}; ///< copy of the note
 
     // --- discount, VAT, shipping ---
     Frame Frame6{*this, "Frame6", "Rabatt und Mehr&wertsteuer"};

@@ -16,10 +16,13 @@ public:
     virtual void adopt(Form& form) = 0;
     virtual void release(Form& form) = 0;
 
-    /// Shows a form. A modal one keeps the caller here until it is hidden or closed.
+    /// Shows a form in front and gives it the focus. A modal one keeps the caller here until it is hidden or
+    /// closed.
     virtual void show(Form& form, Modality modality) = 0;
     virtual void hide(Form& form) = 0;
+    /// Brings a form to the front as far as no modal one is there; the focus stays where it is.
     virtual void raise(Form& form) = 0;
+    /// Gives a control the focus, and its form with it.
     virtual void set_focus(Control& control) = 0;
 
     /// Size of the screen in twips.

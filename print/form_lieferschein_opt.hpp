@@ -1,12 +1,14 @@
 #pragma once
 
 #include "platform/forms/controls.hpp"
+#include "platform/forms/twips.hpp"
 
 namespace quittika {
 
 /// What a delivery note shows besides its rows.
 struct Form_Lieferschein_opt : Form {
-    Form_Lieferschein_opt() : Form("Form_Lieferschein_opt", "Lieferschein") {
+    Form_Lieferschein_opt()
+        : Form("Form_Lieferschein_opt", "Lieferschein", {.width = twips(380), .height = twips(214)}) {
         Check_LIEFERSCH_ANSCHREIBEN.ToolTipText.adopt("Das Anschreiben druckt nur das eigene Layout");
     }
     CheckBox Check_LIEFERSCH_WERBESPRUCH{*this, "Check_LIEFERSCH_WERBESPRUCH", "Werbespruch drucken..."};

@@ -2,23 +2,33 @@
 
 #include "platform/desktop.hpp"
 #include "platform/forms/form.hpp"
+#include "platform/laufzeitfehler.hpp"
 
 namespace quittika {
 
-Control::Control(Container& container, std::string_view name, std::string caption)
-    : Caption(*this, PropertyId::Caption, std::move(caption)),
-      container_(container),
-      form_(container.form()),
-      name_(name) {
-    form_.add(*this);
+namespace {
+
+std::string full_name(const Named& named) {
+    const std::string name(named.name);
+    return named.index < 0 ? name : name + "(" + std::to_string(named.index) + ")";
 }
 
-Control::Control(Container& container, ArrayIndex place, std::string caption)
-    : Caption(*this, PropertyId::Caption, std::move(caption)),
-      container_(container),
+} // namespace
+
+Control::Control(Container& container, const Named& named, std::string caption)
+    : container_(container),
       form_(container.form()),
-      name_(std::string(place.name) + "(" + std::to_string(place.index) + ")"),
-      index_(place.index) {
+      activity_(form_.activity()),
+      Caption(*this, PropertyId::Caption, std::move(caption)),
+      name_(full_name(named)),
+      index_(named.index),
+      placing_(named.placing),
+      shown_(named.shown) {
+    Visible.adopt(named.shown);
+    Left.adopt(named.place.left);
+    Top.adopt(named.place.top);
+    Width.adopt(named.place.width);
+    Height.adopt(named.place.height);
     form_.add(*this);
 }
 
@@ -43,6 +53,7 @@ bool Control::effectively_enabled() const {
 }
 
 void Control::SetFocus() {
+    const Activity::Hold here(activity_);
     if (Desktop* desktop = form_.desktop()) {
         desktop->set_focus(*this);
     }
@@ -50,6 +61,27 @@ void Control::SetFocus() {
 
 void Control::attach(std::unique_ptr<ControlView> view) {
     view_ = std::move(view);
+}
+
+bool Control::may_be(PropertyId id, std::int64_t value) const {
+    switch (id) {
+    case PropertyId::Visible:
+        return shown_ || value == 0;
+    case PropertyId::Left:
+    case PropertyId::Top:
+        return placing_ == Placing::Program || placing_ == Placing::Position;
+    case PropertyId::Width:
+    case PropertyId::Height:
+        return placing_ == Placing::Program && value >= 0;
+    default:
+        return true;
+    }
+}
+
+void Control::check(PropertyId id, std::int64_t value) const {
+    if (!may_be(id, value)) {
+        throw Laufzeitfehler(fehler::kEigenschaft, form_.name() + "." + name_);
+    }
 }
 
 void Control::changed(PropertyId id) {

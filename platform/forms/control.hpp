@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/forms/activity.hpp"
+#include "platform/forms/named.hpp"
 #include "platform/forms/property.hpp"
 
 #include <array>
@@ -38,12 +40,6 @@ public:
     virtual void items_changed() {}
 };
 
-/// Place of an element in a control array.
-struct ArrayIndex {
-    std::string_view name;
-    int index;
-};
-
 enum class MouseButton { None = 0, Left = 1, Right = 2 };
 
 /// A mouse event inside a control; x and y in twips from its top left corner.
@@ -53,17 +49,25 @@ struct MouseEvent {
     int y;
 };
 
-/// Base of everything that stands on a form. Events are plain functions; an empty one is not called.
+/// Base of everything that stands on a form.
 class Control : public PropertyHost {
+    Container& container_;
+    Form& form_;
+
+protected:
+    Activity& activity_; ///< of the form; the handlers count in it
+
 public:
-    Control(Container& container, std::string_view name, std::string caption = {});
-    Control(Container& container, ArrayIndex place, std::string caption = {});
+    Control(Container& container, const Named& named, std::string caption = {});
     ~Control() override;
 
     /// Full name, with the index in parentheses for an element of a control array.
     const std::string& name() const { return name_; }
     /// Index in the control array, -1 if it is none.
     int index() const { return index_; }
+    Placing placing() const { return placing_; }
+    /// Keeps data that nobody sees; never visible.
+    bool data_only() const { return !shown_; }
     /// Class name as scripts list it ("TextBox").
     virtual std::string_view kind() const = 0;
     /// The text that a script reads when it names no property.
@@ -90,64 +94,57 @@ public:
     Property<Color> ForeColor{*this, PropertyId::ForeColor, color::kWindowText};
     Property<bool> FontBold{*this, PropertyId::FontBold, false};
     Property<std::string> ToolTipText{*this, PropertyId::ToolTipText};
-    Property<int> Left{*this, PropertyId::Left, 0};     ///< twips
-    Property<int> Top{*this, PropertyId::Top, 0};       ///< twips
-    Property<int> Width{*this, PropertyId::Width, 0};   ///< twips
-    Property<int> Height{*this, PropertyId::Height, 0}; ///< twips
+    // Twips inside the container; of use only if the form gives the control a place.
+    Property<int> Left{*this, PropertyId::Left, 0};
+    Property<int> Top{*this, PropertyId::Top, 0};
+    Property<int> Width{*this, PropertyId::Width, 0};
+    Property<int> Height{*this, PropertyId::Height, 0};
 
-    using Event = std::function<void()>;
-    using Mouse = std::function<void(const MouseEvent&)>;
-    Event Click;
-    Event DblClick;
-    Event GotFocus;
-    Event LostFocus;
-    std::function<void(int)> KeyDown; ///< key code
-    Mouse MouseDown;
-    Mouse MouseMove;
-    Mouse MouseUp;
-    std::function<void(const std::string&)> OLEDragDrop; ///< dropped text
+    using Event = Handler<>;
+    using Mouse = Handler<const MouseEvent&>;
+    Event Click{activity_};
+    Event DblClick{activity_};
+    Event GotFocus{activity_};
+    Event LostFocus{activity_};
+    Event Resize{activity_};         ///< the window has given the control another size
+    Handler<int> KeyDown{activity_}; ///< key code
+    Mouse MouseDown{activity_};
+    Mouse MouseMove{activity_};
+    Mouse MouseUp{activity_};
+    Handler<const std::string&> OLEDragDrop{activity_}; ///< dropped text
 
     /// What a user's click does to this control.
-    virtual void user_click() { fire(Click); }
+    virtual void user_click() { Click(); }
 
 protected:
+    /// Throws `Laufzeitfehler` 380 for a place or visibility that is not the program's to set.
+    void check(PropertyId id, std::int64_t value) const override;
     void changed(PropertyId id) override;
     /// Events that belong to a changed property.
     virtual void fire_for(PropertyId /*id*/) {}
     void notify_items();
-    static void fire(const Event& event) {
-        if (event) {
-            event();
-        }
-    }
 
 private:
-    Container& container_;
-    Form& form_;
+    bool may_be(PropertyId id, std::int64_t value) const;
+
     std::string name_;
-    int index_ = -1;
+    int index_;
+    Placing placing_;
+    bool shown_;
     std::unique_ptr<ControlView> view_;
 };
-
-/// Calls an event if somebody listens.
-template <class... Args, class... Given>
-void fire_event(const std::function<void(Args...)>& event, Given&&... args) {
-    if (event) {
-        event(std::forward<Given>(args)...);
-    }
-}
 
 /// A row of like controls, addressed by index; the first index is `First`.
 template <class T, std::size_t N, int First = 0> class ControlArray {
 public:
     template <class... Args>
-    ControlArray(Container& container, std::string_view name, const Args&... args)
-        : ControlArray(std::make_index_sequence<N>{}, container, name, args...) {}
+    ControlArray(Container& container, const Named& named, const Args&... args)
+        : ControlArray(std::make_index_sequence<N>{}, container, named, args...) {}
 
     /// An array whose elements stand in the frames of another array, one in each.
     template <class C, class... Args>
-    ControlArray(ControlArray<C, N, First>& frames, std::string_view name, const Args&... args)
-        : ControlArray(std::make_index_sequence<N>{}, frames, name, args...) {}
+    ControlArray(ControlArray<C, N, First>& frames, const Named& named, const Args&... args)
+        : ControlArray(std::make_index_sequence<N>{}, frames, named, args...) {}
 
     T& operator[](int index) { return items_.at(static_cast<std::size_t>(index - First)); }
     const T& operator[](int index) const { return items_.at(static_cast<std::size_t>(index - First)); }
@@ -160,12 +157,12 @@ public:
 
 private:
     template <std::size_t... I, class... Args>
-    ControlArray(std::index_sequence<I...>, Container& container, std::string_view name, const Args&... args)
-        : items_{{T(container, ArrayIndex{name, First + static_cast<int>(I)}, args...)...}} {}
+    ControlArray(std::index_sequence<I...>, Container& container, const Named& named, const Args&... args)
+        : items_{{T(container, named.element(First + static_cast<int>(I)), args...)...}} {}
     template <std::size_t... I, class C, class... Args>
-    ControlArray(std::index_sequence<I...>, ControlArray<C, N, First>& frames, std::string_view name,
+    ControlArray(std::index_sequence<I...>, ControlArray<C, N, First>& frames, const Named& named,
                  const Args&... args)
-        : items_{{T(frames[First + static_cast<int>(I)], ArrayIndex{name, First + static_cast<int>(I)},
+        : items_{{T(frames[First + static_cast<int>(I)], named.element(First + static_cast<int>(I)),
                     args...)...}} {}
 
     std::array<T, N> items_;

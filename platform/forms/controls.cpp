@@ -25,13 +25,8 @@ constexpr int kInvalidProperty = 380;
 
 } // namespace
 
-TextBox::TextBox(Container& container, std::string_view name, std::string text)
-    : Control(container, name), Text(*this, PropertyId::Text, std::move(text)) {
-    BackColor.adopt(color::kWindow);
-}
-
-TextBox::TextBox(Container& container, ArrayIndex place, std::string text)
-    : Control(container, place), Text(*this, PropertyId::Text, std::move(text)) {
+TextBox::TextBox(Container& container, const Named& named, std::string text)
+    : Control(container, named), Text(*this, PropertyId::Text, std::move(text)) {
     BackColor.adopt(color::kWindow);
 }
 
@@ -55,17 +50,18 @@ void TextBox::select_all() {
 
 void TextBox::fire_for(PropertyId id) {
     if (id == PropertyId::Text) {
-        fire(Change);
+        Change();
     }
 }
 
 void CheckBox::check(PropertyId id, std::int64_t value) const {
+    Control::check(id, value);
     require(id != PropertyId::Value || (value >= 0 && value <= 2), kInvalidProperty);
 }
 
 void CheckBox::fire_for(PropertyId id) {
     if (id == PropertyId::Value) {
-        fire(Click);
+        Click();
     }
 }
 
@@ -92,7 +88,7 @@ void OptionButton::switch_siblings_off() {
 
 void OptionButton::fire_for(PropertyId id) {
     if (id == PropertyId::Value) {
-        fire(Click);
+        Click();
     }
 }
 
@@ -141,30 +137,31 @@ void ListBox::assign(std::vector<std::string> items) {
 
 void ListBox::tell_items() {
     notify_items();
-    fire(Changed);
+    Changed();
 }
 
 void ListBox::user_select(int index) {
     if (index == ListIndex()) {
-        fire(Click);
+        Click();
     } else {
         ListIndex = index;
     }
 }
 
 void ListBox::check(PropertyId id, std::int64_t value) const {
+    Control::check(id, value);
     require(id != PropertyId::ListIndex || (value >= -1 && value < ListCount()), kInvalidProperty);
 }
 
 void ListBox::fire_for(PropertyId id) {
     if (id == PropertyId::ListIndex) {
-        fire(Changed);
-        fire(Click);
+        Changed();
+        Click();
     }
 }
 
-ComboBox::ComboBox(Container& container, std::string_view name, std::vector<std::string> items, bool editable)
-    : Control(container, name), items_(std::move(items)), editable_(editable) {
+ComboBox::ComboBox(Container& container, const Named& named, std::vector<std::string> items, bool editable)
+    : Control(container, named), items_(std::move(items)), editable_(editable) {
     BackColor.adopt(color::kWindow);
 }
 
@@ -186,68 +183,70 @@ void ComboBox::Clear() {
 
 void ComboBox::user_select(int index) {
     if (index == ListIndex()) {
-        fire(Click);
+        Click();
     } else {
         ListIndex = index;
     }
 }
 
 void ComboBox::check(PropertyId id, std::int64_t value) const {
+    Control::check(id, value);
     require(id != PropertyId::ListIndex || (value >= -1 && value < ListCount()), kInvalidProperty);
 }
 
 void ComboBox::fire_for(PropertyId id) {
     if (id == PropertyId::ListIndex) {
         Text.adopt(List(ListIndex()));
-        fire(Click);
+        Click();
     } else if (id == PropertyId::Text) {
-        fire(Change);
+        Change();
     }
 }
 
-RangeControl::RangeControl(Container& container, std::string_view name, int min, int max, int value)
-    : Control(container, name),
+RangeControl::RangeControl(Container& container, const Named& named, int min, int max, int value)
+    : Control(container, named),
       Min(*this, PropertyId::Min, min),
       Max(*this, PropertyId::Max, max),
       Value(*this, PropertyId::Value, value) {}
 
 void RangeControl::check(PropertyId id, std::int64_t value) const {
+    Control::check(id, value);
     require(id != PropertyId::Value || (value >= Min() && value <= Max()), kInvalidProperty);
 }
 
 void RangeControl::fire_for(PropertyId id) {
     if (id == PropertyId::Value) {
-        fire(Change);
+        Change();
     }
 }
 
 void Slider::fire_for(PropertyId id) {
     RangeControl::fire_for(id);
     if (id == PropertyId::Value) {
-        fire(Click);
+        Click();
     }
 }
 
-Timer::Timer(Container& container, std::string_view name, int interval_ms, bool enabled)
-    : Control(container, name), Interval(*this, PropertyId::Interval, interval_ms) {
+Timer::Timer(Container& container, const Named& named, int interval_ms, bool enabled)
+    : Control(container, named), Interval(*this, PropertyId::Interval, interval_ms) {
     Enabled.adopt(enabled);
 }
 
 void SSTab::fire_for(PropertyId id) {
     if (id == PropertyId::Tab) {
-        fire(Click);
+        Click();
     }
 }
 
 void DriveListBox::fire_for(PropertyId id) {
     if (id == PropertyId::Path) {
-        fire(Change);
+        Change();
     }
 }
 
 void DirListBox::fire_for(PropertyId id) {
     if (id == PropertyId::Path) {
-        fire(Change);
+        Change();
     }
 }
 

@@ -66,8 +66,7 @@ public:
 /// A text field. Line ends inside the text are CR LF.
 class TextBox final : public Control {
 public:
-    TextBox(Container& container, std::string_view name, std::string text = {});
-    TextBox(Container& container, ArrayIndex place, std::string text = {});
+    TextBox(Container& container, const Named& named, std::string text = {});
     std::string_view kind() const override { return "TextBox"; }
     std::string main_value() const override { return Text(); }
 
@@ -79,7 +78,7 @@ public:
     /// Marks the whole text.
     void select_all();
 
-    Event Change;
+    Event Change{activity_};
 
 protected:
     void fire_for(PropertyId id) override;
@@ -146,7 +145,7 @@ public:
     /// A user's click on an item: fires `Click` even where it was selected already.
     void user_select(int index);
 
-    Event Changed; ///< after items or selection have changed, whoever changed them
+    Event Changed{activity_}; ///< after items or selection have changed, whoever changed them
 
 protected:
     void check(PropertyId id, std::int64_t value) const override;
@@ -161,7 +160,7 @@ private:
 /// A drop-down list; with `editable` the text can be typed, too.
 class ComboBox final : public Control {
 public:
-    ComboBox(Container& container, std::string_view name, std::vector<std::string> items = {},
+    ComboBox(Container& container, const Named& named, std::vector<std::string> items = {},
              bool editable = false);
     std::string_view kind() const override { return "ComboBox"; }
     std::string main_value() const override { return Text(); }
@@ -177,7 +176,7 @@ public:
     void Clear();
     void user_select(int index);
 
-    Event Change;
+    Event Change{activity_};
 
 protected:
     void check(PropertyId id, std::int64_t value) const override;
@@ -191,14 +190,14 @@ private:
 /// What scroll bars, sliders and progress bars share: a value within bounds.
 class RangeControl : public Control {
 public:
-    RangeControl(Container& container, std::string_view name, int min, int max, int value);
+    RangeControl(Container& container, const Named& named, int min, int max, int value);
     std::string main_value() const override { return Value.as_text(); }
 
     Property<int> Min;
     Property<int> Max;
     Property<int> Value;
 
-    Event Change;
+    Event Change{activity_};
 
 protected:
     void check(PropertyId id, std::int64_t value) const override;
@@ -236,12 +235,12 @@ public:
 /// Fires `Tick` every `Interval` ms while it is enabled and its form is loaded; an interval of 0 stops it.
 class Timer final : public Control {
 public:
-    Timer(Container& container, std::string_view name, int interval_ms, bool enabled = true);
+    Timer(Container& container, const Named& named, int interval_ms, bool enabled = true);
     std::string_view kind() const override { return "Timer"; }
     bool running() const { return Enabled() && Interval() > 0 && form().loaded(); }
 
     Property<int> Interval; ///< ms
-    Event Tick;
+    Event Tick{activity_};
 };
 
 class Menu final : public Control {
@@ -277,7 +276,7 @@ public:
     std::string_view kind() const override { return "DriveListBox"; }
     std::string main_value() const override { return Path(); }
     Property<std::string> Path{*this, PropertyId::Path}; ///< root of the chosen drive
-    Event Change;
+    Event Change{activity_};
 
 protected:
     void fire_for(PropertyId id) override;
@@ -289,7 +288,7 @@ public:
     std::string_view kind() const override { return "DirListBox"; }
     std::string main_value() const override { return Path(); }
     Property<std::string> Path{*this, PropertyId::Path}; ///< chosen directory
-    Event Change;
+    Event Change{activity_};
 
 protected:
     void fire_for(PropertyId id) override;

@@ -4,8 +4,12 @@
 
 namespace quittika {
 
-Form::Form(std::string_view name, std::string caption)
-    : Caption(*this, PropertyId::Caption, std::move(caption)), name_(name) {}
+Form::Form(std::string_view name, std::string caption, const FormDesign& design)
+    : Caption(*this, PropertyId::Caption, std::move(caption)),
+      Width(*this, PropertyId::Width, design.width),
+      Height(*this, PropertyId::Height, design.height),
+      name_(name),
+      companion_(design.companion) {}
 
 Form::~Form() {
     if (desktop_ != nullptr) {
@@ -37,12 +41,16 @@ void Form::detach() {
 void Form::ensure_loaded() {
     if (!loaded_) {
         loaded_ = true;
-        fire_event(Load);
+        Load();
     }
 }
 
 void Form::Show(Modality modality) {
+    const Activity::Hold here(activity_);
     ensure_loaded();
+    if (!loaded_) {
+        return;
+    }
     shown_ = true;
     if (desktop_ != nullptr) {
         desktop_->show(*this, modality);
@@ -63,13 +71,19 @@ bool Form::Close() {
     if (!loaded_) {
         return true;
     }
+    const Activity::Hold here(activity_);
     bool cancel = false;
-    fire_event(QueryUnload, cancel);
+    QueryUnload(cancel);
     if (cancel) {
         return false;
     }
     loaded_ = false;
-    fire_event(Unload);
+    try {
+        Unload();
+    } catch (...) {
+        Hide(); // an unloaded form is not shown, whatever became of its handler
+        throw;
+    }
     Hide();
     return true;
 }

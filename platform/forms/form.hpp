@@ -13,13 +13,25 @@ class Desktop;
 
 enum class Modality { Modeless, Modal };
 
+/// How a window is made.
+struct FormDesign {
+    int width = 0; ///< twips, without the frame; what it starts with unless the user has changed it
+    int height = 0;
+    bool companion = false; ///< stays above the main window and off the task bar
+};
+
 /// A window as data: its controls register themselves here. It never knows who shows it.
 class Form : public PropertyHost, public Container {
+    Activity activity_; // the handlers below count in it
+
 public:
-    Form(std::string_view name, std::string caption);
+    Form(std::string_view name, std::string caption, const FormDesign& design = {});
     ~Form() override;
 
     const std::string& name() const { return name_; }
+    bool companion() const { return companion_; }
+    /// What runs on the form's behalf.
+    Activity& activity() { return activity_; }
     /// All controls in the order of their declaration.
     const std::vector<Control*>& controls() const { return controls_; }
     /// The control of that full name ("Text_Bemerkung1(1)"), or null.
@@ -35,7 +47,8 @@ public:
     Desktop* desktop() const { return desktop_; }
     ControlView* view() const { return view_.get(); }
 
-    /// Loads the form if need be and shows it; a modal one returns after it was closed.
+    /// Loads the form if need be, shows it in front of the others and gives it the focus. A modal one
+    /// returns after it was closed. A form that closes itself while it loads is not shown.
     void Show(Modality modality = Modality::Modeless);
     void Hide();
     /// Runs `Load` without showing anything; nothing if the form is loaded already.
@@ -43,7 +56,8 @@ public:
     /// Asks `QueryUnload`; unless that cancels, runs `Unload` and takes the window away.
     /// Returns whether the form is closed.
     bool Close();
-    /// Brings the window in front of the others.
+    /// Brings the window in front of the others; the focus stays where it is. A window that a modal one
+    /// keeps the user away from stays behind that.
     void ZOrder();
 
     bool loaded() const { return loaded_; }
@@ -55,16 +69,17 @@ public:
     Property<Color> ForeColor{*this, PropertyId::ForeColor, color::kWindowText};
     Property<bool> Enabled{*this, PropertyId::Enabled, true};
     Property<int> WindowState{*this, PropertyId::WindowState, 0}; ///< 0 normal, 1 minimised, 2 maximised
-    Property<int> Left{*this, PropertyId::Left, 0};               ///< twips
-    Property<int> Top{*this, PropertyId::Top, 0};                 ///< twips
-    Property<int> Width{*this, PropertyId::Width, 0};             ///< twips
-    Property<int> Height{*this, PropertyId::Height, 0};           ///< twips
+    // On the screen, in twips; width and height without the frame.
+    Property<int> Left{*this, PropertyId::Left, 0};
+    Property<int> Top{*this, PropertyId::Top, 0};
+    Property<int> Width;
+    Property<int> Height;
 
-    std::function<void()> Load;
-    std::function<void(bool& cancel)> QueryUnload;
-    std::function<void()> Unload;
-    std::function<void()> Resize;
-    std::function<void(const std::vector<std::string>& paths)> FilesDropped; ///< in the system's form, UTF-8
+    Handler<> Load{activity_};
+    Handler<bool&> QueryUnload{activity_}; ///< the argument set true keeps the form open
+    Handler<> Unload{activity_};
+    Handler<> Resize{activity_};
+    Handler<const std::vector<std::string>&> FilesDropped{activity_}; ///< paths in the system's form, UTF-8
 
 protected:
     void changed(PropertyId id) override;
@@ -80,6 +95,7 @@ private:
     std::unique_ptr<ControlView> view_;
     bool loaded_ = false;
     bool shown_ = false;
+    bool companion_;
 };
 
 } // namespace quittika

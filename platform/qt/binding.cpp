@@ -93,7 +93,9 @@ constexpr Pair kPairs[] = {
     {"DirListBox", "QTreeView", is_a<QTreeView>, tie<DirListBox, QTreeView, DirectoryView>},
 };
 
-constexpr std::string_view kWithoutWidget = "Timer";
+bool needs_widget(const Control& control) {
+    return control.kind() != "Timer" && !control.data_only();
+}
 
 const Pair* pair_of(const Control& control, QObject& object) {
     for (const Pair& pair : kPairs) {
@@ -162,7 +164,12 @@ std::string finding(const Control& control, const QList<QObject*>& widgets) {
         return name + ": a " + widgets.front()->metaObject()->className() + " cannot show a " +
                std::string(control.kind()) + ", it needs a " + wanted_class(control);
     }
-    return {};
+    auto* widget = qobject_cast<QWidget*>(widgets.front());
+    if (widget == nullptr) {
+        return control.placing() == Placing::Layout ? "" : name + ": has a place, but no widget stands there";
+    }
+    const std::string place = place_finding(control, *widget);
+    return place.empty() ? "" : name + ": " + place;
 }
 
 /// Ties the controls that nothing shows yet; returns the names of those for which there is no widget.
@@ -170,7 +177,7 @@ std::vector<std::string> bind_missing(Form& form, QWidget& window) {
     std::vector<std::string> missing;
     const QMultiHash<QString, QObject*> parts = named_parts(form, window);
     for (Control* control : form.controls()) {
-        if (control->view() != nullptr || control->kind() == kWithoutWidget) {
+        if (control->view() != nullptr || !needs_widget(*control)) {
             continue;
         }
         QObject* object = parts.value(to_qt(control->name()));
@@ -212,9 +219,12 @@ std::vector<std::string> check_binding(Form& form, QWidget& window) {
         late->complete();
     }
     std::vector<std::string> findings;
+    if (form.Width() <= 0 || form.Height() <= 0) {
+        findings.push_back(form.name() + ": no size to start with");
+    }
     const QMultiHash<QString, QObject*> parts = named_parts(form, window);
     for (const Control* control : form.controls()) {
-        if (control->kind() == kWithoutWidget) {
+        if (!needs_widget(*control)) {
             continue;
         }
         std::string found = finding(*control, parts.values(to_qt(control->name())));
@@ -224,8 +234,8 @@ std::vector<std::string> check_binding(Form& form, QWidget& window) {
     }
     for (const QString& name : parts.uniqueKeys()) {
         const Control* control = form.find(from_qt(name));
-        if (control == nullptr || control->kind() == kWithoutWidget) {
-            findings.push_back(form.name() + "." + from_qt(name) + ": no control for this " +
+        if (control == nullptr || !needs_widget(*control)) {
+            findings.push_back(form.name() + "." + from_qt(name) + ": no control is shown by this " +
                                parts.value(name)->metaObject()->className());
         }
     }

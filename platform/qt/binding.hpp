@@ -16,8 +16,9 @@ void bind(Form& form, QWidget& window);
 /// Takes the views of all controls away.
 void unbind(Form& form);
 
-/// What is wrong between a form and its window: a control without a widget of its kind, or a named widget
-/// without a control. Empty when all is right. Names that begin with "ui_", "qt_" or "_q_" are helpers.
+/// What is wrong between a form and its window: a control without a widget of its kind, a named widget
+/// without a control that it shows, a place that the form gives and the design does not allow, a form without
+/// a size. Empty when all is right. Names that begin with "ui_", "qt_" or "_q_" are helpers.
 std::vector<std::string> check_binding(Form& form, QWidget& window);
 
 } // namespace quittika

@@ -33,7 +33,7 @@ template <class C, class W> void ButtonView<C, W>::clicked() {
     if (!this->widget_.hasFocus() && this->widget_.focusPolicy() != Qt::NoFocus) {
         this->widget_.setFocus(Qt::MouseFocusReason);
     }
-    guarded([this] { this->control_.user_click(); });
+    guarded(this->control_.form(), [this] { this->control_.user_click(); });
     push_value();
 }
 
@@ -140,7 +140,7 @@ void OptionButtonView::go(int step) {
     if (auto* view = dynamic_cast<WidgetView*>(next->view())) {
         view->focus();
     }
-    guarded([next] { next->user_click(); });
+    guarded(next->form(), [next] { next->user_click(); });
 }
 
 } // namespace quittika

@@ -18,8 +18,9 @@ DriveView::DriveView(DriveListBox& control, QComboBox& widget) : TypedView(contr
             widget.addItem(drive.rootPath());
         }
     }
-    connect(&widget, &QComboBox::activated, this,
-            [this](int row) { guarded([&] { control_.Path = path_from_qt(widget_.itemText(row)); }); });
+    connect(&widget, &QComboBox::activated, this, [this](int row) {
+        guarded(control_.form(), [&] { control_.Path = path_from_qt(widget_.itemText(row)); });
+    });
 }
 
 void DriveView::push(PropertyId id) {
@@ -40,7 +41,7 @@ DirectoryView::DirectoryView(DirListBox& control, QTreeView& widget) : TypedView
     connect(widget.selectionModel(), &QItemSelectionModel::currentChanged, this,
             [this](const QModelIndex& index) {
                 if (!pushing_ && index.isValid()) {
-                    guarded([&] { control_.Path = path_from_qt(model_.filePath(index)); });
+                    guarded(control_.form(), [&] { control_.Path = path_from_qt(model_.filePath(index)); });
                 }
             });
 }

@@ -1,6 +1,7 @@
 #include "platform/qt/form_window.hpp"
 
 #include "platform/forms/controls.hpp"
+#include "platform/forms/twips.hpp"
 #include "platform/qt/binding.hpp"
 #include "platform/qt/colors.hpp"
 #include "platform/qt/file_drop.hpp"
@@ -8,7 +9,7 @@
 #include "platform/qt/qt_desktop.hpp"
 #include "platform/qt/qt_text.hpp"
 #include "platform/qt/timer_view.hpp"
-#include "platform/qt/twips.hpp"
+#include "platform/qt/widget_place.hpp"
 #include "platform/qt/widget_view.hpp"
 #include "platform/qt/window_table.hpp"
 
@@ -109,9 +110,7 @@ void FormWindow::start() {
          {PropertyId::Caption, PropertyId::Modified, PropertyId::Enabled, PropertyId::BackColor}) {
         property_changed(id);
     }
-    const QSize own = window.size();
-    window.resize(form_.Width() > 0 ? pixels(form_.Width()) : own.width(),
-                  form_.Height() > 0 ? pixels(form_.Height()) : own.height());
+    window.resize(pixels(form_.Width()), pixels(form_.Height()));
     placed_ = form_.Left() != 0 || form_.Top() != 0;
     if (placed_) {
         push_place();
@@ -170,10 +169,10 @@ void FormWindow::take_place() {
     if (window_->windowState() & (Qt::WindowMinimized | Qt::WindowMaximized | Qt::WindowFullScreen)) {
         return; // the normal place is the one to come back to
     }
-    form_.Left.adopt(twips(window_->x()));
-    form_.Top.adopt(twips(window_->y()));
-    form_.Width.adopt(twips(window_->width()));
-    form_.Height.adopt(twips(window_->height()));
+    take_pixels(form_.Left, window_->x());
+    take_pixels(form_.Top, window_->y());
+    take_pixels(form_.Width, window_->width());
+    take_pixels(form_.Height, window_->height());
 }
 
 void FormWindow::take_state() {
@@ -183,16 +182,24 @@ void FormWindow::take_state() {
                                                                   : kNormal);
 }
 
+Qt::WindowFlags FormWindow::flags_in_front(bool modal) const {
+    const Qt::WindowFlags hints = window_->windowFlags() & ~Qt::WindowType_Mask;
+    if (form_.companion() && !modal) {
+        return Qt::Tool | (hints & ~Qt::WindowMinimizeButtonHint); // off the task bar nobody finds it again
+    }
+    const Qt::WindowFlags buttons =
+        qobject_cast<QDialog*>(window_) ? Qt::WindowFlags() : Qt::WindowMinMaxButtonsHint;
+    return Qt::Dialog | hints | buttons;
+}
+
 void FormWindow::bring_in_front_of(QWidget* parent, bool modal) {
     if (parent == window_ || is_splash(*window_)) {
         parent = nullptr;
     }
     if (window_->parentWidget() != parent) {
-        const Qt::WindowFlags hints = window_->windowFlags() & ~Qt::WindowType_Mask;
-        const Qt::WindowFlags buttons =
-            qobject_cast<QDialog*>(window_) ? Qt::WindowFlags() : Qt::WindowMinMaxButtonsHint;
+        const Qt::WindowFlags alone = Qt::Window | (window_->windowFlags() & ~Qt::WindowType_Mask);
         const QPoint place = window_->pos();
-        window_->setParent(parent, parent == nullptr ? Qt::Window | hints : Qt::Dialog | hints | buttons);
+        window_->setParent(parent, parent == nullptr ? alone : flags_in_front(modal));
         if (placed_) {
             window_->move(place);
         }
@@ -217,7 +224,7 @@ void FormWindow::show(Modality modality) {
         window_->show();
         listen_for_files();
     }
-    raise();
+    activate();
     if (modal && waiting_ == nullptr) {
         wait();
     }
@@ -233,8 +240,8 @@ void FormWindow::listen_for_files() {
         return window_->isEnabled() && (modal == nullptr || modal == window_);
     };
     file_drop_ = std::make_unique<FileDrop>(*shown, is_ready, [this](const FileDrop::Paths& paths) {
-        raise();
-        guarded([&] { form_.FilesDropped(paths); });
+        activate();
+        guarded(form_, [&] { form_.FilesDropped(paths); });
     });
 }
 
@@ -268,6 +275,16 @@ void FormWindow::hide() {
 }
 
 void FormWindow::raise() {
+    const QWidget* modal = QApplication::activeModalWidget();
+    const bool blocked = modal != nullptr && modal != window_ && !modal->isAncestorOf(window_);
+    // A menu that drops down would be covered, too.
+    if (window_ != nullptr && window_->isVisible() && !window_->isMinimized() && !blocked &&
+        QApplication::activePopupWidget() == nullptr) {
+        window_->raise();
+    }
+}
+
+void FormWindow::activate() {
     if (window_ != nullptr && window_->isVisible()) {
         if (window_->isMinimized() && form_.WindowState() != kMinimised) {
             window_->setWindowState(window_->windowState() & ~Qt::WindowMinimized);
@@ -299,7 +316,7 @@ void FormWindow::update_timers() {
 
 bool FormWindow::asked_to_close() {
     bool closed = false;
-    guarded([&] { closed = form_.Close(); });
+    guarded(form_, [&] { closed = form_.Close(); });
     update_timers();
     if (closed) {
         desktop_.window_closed();
@@ -326,7 +343,7 @@ bool FormWindow::eventFilter(QObject* /*watched*/, QEvent* event) {
     case QEvent::Resize:
         take_place();
         if (event->type() == QEvent::Resize && form_.shown() && form_.Resize) {
-            guarded(form_.Resize);
+            guarded(form_, [this] { form_.Resize(); });
         }
         return false;
     case QEvent::WindowStateChange:

@@ -36,7 +36,9 @@ public:
     void show(Modality modality);
     /// Takes the window away and ends a modal wait for it.
     void hide();
+    /// Brings the window to the front; `activate` gives it the focus, too.
     void raise();
+    void activate();
     void focus(Control& control);
     /// Tells the desktop where the window stands, if it is open.
     void note_place();
@@ -50,6 +52,7 @@ private:
     void start();
     void push_place();
     void push_state();
+    Qt::WindowFlags flags_in_front(bool modal) const;
     void bring_in_front_of(QWidget* parent, bool modal);
     void wait();
     void listen_for_files();

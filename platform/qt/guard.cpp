@@ -1,5 +1,6 @@
 #include "platform/qt/guard.hpp"
 
+#include "platform/forms/form.hpp"
 #include "platform/laufzeitfehler.hpp"
 #include "platform/qt/message_box.hpp"
 
@@ -37,6 +38,11 @@ bool guarded(const std::function<void()>& work) {
         report(std::string("Unerwarteter Fehler:\n\n") + error.what());
     }
     return false;
+}
+
+bool guarded(Form& form, const std::function<void()>& work) {
+    const Activity::Hold here(form.activity());
+    return guarded(work);
 }
 
 } // namespace quittika

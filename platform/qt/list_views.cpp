@@ -52,7 +52,7 @@ ListBoxView::ListBoxView(ListBox& control, QListView& widget)
     connect(&widget, &QListView::clicked, this, [this](const QModelIndex& index) { take(index.row()); });
     connect(&widget, &QListView::doubleClicked, this, [this] {
         if (control_.DblClick) {
-            guarded(control_.DblClick);
+            guarded(control_.form(), [this] { control_.DblClick(); });
         }
     });
 }
@@ -65,7 +65,7 @@ int ListBoxView::selected_row() const {
 void ListBoxView::take(int row) {
     reload();
     if (row < control_.ListCount()) {
-        guarded([this, row] { control_.user_select(row); });
+        guarded(control_.form(), [this, row] { control_.user_select(row); });
     }
     push_index();
 }
@@ -171,13 +171,13 @@ ComboBoxView::ComboBoxView(ComboBox& control, QComboBox& widget) : TypedView(con
     widget.setInsertPolicy(QComboBox::NoInsert);
     connect(&widget, &QComboBox::activated, this, [this](int row) {
         if (row < control_.ListCount()) {
-            guarded([this, row] { control_.user_select(row); });
+            guarded(control_.form(), [this, row] { control_.user_select(row); });
         }
         push_choice();
     });
     connect(&widget, &QComboBox::editTextChanged, this, [this](const QString& text) {
         if (!pushing_) {
-            guarded([&] { control_.Text = from_qt(text); });
+            guarded(control_.form(), [&] { control_.Text = from_qt(text); });
         }
     });
 }

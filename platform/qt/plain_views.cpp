@@ -103,7 +103,7 @@ void PictureView::paint() {
 TabView::TabView(SSTab& control, QTabWidget& widget) : TypedView(control, widget) {
     connect(&widget, &QTabWidget::currentChanged, this, [this](int page) {
         if (page >= 0 && page != control_.Tab()) {
-            guarded([this, page] { control_.Tab = page; });
+            guarded(control_.form(), [this, page] { control_.Tab = page; });
         }
     });
 }
@@ -115,7 +115,8 @@ void TabView::push(PropertyId id) {
 }
 
 MenuView::MenuView(Menu& control, QAction& action) : control_(control), action_(action) {
-    connect(&action, &QAction::triggered, this, [this] { guarded([this] { control_.user_click(); }); });
+    connect(&action, &QAction::triggered, this,
+            [this] { guarded(control_.form(), [this] { control_.user_click(); }); });
     for (const PropertyId id : {PropertyId::Caption, PropertyId::Enabled, PropertyId::Visible}) {
         property_changed(id);
     }

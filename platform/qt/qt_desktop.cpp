@@ -1,9 +1,10 @@
 #include "platform/qt/qt_desktop.hpp"
 
+#include "platform/forms/twips.hpp"
 #include "platform/qt/binding.hpp"
 #include "platform/qt/form_window.hpp"
 #include "platform/qt/guard.hpp"
-#include "platform/qt/twips.hpp"
+#include "platform/qt/widget_place.hpp"
 
 #include <QApplication>
 #include <QMainWindow>
@@ -41,17 +42,15 @@ void QtDesktop::adopt(Form& form) {
 }
 
 void QtDesktop::restore_place(Form& form) const {
-    const auto wanted = places_ ? places_->find(form.name()) : std::nullopt;
-    if (!wanted) {
-        return;
-    }
+    const auto remembered = places_ ? places_->find(form.name()) : std::nullopt;
+    const WindowPlace designed{QSize(pixels(form.Width()), pixels(form.Height())), std::nullopt};
     QList<QRect> screens{QApplication::primaryScreen()->availableGeometry()};
     for (const QScreen* screen : QApplication::screens()) {
         screens.append(screen->availableGeometry());
     }
-    const WindowPlace place = fitted(*wanted, screens);
-    form.Width.adopt(twips(place.size.width()));
-    form.Height.adopt(twips(place.size.height()));
+    const WindowPlace place = fitted(remembered.value_or(designed), screens);
+    take_pixels(form.Width, place.size.width());
+    take_pixels(form.Height, place.size.height());
     if (place.place) {
         form.Left.adopt(twips(place.place->x()));
         form.Top.adopt(twips(place.place->y()));

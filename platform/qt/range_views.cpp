@@ -9,7 +9,7 @@ namespace quittika {
 RangeView::RangeView(RangeControl& control, QAbstractSlider& widget) : TypedView(control, widget) {
     connect(&widget, &QAbstractSlider::valueChanged, this, [this](int value) {
         if (!pushing_) {
-            guarded([this, value] { control_.Value = value; });
+            guarded(control_.form(), [this, value] { control_.Value = value; });
             push_all();
         }
     });

@@ -153,7 +153,8 @@ template <class W> void TextView<W>::push_selection() {
 
 template <class W> void TextView<W>::take_text() {
     if (!pushing_ && holds_all_) {
-        guarded([this] { this->control_.Text = lines_from_qt(text_of(this->widget_)); });
+        guarded(this->control_.form(),
+                [this] { this->control_.Text = lines_from_qt(text_of(this->widget_)); });
     }
 }
 

@@ -31,7 +31,7 @@ void TimerView::tick() {
         return;
     }
     ticking_ = true;
-    guarded(control_.Tick);
+    guarded(control_.form(), [this] { control_.Tick(); });
     ticking_ = false;
 }
 

@@ -1,13 +1,12 @@
 #include "platform/qt/widget_view.hpp"
 
+#include "platform/forms/twips.hpp"
 #include "platform/qt/guard.hpp"
 #include "platform/qt/qt_text.hpp"
-#include "platform/qt/twips.hpp"
 
 #include <QAbstractScrollArea>
 #include <QDropEvent>
 #include <QFocusEvent>
-#include <QLayout>
 #include <QMimeData>
 #include <QMouseEvent>
 #include <QStackedWidget>
@@ -39,30 +38,16 @@ MouseButton button_of(Qt::MouseButton button) {
     }
 }
 
-MouseEvent to_desktop(const QMouseEvent& event) {
+/// `rounding`: twips from the control's exact place to that of its widget.
+MouseEvent to_desktop(const QMouseEvent& event, QPoint rounding) {
     Qt::MouseButton button = event.button();
     if (event.type() == QEvent::MouseMove) {
         button = event.buttons().testFlag(Qt::LeftButton)    ? Qt::LeftButton
                  : event.buttons().testFlag(Qt::RightButton) ? Qt::RightButton
                                                              : Qt::NoButton;
     }
-    const QPoint place = event.position().toPoint();
-    return {button_of(button), twips(place.x()), twips(place.y())};
-}
-
-bool within(const QLayout& layout, const QWidget& widget) {
-    for (int i = 0; i < layout.count(); ++i) {
-        QLayoutItem* item = layout.itemAt(i);
-        if (item->widget() == &widget || (item->layout() != nullptr && within(*item->layout(), widget))) {
-            return true;
-        }
-    }
-    return false;
-}
-
-bool in_layout(const QWidget& widget) {
-    const QWidget* parent = widget.parentWidget();
-    return parent != nullptr && parent->layout() != nullptr && within(*parent->layout(), widget);
+    const QPointF place = event.position();
+    return {button_of(button), twips(place.x()) + rounding.x(), twips(place.y()) + rounding.y()};
 }
 
 bool explicitly_hidden(const QWidget& widget) {
@@ -137,10 +122,8 @@ void WidgetView::push_common_start() {
     if (!control_.ToolTipText().empty()) {
         push_tool_tip();
     }
-    for (const Property<int>* place : {&control_.Left, &control_.Top, &control_.Width, &control_.Height}) {
-        if ((*place)() != 0) {
-            push_geometry(place->id());
-        }
+    if (control_.placing() != Placing::Layout) {
+        place_ = std::make_unique<WidgetPlace>(control_, widget_);
     }
 }
 
@@ -161,7 +144,7 @@ void WidgetView::property_changed(PropertyId id) {
     case PropertyId::Top:
     case PropertyId::Width:
     case PropertyId::Height:
-        return push_geometry(id);
+        return place_->push();
     default:
         return push(id);
     }
@@ -199,32 +182,16 @@ void WidgetView::push_tool_tip() {
     widget_.setToolTip(tool_tip(control_.ToolTipText()));
 }
 
-void WidgetView::push_geometry(PropertyId id) {
-    if (in_layout(widget_)) {
-        return; // the layout knows the place
-    }
-    switch (id) {
-    case PropertyId::Left:
-        return widget_.move(pixels(control_.Left()), widget_.y());
-    case PropertyId::Top:
-        return widget_.move(widget_.x(), pixels(control_.Top()));
-    case PropertyId::Width:
-        return widget_.resize(pixels(control_.Width()), widget_.height());
-    default:
-        return widget_.resize(widget_.width(), pixels(control_.Height()));
-    }
-}
-
 bool WidgetView::eventFilter(QObject* /*watched*/, QEvent* event) {
     switch (event->type()) {
     case QEvent::FocusIn:
         if (control_.GotFocus && moves_in_window(static_cast<QFocusEvent&>(*event))) {
-            guarded(control_.GotFocus);
+            guarded(control_.form(), [this] { control_.GotFocus(); });
         }
         return false;
     case QEvent::FocusOut:
         if (control_.LostFocus && moves_in_window(static_cast<QFocusEvent&>(*event))) {
-            guarded(control_.LostFocus);
+            guarded(control_.form(), [this] { control_.LostFocus(); });
         }
         return false;
     case QEvent::KeyPress: {
@@ -234,7 +201,7 @@ bool WidgetView::eventFilter(QObject* /*watched*/, QEvent* event) {
         }
         const int code = control_.KeyDown ? desktop_key_code(key.key()) : 0;
         if (code != 0) {
-            guarded([&] { control_.KeyDown(code); });
+            guarded(control_.form(), [&] { control_.KeyDown(code); });
         }
         return key_pressed(key);
     }
@@ -258,10 +225,11 @@ bool WidgetView::hears_mouse() const {
 }
 
 bool WidgetView::mouse(const QEvent& event) {
-    const MouseEvent at = to_desktop(static_cast<const QMouseEvent&>(event));
+    const auto& given = static_cast<const QMouseEvent&>(event);
+    const MouseEvent at = to_desktop(given, place_ == nullptr ? QPoint() : place_->rounding());
     const auto fire = [&](const Control::Mouse& handler) {
         if (handler) {
-            guarded([&] { handler(at); });
+            guarded(control_.form(), [&] { handler(at); });
         }
     };
     // What is not taken here goes on to the widget, and from labels and frames to what lies beneath.
@@ -276,20 +244,19 @@ bool WidgetView::mouse(const QEvent& event) {
     case QEvent::MouseButtonDblClick:
         fire(control_.MouseDown);
         if (control_.DblClick && clicks() != Clicks::Own && at.button == MouseButton::Left) {
-            guarded(control_.DblClick);
+            guarded(control_.form(), [this] { control_.DblClick(); });
         }
         return taken;
     default:
         fire(control_.MouseUp);
-        release(at);
+        release(at.button, given.position().toPoint());
         return taken;
     }
 }
 
-void WidgetView::release(const MouseEvent& event) {
-    const QPoint place(pixels(event.x), pixels(event.y));
-    if (event.button == MouseButton::Left && clicks() != Clicks::Own && surface().rect().contains(place)) {
-        guarded([this] { control_.user_click(); });
+void WidgetView::release(MouseButton button, QPoint place) {
+    if (button == MouseButton::Left && clicks() != Clicks::Own && surface().rect().contains(place)) {
+        guarded(control_.form(), [this] { control_.user_click(); });
     }
 }
 
@@ -301,7 +268,7 @@ bool WidgetView::drop(QEvent& event) {
     given.acceptProposedAction();
     if (event.type() == QEvent::Drop) {
         const std::string text = from_qt(given.mimeData()->text());
-        guarded([&] { control_.OLEDragDrop(text); });
+        guarded(control_.form(), [&] { control_.OLEDragDrop(text); });
     }
     return true;
 }

@@ -2,6 +2,7 @@
 
 #include "platform/forms/controls.hpp"
 #include "platform/qt/colors.hpp"
+#include "platform/qt/widget_place.hpp"
 
 #include <QObject>
 
@@ -57,16 +58,16 @@ private:
     void push_colors();
     void push_bold();
     void push_tool_tip();
-    void push_geometry(PropertyId id);
     void push_common_start();
     bool mouse(const QEvent& event);
-    void release(const MouseEvent& event);
+    void release(MouseButton button, QPoint place);
     bool drop(QEvent& event);
     bool hears_mouse() const;
 
     Control& control_;
     QWidget& widget_;
     WidgetColors colors_;
+    std::unique_ptr<WidgetPlace> place_; ///< where the program cares for it
 };
 
 /// A view that knows the exact types of its two sides.

@@ -84,7 +84,7 @@ void ScriptDesktop::forget_window(const Form& form) {
 
 void ScriptDesktop::raise(Form& form) {
     const auto found = position(windows_, form);
-    if (found != windows_.end()) {
+    if (found != windows_.end() && blocker(form) == nullptr) {
         std::rotate(found, found + 1, windows_.end());
     }
 }
@@ -103,21 +103,21 @@ void ScriptDesktop::set_focus(Control& control) {
     }
     focus_ = &control;
     focus_form_ = &control.form();
-    fire_event(control.GotFocus);
+    control.GotFocus();
 }
 
 void ScriptDesktop::drop_focus() {
     Control* const former = std::exchange(focus_, nullptr);
     focus_form_ = nullptr;
     if (former != nullptr) {
-        fire_event(former->LostFocus);
+        former->LostFocus();
     }
 }
 
 Form* ScriptDesktop::find(std::string_view name) const {
-    const auto found =
-        std::find_if(forms_.begin(), forms_.end(), [name](const Form* form) { return form->name() == name; });
-    return found == forms_.end() ? nullptr : *found;
+    const auto found = std::find_if(forms_.rbegin(), forms_.rend(),
+                                    [name](const Form* form) { return form->name() == name; });
+    return found == forms_.rend() ? nullptr : *found;
 }
 
 std::vector<Form*> ScriptDesktop::windows() const {

@@ -37,7 +37,7 @@ public:
 
     /// All known forms, open or not, in the order of their adoption.
     const std::vector<Form*>& forms() const { return forms_; }
-    /// The known form of that name, or null.
+    /// The known form of that name, the youngest if there are several, or null.
     Form* find(std::string_view name) const;
     /// The open windows, the one in front last.
     std::vector<Form*> windows() const;

@@ -103,7 +103,7 @@ void ScriptTimers::tick(Timer& timer) {
         ~Ticking() { flag_ = false; }
         bool& flag_;
     } const under_way(entry->ticking);
-    fire_event(timer.Tick);
+    timer.Tick();
 }
 
 } // namespace quittika

@@ -46,6 +46,17 @@ template <class List> void choose(List& list, int index) {
 
 } // namespace
 
+/// A deed of the user on a control that he can reach; the control stays until the deed is done.
+class User::Deed {
+public:
+    Deed(const ScriptDesktop& desktop, const Control& control) : here_(control.form().activity()) {
+        lookup::require_reachable(desktop, control);
+    }
+
+private:
+    Activity::Hold here_;
+};
+
 void User::require_reachable(const Control& control) const {
     lookup::require_reachable(desktop_, control);
 }
@@ -58,7 +69,7 @@ void User::focus(Control& control) {
 }
 
 void User::set(Control& control, const std::string& value) {
-    require_reachable(control);
+    const Deed deed(desktop_, control);
     const std::function<void()> give = user_values::setter(control, value);
     focus(control);
     give();
@@ -68,7 +79,7 @@ void User::set(Control& control, const std::string& value) {
 }
 
 void User::type(Control& control, const std::string& text) {
-    require_reachable(control);
+    const Deed deed(desktop_, control);
     const auto append = user_values::typist(control);
     focus(control);
     for (std::size_t at = 0; at < text.size();) {
@@ -89,20 +100,21 @@ void User::press(Control& control) {
 }
 
 void User::click(Control& control) {
-    require_reachable(control);
+    const Deed deed(desktop_, control);
     focus(control);
     press(control);
 }
 
 void User::dblclick(Control& control) {
+    const Deed deed(desktop_, control);
     click(control);
     if (control.form().shown()) {
-        fire_event(control.DblClick);
+        control.DblClick();
     }
 }
 
 void User::select(Control& control, int index) {
-    require_reachable(control);
+    const Deed deed(desktop_, control);
     if (auto* const list = dynamic_cast<ListBox*>(&control)) {
         require_item(*list, index);
         focus(control);
@@ -117,9 +129,9 @@ void User::select(Control& control, int index) {
 }
 
 void User::key(Control& control, int code) {
-    require_reachable(control);
+    const Deed deed(desktop_, control);
     focus(control);
-    fire_event(control.KeyDown, code);
+    control.KeyDown(code);
 }
 
 void User::mouse(Control& control, const std::string& action, const MouseEvent& event) {
@@ -139,12 +151,12 @@ void User::mouse(Control& control, const std::string& action, const MouseEvent& 
     if (found->needs_button && event.button == MouseButton::None) {
         throw CommandError("Zu " + action + " gehört eine Maustaste");
     }
-    require_reachable(control);
-    fire_event(control.*(found->handler), event);
+    const Deed deed(desktop_, control);
+    (control.*(found->handler))(event);
 }
 
 void User::drop(Control& control, const std::string& text) {
-    require_reachable(control);
+    const Deed deed(desktop_, control);
     if (!control.OLEDragDrop) {
         throw CommandError(lookup::full_name(control) + " nimmt nichts an");
     }

@@ -28,6 +28,7 @@ public:
     void drop(Form& form, const std::string& files);
 
 private:
+    class Deed;
     void require_reachable(const Control& control) const;
     void focus(Control& control);
     void press(Control& control);

@@ -35,7 +35,7 @@ template <class W> W* add(QWidget& parent, const char* name) {
 
 } // namespace
 
-AllKinds::AllKinds() : Form("AllKinds", "All kinds") {
+AllKinds::AllKinds() : Form("AllKinds", "All kinds", {.width = 9000, .height = 9000}) {
     First.Value.adopt(true);
     const auto note = [this](const Control& control, const char* event) {
         return [this, &control, event] { log += control.name() + "." + event + " "; };

@@ -1,0 +1,67 @@
+#pragma once
+
+#include <concepts>
+#include <functional>
+#include <utility>
+
+namespace quittika {
+
+/// Counts what runs on behalf of a window: its handlers, and a toolkit's code around them. Whoever destroys
+/// the window waits for the end of all of it.
+class Activity {
+public:
+    Activity() = default;
+    Activity(const Activity&) = delete;
+    Activity& operator=(const Activity&) = delete;
+
+    /// Something under way, as long as this lives.
+    class Hold {
+    public:
+        explicit Hold(Activity& activity) : activity_(activity) { ++activity_.count_; }
+        Hold(const Hold&) = delete;
+        Hold& operator=(const Hold&) = delete;
+        ~Hold() {
+            if (--activity_.count_ == 0 && activity_.notify_) {
+                activity_.notify_();
+            }
+        }
+
+    private:
+        Activity& activity_;
+    };
+
+    bool idle() const { return count_ == 0; }
+    /// `notify` is called whenever everything has come to its end. It may not destroy the window itself.
+    void when_idle(std::function<void()> notify) { notify_ = std::move(notify); }
+
+private:
+    int count_ = 0;
+    std::function<void()> notify_;
+};
+
+/// What the program does when something happens to a control or form. Empty at first: nothing.
+template <class... Args> class Handler {
+public:
+    explicit Handler(Activity& activity) : activity_(activity) {}
+    Handler(const Handler&) = delete;
+    Handler& operator=(const Handler&) = delete;
+
+    template <std::invocable<Args...> Routine> Handler& operator=(Routine&& routine) {
+        routine_ = std::forward<Routine>(routine);
+        return *this;
+    }
+    explicit operator bool() const { return static_cast<bool>(routine_); }
+
+    void operator()(Args... args) const {
+        if (routine_) {
+            const Activity::Hold running(activity_);
+            routine_(std::forward<Args>(args)...);
+        }
+    }
+
+private:
+    Activity& activity_;
+    std::function<void(Args...)> routine_;
+};
+
+} // namespace quittika
