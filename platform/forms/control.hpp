@@ -100,17 +100,17 @@ public:
     Property<int> Width{*this, PropertyId::Width, 0};
     Property<int> Height{*this, PropertyId::Height, 0};
 
-    using Event = Handler<>;
-    using Mouse = Handler<const MouseEvent&>;
-    Event Click{activity_};
-    Event DblClick{activity_};
-    Event GotFocus{activity_};
-    Event LostFocus{activity_};
-    Event Resize{activity_};         ///< the window has given the control another size
+    using Event = std::function<void()>; ///< what a handler of the plain kind takes
+    using MouseHandler = Handler<const MouseEvent&>;
+    Handler<> Click{activity_};
+    Handler<> DblClick{activity_};
+    Handler<> GotFocus{activity_};
+    Handler<> LostFocus{activity_};
+    Handler<> Resize{activity_};     ///< the window has given the control another size
     Handler<int> KeyDown{activity_}; ///< key code
-    Mouse MouseDown{activity_};
-    Mouse MouseMove{activity_};
-    Mouse MouseUp{activity_};
+    MouseHandler MouseDown{activity_};
+    MouseHandler MouseMove{activity_};
+    MouseHandler MouseUp{activity_};
     Handler<const std::string&> OLEDragDrop{activity_}; ///< dropped text
 
     /// What a user's click does to this control.

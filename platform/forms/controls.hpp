@@ -78,7 +78,7 @@ public:
     /// Marks the whole text.
     void select_all();
 
-    Event Change{activity_};
+    Handler<> Change{activity_};
 
 protected:
     void fire_for(PropertyId id) override;
@@ -145,7 +145,7 @@ public:
     /// A user's click on an item: fires `Click` even where it was selected already.
     void user_select(int index);
 
-    Event Changed{activity_}; ///< after items or selection have changed, whoever changed them
+    Handler<> Changed{activity_}; ///< after items or selection have changed, whoever changed them
 
 protected:
     void check(PropertyId id, std::int64_t value) const override;
@@ -176,7 +176,7 @@ public:
     void Clear();
     void user_select(int index);
 
-    Event Change{activity_};
+    Handler<> Change{activity_};
 
 protected:
     void check(PropertyId id, std::int64_t value) const override;
@@ -197,7 +197,7 @@ public:
     Property<int> Max;
     Property<int> Value;
 
-    Event Change{activity_};
+    Handler<> Change{activity_};
 
 protected:
     void check(PropertyId id, std::int64_t value) const override;
@@ -240,7 +240,7 @@ public:
     bool running() const { return Enabled() && Interval() > 0 && form().loaded(); }
 
     Property<int> Interval; ///< ms
-    Event Tick{activity_};
+    Handler<> Tick{activity_};
 };
 
 class Menu final : public Control {
@@ -276,7 +276,7 @@ public:
     std::string_view kind() const override { return "DriveListBox"; }
     std::string main_value() const override { return Path(); }
     Property<std::string> Path{*this, PropertyId::Path}; ///< root of the chosen drive
-    Event Change{activity_};
+    Handler<> Change{activity_};
 
 protected:
     void fire_for(PropertyId id) override;
@@ -288,7 +288,7 @@ public:
     std::string_view kind() const override { return "DirListBox"; }
     std::string main_value() const override { return Path(); }
     Property<std::string> Path{*this, PropertyId::Path}; ///< chosen directory
-    Event Change{activity_};
+    Handler<> Change{activity_};
 
 protected:
     void fire_for(PropertyId id) override;

@@ -227,7 +227,7 @@ bool WidgetView::hears_mouse() const {
 bool WidgetView::mouse(const QEvent& event) {
     const auto& given = static_cast<const QMouseEvent&>(event);
     const MouseEvent at = to_desktop(given, place_ == nullptr ? QPoint() : place_->rounding());
-    const auto fire = [&](const Control::Mouse& handler) {
+    const auto fire = [&](const Control::MouseHandler& handler) {
         if (handler) {
             guarded(control_.form(), [&] { handler(at); });
         }

@@ -137,7 +137,7 @@ void User::key(Control& control, int code) {
 void User::mouse(Control& control, const std::string& action, const MouseEvent& event) {
     struct Action {
         std::string_view name;
-        Control::Mouse Control::*handler;
+        Control::MouseHandler Control::*handler;
         bool needs_button;
     };
     static constexpr std::array<Action, 3> kActions{{{"down", &Control::MouseDown, true},
