@@ -3,6 +3,8 @@
 #include "platform/qt/guard.hpp"
 #include "platform/qt/qt_text.hpp"
 #include "platform/qt/widgets/backdrop.hpp"
+#include "platform/qt/widgets/theme.hpp"
+#include "platform/qt/widgets/tint.hpp"
 #include "platform/verzeichnis.hpp"
 
 #include <QGroupBox>
@@ -87,15 +89,17 @@ void PictureView::paint() {
         return;
     }
     if (scaled_.size() != size) {
-        scaled_ = picture_.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+        QImage shown = picture_.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation).toImage();
+        const bool off_paper = control_.kind() == "Image" && theme::dark() && theme::is_on_paper(shown);
+        scaled_ = QPixmap::fromImage(off_paper ? theme::for_dark_ground(shown) : shown);
         scaled_.setDevicePixelRatio(ratio);
     }
     const auto* label = qobject_cast<const QLabel*>(&widget_);
     const QRect place =
         QStyle::alignedRect(widget_.layoutDirection(), label ? label->alignment() : Qt::AlignCenter,
                             (QSizeF(size) / ratio).toSize(), room);
-    if (scaled_.hasAlpha()) {
-        painter.fillRect(place, Qt::white); // the ground is paper, whatever the window's colours are
+    if (scaled_.hasAlpha() && control_.kind() == "PictureBox") {
+        painter.fillRect(place, Qt::white); // what the picture will be printed on
     }
     painter.drawPixmap(place, scaled_);
 }

@@ -31,7 +31,8 @@ protected:
     Clicks clicks() const override { return Clicks::Taken; }
 };
 
-/// Image or picture box: the picture fills the widget as far as its proportions allow.
+/// Image or picture box: the picture fills the widget as far as its proportions allow. On a dark desktop an
+/// image that is drawn on white paper is shown without the paper; a picture box shows it as it is.
 class PictureView final : public TypedView<Control, QWidget> {
 public:
     PictureView(Control& control, QWidget& widget);

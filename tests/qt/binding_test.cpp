@@ -23,6 +23,10 @@ namespace quittika::test {
 
 namespace {
 
+QPalette dark_palette() {
+    return {QColor(49, 54, 59), QColor(42, 46, 50)};
+}
+
 struct Pushed {
     const char* what;
     void (*set)(AllKinds&);
@@ -279,7 +283,7 @@ TEST(Colours, FrameLeavesTheFieldsInsideTheirGround) {
 }
 
 TEST(Colours, LightOnesOnlyTingeADarkDesktop) {
-    const DesktopLook dark(9, QPalette(QColor(49, 54, 59), QColor(42, 46, 50)));
+    const DesktopLook dark(9, dark_palette());
     const QColor button = QApplication::palette().color(QPalette::Button);
     Bound bound;
     const auto ground = [&](const char* name, QPalette::ColorRole role, Color color) {
@@ -358,6 +362,26 @@ TEST(Pictures, KeepTheirProportionsAndMissingOnesAreEmpty) {
     EXPECT_EQ(at(40, 15), ground);
     bound.form.Picture.Picture = folder.filePath("fehlt.bmp").toStdString();
     EXPECT_EQ(at(40, 40), ground);
+}
+
+TEST(Pictures, LeaveTheirPaperOnADarkDesktop) {
+    const DesktopLook dark(9, dark_palette());
+    QTemporaryDir folder;
+    QImage drawing(60, 60, QImage::Format_RGB32);
+    drawing.fill(Qt::white);
+    for (int i = 0; i < 400; ++i) {
+        drawing.setPixel(20 + i % 20, 20 + i / 20, qRgb(30, 58, 95));
+    }
+    ASSERT_TRUE(drawing.save(folder.filePath("logo.bmp")));
+    Bound bound;
+    auto& label = bound.widget<QLabel>("Picture");
+    label.setFixedSize(60, 60);
+    const auto lightness = [&](int x, int y) {
+        return QColor(label.grab().toImage().pixel(x, y)).lightness();
+    };
+    bound.form.Picture.Picture = folder.filePath("logo.bmp").toStdString();
+    EXPECT_LT(lightness(5, 5), 80) << "no white box";
+    EXPECT_GT(lightness(30, 30), 110) << "a dark drawing can be seen";
 }
 
 TEST(CheckBinding, TellsWhatIsWrong) {

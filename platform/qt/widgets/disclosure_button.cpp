@@ -1,5 +1,7 @@
 #include "platform/qt/widgets/disclosure_button.hpp"
 
+#include "platform/qt/widgets/theme.hpp"
+
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QStyleOptionToolButton>
@@ -7,11 +9,17 @@
 
 namespace quittika {
 
+namespace {
+
+constexpr int kArrow = 10; ///< pixels
+
+} // namespace
+
 DisclosureButton::DisclosureButton(QWidget* parent) : QToolButton(parent) {
     setCheckable(true);
     setAutoRaise(true);
     setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    setIconSize({10, 10});
+    setIconSize({theme::scaled(kArrow), theme::scaled(kArrow)});
     show_state(false);
     connect(this, &QToolButton::toggled, this, &DisclosureButton::show_state);
 }

@@ -1,17 +1,16 @@
 #include "platform/qt/widgets/dress.hpp"
 
 #include "platform/qt/widgets/theme.hpp"
+#include "platform/qt/widgets/tint.hpp"
 
 #include <QAbstractButton>
 #include <QAction>
 #include <QFont>
 #include <QIcon>
-#include <QImage>
+#include <QLayout>
 #include <QPixmap>
 #include <QScreen>
 #include <QWidget>
-
-#include <algorithm>
 
 namespace quittika::theme {
 
@@ -39,6 +38,17 @@ void grow(QWidget& widget, double factor) {
     }
 }
 
+/// Room that is left free between the parts of a layout.
+void grow(QLayout& layout, double factor) {
+    for (int i = 0; i < layout.count(); ++i) {
+        QSpacerItem* gap = layout.itemAt(i)->spacerItem();
+        if (gap != nullptr && gap->sizePolicy().horizontalPolicy() == QSizePolicy::Fixed) {
+            gap->changeSize(grown(gap->sizeHint().width(), factor), gap->sizeHint().height(),
+                            QSizePolicy::Fixed, gap->sizePolicy().verticalPolicy());
+        }
+    }
+}
+
 void fit_to_text(QWidget& window) {
     const double factor = scale();
     if (factor <= 1.0) {
@@ -47,29 +57,18 @@ void fit_to_text(QWidget& window) {
     for (QWidget* widget : window.findChildren<QWidget*>()) {
         grow(*widget, factor);
     }
+    for (QLayout* layout : window.findChildren<QLayout*>()) {
+        grow(*layout, factor);
+    }
     grow(window, factor);
     const QSize room = window.screen()->availableSize();
     window.resize((window.size() * factor).boundedTo(room));
 }
 
-/// The same picture, half as far from white.
-QPixmap lighter(const QPixmap& picture) {
-    QImage image = picture.toImage().convertToFormat(QImage::Format_ARGB32);
-    const auto half_way = [](int part) { return (part + 255) / 2; };
-    for (int y = 0; y < image.height(); ++y) {
-        auto* line = reinterpret_cast<QRgb*>(image.scanLine(y));
-        std::transform(line, line + image.width(), line, [&](QRgb pixel) {
-            return qRgba(half_way(qRed(pixel)), half_way(qGreen(pixel)), half_way(qBlue(pixel)),
-                         qAlpha(pixel));
-        });
-    }
-    return QPixmap::fromImage(image);
-}
-
 QIcon lighter(const QIcon& icon) {
     QIcon result;
     for (const QSize& size : icon.availableSizes()) {
-        result.addPixmap(lighter(icon.pixmap(size, 1.0)));
+        result.addPixmap(QPixmap::fromImage(theme::lighter(icon.pixmap(size, 1.0).toImage())));
     }
     return result;
 }

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QImage>
+
+namespace quittika::theme {
+
+/// The same picture, half as far from white; what is transparent stays so.
+QImage lighter(const QImage& picture);
+
+/// Whether a picture is drawn on white paper or on nothing: all four corners say so.
+bool is_on_paper(const QImage& picture);
+
+/// A picture that is drawn on paper, for a dark ground: the paper lets it through, and the drawing is light.
+QImage for_dark_ground(const QImage& picture);
+
+} // namespace quittika::theme
