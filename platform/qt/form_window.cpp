@@ -23,6 +23,8 @@
 #include <QScreen>
 #include <QWindow>
 
+#include <algorithm>
+
 namespace quittika {
 
 namespace {
@@ -112,6 +114,7 @@ void FormWindow::start() {
     }
     window.resize(pixels(form_.Width()), pixels(form_.Height()));
     placed_ = form_.Left() != 0 || form_.Top() != 0;
+    grow_to_content();
     if (placed_) {
         push_place();
     }
@@ -153,6 +156,20 @@ void FormWindow::property_changed(PropertyId id) {
 void FormWindow::push_place() {
     placed_ = true;
     window_->move(reachable(QPoint(pixels(form_.Left()), pixels(form_.Top())), window_->size()));
+}
+
+void FormWindow::grow_to_content() {
+    const int lack = window_->minimumSizeHint().width() - window_->width();
+    const QRect room = window_->screen()->availableGeometry();
+    const int spare = room.width() - window_->width() - lack;
+    if (lack <= 0) {
+        return;
+    }
+    window_->resize(window_->width() + lack, window_->height());
+    if (placed_ && spare >= 0) {
+        const int left = pixels(form_.Left()) - lack / 2;
+        form_.Left.adopt(twips(std::clamp(left, room.left(), room.left() + spare)));
+    }
 }
 
 void FormWindow::push_state() {

@@ -53,6 +53,9 @@ private:
     void push_place();
     void push_state();
     Qt::WindowFlags flags_in_front(bool modal) const;
+    /// A width that was asked for may be too small for text of the desktop's size; the middle stays where the
+    /// screen allows it.
+    void grow_to_content();
     void bring_in_front_of(QWidget* parent, bool modal);
     void wait();
     void listen_for_files();

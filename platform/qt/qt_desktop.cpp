@@ -5,6 +5,7 @@
 #include "platform/qt/form_window.hpp"
 #include "platform/qt/guard.hpp"
 #include "platform/qt/widget_place.hpp"
+#include "platform/qt/widgets/theme.hpp"
 
 #include <QApplication>
 #include <QMainWindow>
@@ -43,7 +44,8 @@ void QtDesktop::adopt(Form& form) {
 
 void QtDesktop::restore_place(Form& form) const {
     const auto remembered = places_ ? places_->find(form.name()) : std::nullopt;
-    const WindowPlace designed{QSize(pixels(form.Width()), pixels(form.Height())), std::nullopt};
+    const QSize design(pixels(form.Width()), pixels(form.Height()));
+    const WindowPlace designed{design * theme::scale(), std::nullopt};
     QList<QRect> screens{QApplication::primaryScreen()->availableGeometry()};
     for (const QScreen* screen : QApplication::screens()) {
         screens.append(screen->availableGeometry());

@@ -79,7 +79,7 @@ public:
         const bool has_focus = option->state.testFlag(State_HasFocus);
         if (element == PE_Frame && has_focus && qobject_cast<const QAbstractScrollArea*>(widget) != nullptr) {
             outline(*painter, option->rect, accent(), 0);
-        } else if (dark() && !has_focus) {
+        } else if (dark()) {
             draw_dark_outline(element, *option, *painter);
         }
     }
@@ -125,7 +125,8 @@ private:
             outline(painter, option.rect, mix(text, ground, kShare), kRadius);
         } else if (element == PE_IndicatorRadioButton) {
             outline(painter, option.rect, mix(text, ground, kShare), option.rect.width() / 2.0);
-        } else if (element == PE_FrameLineEdit || element == PE_Frame) {
+        } else if (!option.state.testFlag(State_HasFocus) &&
+                   (element == PE_FrameLineEdit || element == PE_Frame)) {
             outline(painter, option.rect, mix(text, ground, kFieldShare), kRadius);
         }
     }
