@@ -105,8 +105,8 @@ std::string Lesebefund(Form1& f, const std::string& ordner) {
 }
 
 bool eben_gespeichert(const std::string& zeile, const Form1& f) {
-    return beginnt_mit(zeile, "click form1.m_speichern") && !f.Modified() &&
-           !f.Label_Pfad.Caption().empty() &&
+    return (beginnt_mit(zeile, "click form1.m_speichern") || zeile == "click form1.Command_jetztSpeichern") &&
+           !f.Modified() && !f.Label_Pfad.Caption().empty() &&
            f.StatusBar1[2].Caption().find("ABGESCHLOSSEN") != std::string::npos;
 }
 
@@ -124,6 +124,7 @@ public:
         return befund_;
     }
     const Zeilen& gespielt() const { return gespielt_; }
+    std::size_t gelesen() const { return gelesen_; }
 
 private:
     bool naechste(std::string& zeile) {
@@ -162,8 +163,11 @@ private:
             return "";
         }
         const std::string befund = Fensterbefund(*f);
-        return befund.empty() && eben_gespeichert(gespielt_.back(), *f) ? Lesebefund(*f, ordner_.ordner())
-                                                                        : befund;
+        if (!befund.empty() || !eben_gespeichert(gespielt_.back(), *f)) {
+            return befund;
+        }
+        ++gelesen_;
+        return Lesebefund(*f, ordner_.ordner());
     }
 
     Probenordner ordner_;
@@ -173,6 +177,7 @@ private:
     Zeilen vorrat_;
     std::size_t offen_ = 0;
     Zeilen gespielt_;
+    std::size_t gelesen_ = 0; ///< files read back
     std::string befund_;
 };
 
@@ -205,6 +210,7 @@ int spielen(unsigned saat, int sekunden, const std::string& protokollpfad) {
     const auto ende = Uhr::now() + std::chrono::seconds(sekunden);
     std::size_t laeufe = 0;
     std::size_t zeilen = 0;
+    std::size_t gelesen = 0;
     for (; Uhr::now() < ende; ++laeufe, ++saat) {
         std::ofstream protokoll(protokollpfad);
         Zufallsnutzer nutzer(saat);
@@ -213,6 +219,7 @@ int spielen(unsigned saat, int sekunden, const std::string& protokollpfad) {
             return probe.gespielt().size() < kZeilenProLauf ? nutzer.naechste_zeilen(desktop) : Zeilen{};
         });
         zeilen += probe.gespielt().size();
+        gelesen += probe.gelesen();
         if (!befund.empty()) {
             const Zeilen kurz = gekuerzt(probe.gespielt(), befund);
             std::cout << "# Saat " << saat << ": " << nachspielen(kurz) << "\n";
@@ -222,7 +229,8 @@ int spielen(unsigned saat, int sekunden, const std::string& protokollpfad) {
             return 1;
         }
     }
-    std::cout << "fuzz_programm: " << zeilen << " lines in " << laeufe << " runs without a fault\n";
+    std::cout << "fuzz_programm: no fault in " << laeufe << " runs of " << zeilen << " lines, " << gelesen
+              << " saved files read back\n";
     return 0;
 }
 
