@@ -91,7 +91,7 @@ void Positionen::Command_AENDERN_Click() {
     StillAuswaehlen(alte_zeile);
     ZeileEntfernen();
     EingabezeileLeeren();
-    ListenAbschliessen();
+    ListenAbschliessen(alte_zeile);
     NaechsteEingabe();
     if (eingabe == Eingabe::Menge_Null) {
         MengeNullMelden();
@@ -130,7 +130,7 @@ void Positionen::md_Del_artikel_Click() {
     zustand_.aendern();
     ZeileLoslassen();
     ZeileEntfernen();
-    ListenAbschliessen();
+    ListenAbschliessen(zeile);
     StillAuswaehlen(std::min(zeile, form1_.List_DARSTELLUNG.ListCount() - 1));
     form1_.List_DARSTELLUNG.SetFocus();
 }
@@ -156,7 +156,7 @@ bool Positionen::ZeileHinzufuegen(bool Trennzeile) {
     ZeileEinfuegen(stelle, Trennzeile);
     form1_.Hinweise.melden(druckhinweis_(stelle));
     EingabezeileLeeren();
-    ListenAbschliessen();
+    ListenAbschliessen(stelle);
     return true;
 }
 
@@ -185,9 +185,10 @@ void Positionen::ZeileEntfernen() {
     }
 }
 
-void Positionen::ListenAbschliessen() {
+/// The rows before `ab` are as they were.
+void Positionen::ListenAbschliessen(int ab) {
     summen_.jetztberechnen_List();
-    rechnung_.DarstellungAufbauen();
+    rechnung_.DarstellungAufbauen(ab);
 }
 
 void Positionen::StillAuswaehlen(int zeile) {

@@ -55,7 +55,7 @@ private:
     void ZeileEntfernen();
     /// Selects a row of `List_DARSTELLUNG` without fetching it: the input line does not belong to it then.
     void StillAuswaehlen(int zeile);
-    void ListenAbschliessen();
+    void ListenAbschliessen(int ab);
     void NaechsteEingabe();
     void EingabezeileLeeren();
 

@@ -93,19 +93,19 @@ void Rechnung::NotizSetzen(const std::string& notiz) {
     form1_.Text_Notiz.Text = ersetzen(notiz, kZeilenwechsel, "\r\n");
 }
 
-void Rechnung::DarstellungAufbauen() {
+void Rechnung::DarstellungAufbauen(int ab) {
     const Rechnungszustand::Sperre still(zustand_);
     const int zeilen = form1_.List_Gesamtp.ListCount();
     std::vector<std::string> darstellung;
-    darstellung.reserve(static_cast<std::size_t>(zeilen));
-    for (int zeile = 0; zeile < zeilen; ++zeile) {
+    darstellung.reserve(static_cast<std::size_t>(zeilen - ab));
+    for (int zeile = ab; zeile < zeilen; ++zeile) {
         darstellung.push_back(Darstellungszeile(form1_, zeile));
     }
     for (ListBox* liste : form1_.Positionslisten()) {
         liste->ListIndex = zeilen - 1;
     }
     form1_.List_DARSTELLUNG.ListIndex.adopt(-1);
-    form1_.List_DARSTELLUNG.assign(std::move(darstellung));
+    form1_.List_DARSTELLUNG.assign(std::move(darstellung), ab);
 }
 
 } // namespace quittika

@@ -17,9 +17,9 @@ public:
 
     /// Puts the values of an empty invoice into the controls; the number stays.
     void RechnungLeeren();
-    /// Rebuilds `List_DARSTELLUNG` from the six lists. Afterwards nothing is selected in it,
-    /// and the last row in the six.
-    void DarstellungAufbauen();
+    /// Rebuilds `List_DARSTELLUNG` from the six lists, from row `ab` on: those before are as they were shown
+    /// last. Afterwards nothing is selected in it, and the last row in the six.
+    void DarstellungAufbauen(int ab = 0);
 
     /// The note, with its line breaks as "#$§$#".
     void NotizSetzen(const std::string& notiz);

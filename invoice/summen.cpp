@@ -17,6 +17,26 @@ void schreiben(TextBox& feld, double wert, std::string_view muster) {
     feld.Text = format_zahl(wert, muster);
 }
 
+/// Sum of all rows but the comments; nothing where no double holds it.
+std::optional<double> LISTENSUMME(const Form1& form1) {
+    const std::vector<std::string>& betraege = form1.List_Gesamtp.items();
+    const std::vector<std::string>& arten = form1.List_K.items();
+    double summe = 0;
+    for (std::size_t i = 0; i < betraege.size(); ++i) {
+        if (i < arten.size() && arten[i] == "K") {
+            continue;
+        }
+        if (const std::optional<double> wert = double_versuch(betraege[i])) {
+            summe += *wert;
+        }
+    }
+    try {
+        return dezimal_bereinigt(summe);
+    } catch (const Laufzeitfehler&) {
+        return std::nullopt;
+    }
+}
+
 } // namespace
 
 Summen::Summen(Form1& form1, const frm_einstellungen& einstellungen, Rechnungszustand& zustand,
@@ -82,26 +102,13 @@ int Summen::VersandAufteilen() {
     }
 }
 
-/// Nothing for a sum that no double holds.
-std::optional<double> Summen::ListensummeBerechnen() const {
-    const std::vector<std::string>& betraege = form1_.List_Gesamtp.items();
-    const std::vector<std::string>& arten = form1_.List_K.items();
-    double summe = 0;
-    for (std::size_t i = 0; i < betraege.size(); ++i) {
-        if (i < arten.size() && arten[i] == "K") {
-            continue;
-        }
-        if (const std::optional<double> wert = double_versuch(betraege[i])) {
-            summe += *wert;
-        }
+std::optional<double> Summen::ListensummeBerechnen() {
+    if (gemerkt_.betraege == form1_.List_Gesamtp.revision() && gemerkt_.arten == form1_.List_K.revision()) {
+        return gemerkt_.summe;
     }
-    try {
-        return dezimal_bereinigt(summe);
-    } catch (const Laufzeitfehler&) {
-        return std::nullopt;
-    }
+    gemerkt_ = {form1_.List_Gesamtp.revision(), form1_.List_K.revision(), LISTENSUMME(form1_)};
+    return gemerkt_.summe;
 }
-
 Rechenergebnis Summen::BetraegeBerechnen(Mwst_Modus modus) {
     const std::optional<double> summe = ListensummeBerechnen();
     Listensumme = summe.value_or(0);

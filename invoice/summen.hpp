@@ -7,6 +7,7 @@
 #include "platform/shell.hpp"
 #include "settings/frm_einstellungen.hpp"
 
+#include <cstdint>
 #include <functional>
 #include <optional>
 #include <string>
@@ -34,7 +35,7 @@ private:
     void SatzLesen(TextBox& feld, double& variable);
     void UngezaehltesMelden();
     int VersandAufteilen();
-    std::optional<double> ListensummeBerechnen() const;
+    std::optional<double> ListensummeBerechnen();
     Rechenergebnis BetraegeBerechnen(Mwst_Modus modus);
     Mwst_Modus mwst_modus() const;
     void Anzeigen(const Rechenergebnis& ergebnis);
@@ -52,6 +53,12 @@ private:
     double Versand_Eingabe = 0;
     Versandaufteilung versand_;
     double Listensumme = 0;
+    /// The sum of the rows as it was calculated last, good as long as the lists are those.
+    struct {
+        std::uint64_t betraege = 0;
+        std::uint64_t arten = 0;
+        std::optional<double> summe = 0;
+    } gemerkt_;
     int Waechter = 2; ///< kept within 1 to 9
 };
 

@@ -1,5 +1,6 @@
 #include "invoice/zeilenmenue.hpp"
 
+#include <algorithm>
 #include <string>
 
 namespace quittika {
@@ -54,7 +55,7 @@ void Zeilenmenue::ZeileVerschieben(int schritt) {
         }
     }
     summen_.jetztberechnen_List();
-    rechnung_.DarstellungAufbauen();
+    rechnung_.DarstellungAufbauen(std::min(von, nach));
     Auswaehlen(nach);
     if (eingabezeile_.zeile() >= 0) {
         eingabezeile_.zeile_setzen(nach);

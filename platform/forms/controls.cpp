@@ -3,6 +3,9 @@
 #include "platform/laufzeitfehler.hpp"
 #include "platform/text.hpp"
 
+#include <algorithm>
+#include <iterator>
+
 namespace quittika {
 
 namespace {
@@ -127,8 +130,10 @@ void ListBox::Clear() {
     tell_items();
 }
 
-void ListBox::assign(std::vector<std::string> items) {
-    items_ = std::move(items);
+void ListBox::assign(std::vector<std::string> items, int first) {
+    require(first >= 0 && first <= ListCount(), kInvalidCall);
+    items_.resize(static_cast<std::size_t>(first));
+    std::move(items.begin(), items.end(), std::back_inserter(items_));
     if (ListIndex() >= ListCount()) {
         ListIndex.adopt(-1);
     }
@@ -136,6 +141,7 @@ void ListBox::assign(std::vector<std::string> items) {
 }
 
 void ListBox::tell_items() {
+    ++revision_;
     notify_items();
     Changed();
 }

@@ -139,8 +139,10 @@ public:
     /// Takes an item away. A selected one leaves nothing selected. Throws `Laufzeitfehler` 5.
     void RemoveItem(int index);
     void Clear();
-    /// Replaces all items and leaves the selection where it was, if there is still an item.
-    void assign(std::vector<std::string> items);
+    /// Replaces the items from `first` on and leaves the selection where it was, if there is still an item.
+    void assign(std::vector<std::string> items, int first = 0);
+    /// Another number after each change of the items.
+    std::uint64_t revision() const { return revision_; }
 
     /// A user's click on an item: fires `Click` even where it was selected already.
     void user_select(int index);
@@ -155,6 +157,7 @@ private:
     void tell_items();
 
     std::vector<std::string> items_;
+    std::uint64_t revision_ = 0;
 };
 
 /// A drop-down list; with `editable` the text can be typed, too.
