@@ -225,6 +225,7 @@ TEST_F(Hauptfenstertest, ZuLangeLeistungIstGekuerztUndTraegtIhrenTextAlsHinweis)
     const QString leistung = QString(30, QLatin1Char('W')).replace(QLatin1Char('W'), QLatin1String("Brett "));
     zeile("2", leistung.toUtf8(), "999999999,99");
     zeile("1", "Stuhl", "5");
+    EXPECT_EQ(feld<QLineEdit>("Text_gesamtbetrag")->text(), "2000000004,98");
     auto* liste = feld<QListView>("List_DARSTELLUNG");
     const QModelIndex erste = liste->model()->index(0, 0);
     EXPECT_TRUE(erste.data().toString().contains(leistung)) << "the item itself is whole";

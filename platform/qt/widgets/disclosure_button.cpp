@@ -2,6 +2,8 @@
 
 #include "platform/qt/widgets/theme.hpp"
 
+#include <QPainter>
+#include <QPolygonF>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QStyleOptionToolButton>
@@ -31,11 +33,27 @@ void DisclosureButton::initStyleOption(QStyleOptionToolButton* option) const {
     option->palette.setBrush(QPalette::ButtonText, palette().windowText());
 }
 
+QPixmap DisclosureButton::arrow(bool down) const {
+    const double ratio = devicePixelRatioF();
+    const double side = iconSize().width();
+    QPixmap picture(iconSize() * ratio);
+    picture.setDevicePixelRatio(ratio);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(palette().windowText());
+    painter.translate(side / 2, side / 2);
+    painter.rotate(down ? 90 : 0);
+    painter.drawPolygon(QPolygonF({{-side / 4, -side / 2}, {side / 3, 0}, {-side / 4, side / 2}}));
+    return picture;
+}
+
 void DisclosureButton::show_state(bool open) {
-    setArrowType(open ? Qt::DownArrow : Qt::RightArrow);
+    setIcon(arrow(open));
     if (open) {
-        // The layout has to make room first.
-        QTimer::singleShot(0, this, &DisclosureButton::scroll_up);
+        // The part is made when it is shown, and the layout has to make room for it.
+        QTimer::singleShot(0, this, [this] { QTimer::singleShot(0, this, &DisclosureButton::scroll_up); });
     }
 }
 

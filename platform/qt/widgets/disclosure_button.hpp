@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QPixmap>
 #include <QToolButton>
 
 namespace quittika {
@@ -15,6 +16,8 @@ protected:
     void initStyleOption(QStyleOptionToolButton* option) const override;
 
 private:
+    /// Unlike the style's own arrows, as large as the icon and in the colour of the text.
+    QPixmap arrow(bool down) const;
     void show_state(bool open);
     void scroll_up();
 };

@@ -19,7 +19,7 @@ constexpr int kRows = 9;
 // The heading labels over the grid have the same widths.
 constexpr int kTickWidth = 44;
 constexpr int kQuantityWidth = 90;
-constexpr int kAmountWidth = 110;
+constexpr int kAmountWidth = 120;
 constexpr int kButtonWidth = 28;
 
 QString element(const char* name, int row, int page) {

@@ -18,6 +18,7 @@ TileButton::TileButton(QWidget* parent) : QToolButton(parent) {
     setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
     const int icon = (kIcon + theme::scaled(kIcon)) / 2; // a picture need not grow as the text does
     setIconSize({icon, icon});
+    setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
     setFocusPolicy(Qt::TabFocus);
     setAttribute(Qt::WA_Hover);
 }
