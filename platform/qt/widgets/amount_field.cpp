@@ -33,7 +33,7 @@ void AmountField::paintEvent(QPaintEvent* event) {
     QLineEdit::paintEvent(event);
     if (hasFocus()) {
         QPainter painter(this);
-        painter.setPen(theme::accent());
+        painter.setPen(theme::focus_color());
         painter.drawRect(rect().adjusted(0, 0, -1, -1));
     }
 }

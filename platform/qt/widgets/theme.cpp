@@ -78,7 +78,7 @@ public:
         QProxyStyle::drawPrimitive(element, option, painter, widget);
         const bool has_focus = option->state.testFlag(State_HasFocus);
         if (element == PE_Frame && has_focus && qobject_cast<const QAbstractScrollArea*>(widget) != nullptr) {
-            outline(*painter, option->rect, accent(), 0);
+            outline(*painter, option->rect, focus_color(), 0);
         } else if (dark()) {
             draw_dark_outline(element, *option, *painter);
         }
@@ -121,7 +121,9 @@ private:
         constexpr double kRadius = 2.0;
         const QColor text = option.palette.color(QPalette::WindowText);
         const QColor ground = option.palette.color(QPalette::Base);
-        if (element == PE_IndicatorCheckBox) {
+        if (element == PE_FrameFocusRect) {
+            outline(painter, option.rect, focus_color(), kRadius);
+        } else if (element == PE_IndicatorCheckBox) {
             outline(painter, option.rect, mix(text, ground, kShare), kRadius);
         } else if (element == PE_IndicatorRadioButton) {
             outline(painter, option.rect, mix(text, ground, kShare), option.rect.width() / 2.0);
@@ -167,6 +169,11 @@ void apply(QApplication& application) {
     QApplication::setStyle(new ProgramStyle(scale())); // taken over by the application
     QApplication::setPalette(program_palette(QApplication::palette()));
     application.setWindowIcon(QIcon(QStringLiteral(":/icons/quittika.png")));
+}
+
+QColor focus_color() {
+    constexpr int kLighter = 140;
+    return dark() ? accent().lighter(kLighter) : accent();
 }
 
 bool dark() {

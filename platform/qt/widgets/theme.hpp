@@ -9,6 +9,9 @@ namespace quittika::theme {
 /// The one accent colour of the windows, readable on light and on dark ground.
 QColor accent();
 
+/// Colour of the outline around what has the focus.
+QColor focus_color();
+
 /// Style, palette and font size of the whole program. Call once, before the first window.
 /// A dark desktop keeps its own palette, with the program's accent.
 void apply(QApplication& application);

@@ -49,7 +49,7 @@ void TileButton::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     const QColor fill = ground();
-    painter.setPen(hasFocus() ? QPen(theme::accent(), 1.4) : QPen(Qt::NoPen));
+    painter.setPen(hasFocus() ? QPen(theme::focus_color(), 1.4) : QPen(Qt::NoPen));
     painter.setBrush(fill);
     painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), kRadius, kRadius);
 
