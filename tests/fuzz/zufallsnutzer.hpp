@@ -18,18 +18,14 @@ public:
     std::vector<std::string> naechste_zeilen(const ScriptDesktop& desktop);
 
 private:
-    std::vector<std::string> zeile_eingeben();
-    std::vector<std::string> dateibefehl();
+    std::string ausgefuellt(std::string_view vorlage);
     std::string handgriff(const Form& fenster);
     std::string handgriff(const Control& steuerelement);
-    std::string vorrat();
-    std::string text();
-    std::string zahl();
 
     /// 0 to `grenze` - 1
-    int bis(int grenze) { return static_cast<int>(zufall_() % static_cast<unsigned>(grenze)); }
+    int bis(std::size_t grenze) { return static_cast<int>(zufall_() % grenze); }
     template <class Liste> const auto& eines(const Liste& liste) {
-        return liste[static_cast<std::size_t>(bis(static_cast<int>(std::size(liste))))];
+        return liste[static_cast<std::size_t>(bis(std::size(liste)))];
     }
 
     std::mt19937 zufall_;

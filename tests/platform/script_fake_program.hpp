@@ -25,7 +25,6 @@ struct Notiz : Form {
     TextBox Text{*this, "Text"};
     CommandButton Weiter{*this, "Weiter"};
     CommandButton Schliessen{*this, "Schliessen"};
-    CommandButton Drucken{*this, "Drucken"};
 };
 
 struct Zweite : Form {
@@ -142,11 +141,8 @@ private:
             attempt([this] { return std::to_string(platform_.dialogs.choose_color(0)); });
             attempt([this] { return platform_.dialogs.choose_font("Arial"); });
         };
-        haupt_.Drucken.Click = [this] { print("Blatt\t1", 2); };
-        notiz_.Drucken.Click = [this] { print("Notiz", 1); };
-        haupt_.Bild.Click = [this] {
-            platform_.printing.printer("Bild")->picture(1, 2, 3, 4, directory_ + "/logo.bmp");
-        };
+        haupt_.Drucken.Click = [this] { print(); };
+        haupt_.Bild.Click = [this] { platform_.printing.printer("Bild")->picture(1, 2, 3, 4, directory_); };
     }
 
     template <class Ask> void attempt(const Ask& ask) {
@@ -157,20 +153,18 @@ private:
         }
     }
 
-    void print(const std::string& title, int copies) {
-        for (int copy = 1; copy <= copies; ++copy) {
-            const auto device = platform_.printing.printer(title);
-            PrintSurface surface(*device, platform_.printing.metrics());
-            surface.CurrentX = -0.001;
-            surface.CurrentY = 12.345678;
-            surface.FontSize = 9.5;
-            surface.FontBold = true;
-            surface.ForeColor = 255;
-            surface.PrintOn("Nr. " + std::to_string(copy));
-            surface.NewPage();
-            surface.Line(0, 1, 210, 1, color::kBlack);
-            surface.EndDoc();
-        }
+    void print() {
+        const auto device = platform_.printing.printer("Blatt\t1");
+        PrintSurface surface(*device, platform_.printing.metrics());
+        surface.CurrentX = -0.001;
+        surface.CurrentY = 12.345678;
+        surface.FontSize = 9.5;
+        surface.FontBold = true;
+        surface.ForeColor = 255;
+        surface.PrintOn("Nr. 1");
+        surface.NewPage();
+        surface.Line(0, 1, 210, 1, color::kBlack);
+        surface.EndDoc();
     }
 
     Platform platform_;

@@ -1,9 +1,56 @@
-#include "tests/platform/script_conversation.hpp"
+#include "platform/script/runner.hpp"
+
+#include "tests/platform/script_fake_program.hpp"
 
 #include <gtest/gtest.h>
 
+#include <sstream>
+
 namespace quittika::script_test {
 namespace {
+
+/// A conversation with the runner: commands, and below each what it answers, behind "= " and without the
+/// closing "ok".
+using Conversation = std::string;
+
+/// Each command in its turn takes the answer up to the closing line.
+Conversation with_answers(const std::string& commands, const std::string& answers) {
+    std::istringstream asked(commands);
+    std::istringstream told(answers);
+    Conversation conversation;
+    for (std::string command; std::getline(asked, command);) {
+        conversation += command + '\n';
+        bool open = !command.empty() && command.front() != '#';
+        for (std::string line; open && std::getline(told, line);) {
+            open = line != "ok" && !line.starts_with("error: ");
+            conversation += line == "ok" ? "" : "= " + line + '\n';
+        }
+    }
+    for (std::string line; std::getline(told, line);) {
+        conversation += "= <unasked> " + line + '\n';
+    }
+    return conversation;
+}
+
+struct Outcome {
+    Conversation conversation;
+    int status;
+};
+
+/// Plays the commands of a conversation to the runner with the fake program.
+Outcome play(const Conversation& conversation) {
+    std::istringstream lines(conversation);
+    std::string commands;
+    for (std::string line; std::getline(lines, line);) {
+        commands += line.starts_with("=") ? "" : line + '\n';
+    }
+    const FakeMetrics metrics;
+    std::istringstream in(commands);
+    std::ostringstream out;
+    Runner runner({fake_program, metrics}, in, out);
+    const int status = runner.run();
+    return {with_answers(commands, out.str()), status};
+}
 
 struct Talk {
     const char* name;
@@ -124,6 +171,26 @@ items form1.Log
 = nichts
 = nichts
 )"},
+    {"pages_of_the_last_printing_command", R"(click form1.Drucken
+click form1.Spaeter
+pages
+= job Blatt\t1
+= page 1
+= text 0.00 12.35 10.00 9.5 1 255 Nr. 1
+= page 2
+= line 0.00 1.00 210.00 1.00 0
+= enddoc
+click form1.Bild
+= error: Ungültiges Bild
+start /etc/passwd
+click form1.Bild
+pages
+= job Bild
+= page 1
+= picture 1.00 2.00 3.00 4.00 /etc/passwd
+printto x.pdf
+= error: Es gibt keine Ausgabe in PDF-Dateien
+)"},
     {"events_come_as_by_hand", R"(set form1.Text1  a b 
 set form1.Text1
 type form1.Text1 ä€
@@ -181,6 +248,47 @@ items form1.Log
 };
 INSTANTIATE_TEST_SUITE_P(Talks, ScriptTalk, testing::ValuesIn(kTalks),
                          [](const auto& p) { return p.param.name; });
+
+/// Stands for the PDF surface: the whole document as text, kept when it is ended.
+class PdfStand final : public PrintDevice {
+public:
+    PdfStand(std::string head, std::vector<std::string>& files) : document_(std::move(head)), files_(files) {}
+    void text(double, double, double, const PrintFont&, Color, std::string_view text) override {
+        document_ += "[" + std::string(text) + "]";
+    }
+    void line(double, double, double, double, Color) override { document_ += "-"; }
+    void picture(double, double, double, double, const std::string&) override { document_ += "#"; }
+    void new_page() override { document_ += "/"; }
+    void end_document() override { files_.push_back(document_); }
+
+private:
+    std::string document_;
+    std::vector<std::string>& files_;
+};
+
+TEST(ScriptPrinting, APreviewIsNotPrintedAndCopiesAreNotWrittenOneByOne) {
+    const FakeMetrics metrics;
+    std::vector<std::string> files;
+    ScriptPrinting printing(
+        metrics,
+        [&files](const std::string&, const std::string&) { return std::make_unique<PdfStand>("", files); },
+        {});
+    printing.print_to("x.pdf");
+    printing.begin_command();
+    const auto preview = printing.record("Vorschau");
+    preview->line(1, 2, 3, 4, 5);
+    preview->end_document();
+    ASSERT_EQ(printing.jobs().size(), 1U);
+    EXPECT_EQ(listing(*printing.jobs().front()),
+              (std::vector<std::string>{"job Vorschau", "page 1", "line 1.00 2.00 3.00 4.00 5", "enddoc"}));
+    EXPECT_TRUE(files.empty());
+    for (int copy = 0; copy < 5; ++copy) {
+        printing.printer("Blatt")->end_document();
+    }
+    EXPECT_EQ(files, std::vector<std::string>{""}) << "the first meets the errors of the surface";
+    printing.end_command();
+    EXPECT_EQ(files, (std::vector<std::string>{"", "////"}));
+}
 
 } // namespace
 } // namespace quittika::script_test
