@@ -27,47 +27,21 @@ std::string nullen(std::size_t anzahl) {
 TEST(Zahlen, TextWirdZahlOderNicht) {
     struct Fall {
         const char* text;
-        std::optional<double> wert;
+        double wert;
     };
     const Fall faelle[] = {
-        {"0", 0},
-        {"1,5", 1.5},
-        {"1,5 ", 1.5},
-        {" \t-1,5", -1.5},
-        {"1.234,5", 1234.5},
-        {"1.2", 12},
-        {"1e3", 1000},
-        {"1E+3", 1000},
-        {"2d-2", 0.02},
-        {",5", 0.5},
-        {"5,", 5},
-        {"+7", 7},
-        {"- 7", -7},
-        {"7-", -7},
-        {"0,1", 0.1},
-        {"1e-400", 0.0},
-        {"1e308", 1e308},
-        {"", std::nullopt},
-        {"-", std::nullopt},
-        {",", std::nullopt},
-        {"12a", std::nullopt},
-        {"1,2,3", std::nullopt},
-        {"1,2.3", std::nullopt},
-        {"1e", std::nullopt},
-        {"e5", std::nullopt},
-        {"--1", std::nullopt},
-        {"-1-", std::nullopt},
-        {"nan", std::nullopt},
-        {"inf", std::nullopt},
-        {"0x10", std::nullopt},
-        {"1e400", std::nullopt},
-        {"1 2", std::nullopt},
-        {".5", std::nullopt},
-        {"5€", std::nullopt},
+        {"0", 0},      {"1,5", 1.5},   {"1,5 ", 1.5},  {" \t-1,5", -1.5}, {"1.234,5", 1234.5}, {"1.2", 12},
+        {"1e3", 1000}, {"1E+3", 1000}, {"2d-2", 0.02}, {",5", 0.5},       {"5,", 5},           {"+7", 7},
+        {"- 7", -7},   {"7-", -7},     {"0,1", 0.1},   {"1e-400", 0.0},   {"1e308", 1e308},
     };
     for (const Fall& f : faelle) {
         EXPECT_EQ(double_versuch(f.text), f.wert) << "»" << f.text << "«";
-        EXPECT_EQ(ist_numerisch(f.text), f.wert.has_value());
+        EXPECT_TRUE(ist_numerisch(f.text));
+    }
+    for (const char* keine : {"", "-", ",", "12a", "1,2,3", "1,2.3", "1e", "e5", "--1", "-1-", "nan", "inf",
+                              "0x10", "1e400", "1 2", ".5", "5€"}) {
+        EXPECT_EQ(double_versuch(keine), std::nullopt) << keine;
+        EXPECT_FALSE(ist_numerisch(keine)) << keine;
     }
     EXPECT_EQ(double_versuch(std::string_view("1\0", 2)), std::nullopt);
     constexpr Locale englisch{'.', ',', "True", "False"};

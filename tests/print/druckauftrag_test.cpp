@@ -1,5 +1,7 @@
 #include "print/druckauftrag.hpp"
 
+#include "platform/script/script_desktop.hpp"
+#include "platform/script/script_dialogs.hpp"
 #include "tests/print/druckprobe.hpp"
 
 #include <gtest/gtest.h>
@@ -28,53 +30,26 @@ public:
     }
 };
 
-class KeinDesktop : public Desktop {
-public:
-    /// Answers the modal window for the user.
-    std::function<void(Form& form)> bedienen = [](Form& form) {
-        static_cast<CommandButton*>(form.find("CMD_weiter"))->Click();
-    };
-    int gezeigt = 0;
-
-    void adopt(Form& form) override { form.attach(*this, nullptr); }
-    void release(Form&) override {}
-    void show(Form& form, Modality modality) override {
-        if (modality == Modality::Modal) {
-            ++gezeigt;
-            bedienen(form);
-        }
-    }
-    void hide(Form&) override {}
-    void raise(Form&) override {}
-    void set_focus(Control&) override {}
-    int screen_width() const override { return 0; }
-    int screen_height() const override { return 0; }
-    void beep() override {}
-    void later(std::function<void()>) override {}
-    void end() override {}
-};
-
-struct Druckerdialoge : FalscheDialoge {
-    int exemplare = 1;
-    int fehlernummer = 0;
-    std::string vorschlag;
-    int choose_printer(const PrinterDialog& dialog) override {
-        vorschlag = dialog.proposed_name;
-        if (fehlernummer != 0) {
-            throw Laufzeitfehler(fehlernummer);
-        }
-        return exemplare;
-    }
-};
-
 struct Auftragsprobe : Pruefstand {
-    Druckerdialoge druckdialoge;
+    ScriptDialogs druckdialoge;
     FalscherDrucker drucker;
-    KeinDesktop desktop;
+    ScriptClock standuhr;
+    ScriptDesktop desktop{standuhr};
     int berechnet = 0;
+    int gefragt = 0;
+    /// What the user does in the modal window.
+    std::function<void(Form& form)> bedienen = [](Form& form) { form.find("CMD_weiter")->Click(); };
     Druckauftrag auftrag{form1,   einstellungen,          werte, druckdialoge, drucker,
                          desktop, [this] { ++berechnet; }};
-    std::string drucken() {
+
+    Auftragsprobe() {
+        desktop.on_modal([this](const auto& /*open*/) {
+            ++gefragt;
+            bedienen(*desktop.windows().back());
+        });
+    }
+    std::string drucken(const Choice& wahl = choice::Printer{1}) {
+        druckdialoge.queue(wahl);
         auftrag.Command_printform_Click();
         return form1.StatusBar1[2].Caption();
     }
@@ -84,8 +59,7 @@ struct Auftragsprobe : Pruefstand {
 TEST(Druckauftrag, JedesExemplarIstEinEigenerAuftrag) {
     Auftragsprobe p;
     p.form1.Text_RNnr.Text = "12";
-    p.druckdialoge.exemplare = 3;
-    EXPECT_EQ(p.drucken(), "DRUCKEN...");
+    EXPECT_EQ(p.drucken(choice::Printer{3}), "DRUCKEN...");
     EXPECT_EQ(p.drucker.titel, std::vector<std::string>(3, "QK-> Name, Vorname RECHNUNG 12"));
     EXPECT_EQ(p.drucker.papier.enden, 3);
     EXPECT_EQ(p.form1.Text1.Text(), "3");
@@ -95,32 +69,31 @@ TEST(Druckauftrag, JedesExemplarIstEinEigenerAuftrag) {
 TEST(Druckauftrag, AbbruchUndFehlerStehenInDerStatuszeile) {
     struct Fall {
         const char* name;
-        int dialog;
+        Choice dialog;
         int annahme;
         int ende;
         const char* status;
         const char* meldung;
     };
     const Fall faelle[] = {
-        {"abgebrochen", fehler::kDialogAbgebrochen, 0, 0, "DRUCKEN ABGEBROCHEN.", ""},
-        {"Dialog gestört", fehler::kDrucker, 0, 0, "FEHLER BEIM DRUCKEN!",
+        {"abgebrochen", choice::Cancel{}, 0, 0, "DRUCKEN ABGEBROCHEN.", ""},
+        {"Dialog gestört", choice::Failure{fehler::kDrucker}, 0, 0, "FEHLER BEIM DRUCKEN!",
          "Der Drucker meldet einen Fehler: bitte prüfen und noch einmal drucken."},
-        {"Drucker nimmt nichts an", 0, fehler::kDrucker, 0, "FEHLER BEIM DRUCKEN!",
+        {"Drucker nimmt nichts an", choice::Printer{1}, fehler::kDrucker, 0, "FEHLER BEIM DRUCKEN!",
          "Der Drucker GP ist angehalten."},
-        {"PDF nicht schreibbar", 0, 0, fehler::kDatentraegerVoll, "FEHLER BEIM DRUCKEN!",
+        {"PDF nicht schreibbar", choice::Printer{1}, 0, fehler::kDatentraegerVoll, "FEHLER BEIM DRUCKEN!",
          "Der Datenträger ist voll: bitte Platz schaffen oder auf einem anderen speichern."},
     };
     for (const Fall& f : faelle) {
         SCOPED_TRACE(f.name);
         Auftragsprobe p;
-        p.druckdialoge.fehlernummer = f.dialog;
         p.drucker.annahmefehler = f.annahme;
         p.drucker.endfehler = f.ende;
-        EXPECT_EQ(p.drucken(), f.status);
+        EXPECT_EQ(p.drucken(f.dialog), f.status);
         EXPECT_EQ(p.meldung(), f.meldung);
-        EXPECT_TRUE(p.druckdialoge.boxen.empty());
+        EXPECT_TRUE(p.druckdialoge.take_boxes().empty());
         EXPECT_EQ(p.drucker.papier.enden, 0);
-        p.druckdialoge.fehlernummer = p.drucker.annahmefehler = p.drucker.endfehler = 0;
+        p.drucker.annahmefehler = p.drucker.endfehler = 0;
         p.drucken();
         EXPECT_EQ(p.meldung(), "") << "the reason goes with the next job that succeeds";
     }
@@ -146,7 +119,7 @@ TEST(Druckauftrag, EinePdfDateiHeisstNachDemDokumentUndIhrOrtStehtInDerStatuszei
         p.form1.Text_RNnr.Text = f.nummer;
         p.form1.Option_RECHNUNG_KOPIE.Value = f.kopie;
         p.drucken();
-        EXPECT_EQ(p.druckdialoge.vorschlag, f.name);
+        EXPECT_EQ(p.druckdialoge.take_dialogs().back(), "dialog|printer||" + f.name + "||1");
         EXPECT_EQ(p.meldung(), "") << "on paper there is nothing to tell";
         p.drucker.datei = "/home/ich/a.pdf";
         p.drucken();
@@ -157,7 +130,7 @@ TEST(Druckauftrag, EinePdfDateiHeisstNachDemDokumentUndIhrOrtStehtInDerStatuszei
 TEST(Druckauftrag, EinLieferscheinFragtJedesMalNeuWasErZeigt) {
     Auftragsprobe p;
     p.drucken();
-    EXPECT_EQ(p.desktop.gezeigt, 0) << "only a delivery note asks";
+    EXPECT_EQ(p.gefragt, 0) << "only a delivery note asks";
     const auto haken = [](Form& form) {
         std::string alle;
         for (const char* name : {"Check_LIEFERSCH_WERBESPRUCH", "Check_LIEFERSCH_BEMERKUNGSTEXT",
@@ -173,11 +146,11 @@ TEST(Druckauftrag, EinLieferscheinFragtJedesMalNeuWasErZeigt) {
             art->Value = true;
             layout->Value = true;
             p.drucker.papier = {};
-            p.desktop.bedienen = [&](Form& form) {
+            p.bedienen = [&](Form& form) {
                 EXPECT_EQ(haken(form), eigenes ? "0000" : "1111");
                 auto* preise = static_cast<CheckBox*>(form.find("Check_LIEFERSCH_PREISE"));
                 preise->Value = eigenes ? 1 : 0;
-                static_cast<CommandButton*>(form.find("CMD_weiter"))->Click();
+                form.find("CMD_weiter")->Click();
                 EXPECT_FALSE(form.shown());
             };
             EXPECT_EQ(p.drucken(), "DRUCKEN...");
@@ -185,7 +158,7 @@ TEST(Druckauftrag, EinLieferscheinFragtJedesMalNeuWasErZeigt) {
             EXPECT_EQ(p.drucker.papier.finden("Ihr Werbespruch") != nullptr, !eigenes);
         }
     }
-    p.desktop.bedienen = [](Form& form) { form.Close(); };
+    p.bedienen = [](Form& form) { form.Close(); };
     p.drucker.papier = {};
     EXPECT_EQ(p.drucken(), "DRUCKEN ABGEBROCHEN.") << "by Esc or its frame";
     EXPECT_TRUE(p.drucker.papier.texte.empty());
