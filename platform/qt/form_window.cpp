@@ -8,10 +8,10 @@
 #include "platform/qt/guard.hpp"
 #include "platform/qt/qt_desktop.hpp"
 #include "platform/qt/qt_text.hpp"
+#include "platform/qt/task_bar.hpp"
 #include "platform/qt/timer_view.hpp"
 #include "platform/qt/widget_place.hpp"
 #include "platform/qt/widget_view.hpp"
-#include "platform/qt/window_table.hpp"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -93,7 +93,7 @@ FormWindow::~FormWindow() {
 QWidget* FormWindow::window() {
     if (!built_) {
         built_ = true;
-        window_ = build_window(form_.name()).release();
+        window_ = desktop_.new_window(form_).release();
         if (window_ != nullptr) {
             start();
         }
@@ -200,10 +200,12 @@ void FormWindow::take_state() {
 }
 
 Qt::WindowFlags FormWindow::flags_in_front(bool modal) const {
-    const Qt::WindowFlags hints = window_->windowFlags() & ~Qt::WindowType_Mask;
     if (form_.companion() && !modal) {
-        return Qt::Tool | (hints & ~Qt::WindowMinimizeButtonHint); // off the task bar nobody finds it again
+        // Without a button that makes it an icon, which nobody would find off the task bar.
+        return Qt::Tool | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
+               Qt::WindowMaximizeButtonHint | Qt::WindowCloseButtonHint;
     }
+    const Qt::WindowFlags hints = window_->windowFlags() & ~Qt::WindowType_Mask;
     const Qt::WindowFlags buttons =
         qobject_cast<QDialog*>(window_) ? Qt::WindowFlags() : Qt::WindowMinMaxButtonsHint;
     return Qt::Dialog | hints | buttons;
@@ -237,6 +239,9 @@ void FormWindow::show(Modality modality) {
         if (is_splash(*window_) && !placed_) {
             window_->move(QGuiApplication::primaryScreen()->availableGeometry().center() -
                           window_->rect().center());
+        }
+        if (form_.companion() && !modal) {
+            keep_off_task_bar(*window_);
         }
         window_->show();
         listen_for_files();

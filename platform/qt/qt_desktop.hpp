@@ -2,14 +2,17 @@
 
 #include "platform/desktop.hpp"
 #include "platform/qt/window_places.hpp"
+#include "platform/qt/window_table.hpp"
 
 #include <QObject>
 #include <QPointer>
 #include <QWidget>
 
 #include <functional>
+#include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace quittika {
@@ -19,7 +22,9 @@ class FormWindow;
 /// The desktop with real windows. Needs a `QtApplication`.
 class QtDesktop final : public Desktop {
 public:
-    QtDesktop() = default;
+    /// Makes the window of the form of that name; null if there is none.
+    using BuildWindow = std::unique_ptr<QWidget> (*)(std::string_view form);
+    explicit QtDesktop(BuildWindow build = build_window) : build_(build) {}
     ~QtDesktop() override;
 
     void adopt(Form& form) override;
@@ -45,6 +50,7 @@ public:
 
     // For the windows themselves.
     QWidget* main_window() const { return main_; }
+    std::unique_ptr<QWidget> new_window(const Form& form) const { return build_(form.name()); }
     /// The window in use, in front of which a modal one comes.
     QWidget* active_window() const;
     void built(QWidget& window);
@@ -58,6 +64,7 @@ private:
     FormWindow* find(const Form& form) const;
     void restore_place(Form& form) const;
 
+    BuildWindow build_;
     std::vector<FormWindow*> windows_; ///< owned by their forms
     std::optional<WindowPlaces> places_;
     QPointer<QWidget> main_; ///< the first main window that was built

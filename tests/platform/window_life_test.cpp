@@ -55,6 +55,24 @@ private:
 
 } // namespace
 
+TEST(ScriptWindows, ComeToTheFrontAsFarAsNoModalOneIsThere) {
+    ScriptClock clock;
+    ScriptDesktop desktop(clock);
+    Form first("first", "");
+    Form second("second", "");
+    Form modal("modal", "");
+    for (Form* form : {&first, &second, &modal}) {
+        desktop.adopt(*form);
+    }
+    first.Show();
+    second.Show();
+    first.ZOrder();
+    EXPECT_EQ(desktop.windows(), (std::vector<Form*>{&second, &first}));
+    desktop.on_modal([&](const std::function<bool()>& /*open*/) { second.ZOrder(); });
+    modal.Show(Modality::Modal);
+    EXPECT_EQ(desktop.windows(), (std::vector<Form*>{&second, &first, &modal}));
+}
+
 INSTANTIATE_TYPED_TEST_SUITE_P(Script, WindowLife, ScriptStage);
 
 } // namespace quittika::test

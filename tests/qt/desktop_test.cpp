@@ -107,6 +107,31 @@ TEST_F(DesktopTest, FormGoesAndItsChildWindowsStay) {
     EXPECT_EQ(other.window(child)->findChild<QAbstractButton*>("CMD_weiter")->text(), "noch da");
 }
 
+TEST_F(DesktopTest, CompanionBelongsToTheMainWindowAndComesUpWithoutTheFocus) {
+    struct Companion : Form {
+        Companion() : Form("Form_Lieferschein_opt", "", {.width = 3000, .height = 3000, .companion = true}) {}
+        CommandButton CMD_weiter{*this, "CMD_weiter"};
+    } companion;
+    QtDesktop other;
+    Form1 main;
+    other.adopt(main);
+    other.adopt(companion);
+    main.Show();
+    companion.Show();
+    const QWidget& window = *other.window(companion);
+    EXPECT_EQ(window.parentWidget(), other.window(main));
+    EXPECT_EQ(window.windowType(), Qt::Tool);
+    EXPECT_FALSE(window.windowFlags().testFlag(Qt::WindowMinimizeButtonHint));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return window.isActiveWindow(); }));
+    main.Show();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return other.window(main)->isActiveWindow(); }));
+    companion.ZOrder();
+    QTest::qWait(20);
+    EXPECT_TRUE(other.window(main)->isActiveWindow());
+    companion.CMD_weiter.SetFocus();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return window.isActiveWindow(); }));
+}
+
 TEST_F(DesktopTest, PlaceFlowsBothWays) {
     form1.Left = 1500;
     form1.Top = 750;

@@ -1,5 +1,6 @@
 #include "tests/platform/window_life_cases.hpp"
 
+#include "app/form_ueber_quittika.hpp"
 #include "platform/qt/qt_desktop.hpp"
 #include "platform/qt/widget_view.hpp"
 
@@ -14,6 +15,18 @@ namespace {
 /// Real windows.
 class QtStage {
 public:
+    QtStage() {
+        desktop_.adopt(other_);
+        other_.Show();
+    }
+    QtStage(const QtStage&) = delete;
+    QtStage& operator=(const QtStage&) = delete;
+    ~QtStage() {
+        // A program that was ended lets no later one wait for anything.
+        QTimer::singleShot(0, &context_, [] { QCoreApplication::exit(); });
+        QCoreApplication::exec();
+    }
+
     QtDesktop& desktop() { return desktop_; }
     static void click(Control& control) {
         auto& widget = dynamic_cast<WidgetView&>(*control.view()).widget();
@@ -23,7 +36,11 @@ public:
         EXPECT_TRUE(QTest::qWaitFor([&timer] { return !timer.form().loaded(); }));
     }
     void close(Form& form) { desktop_.window(form)->close(); }
-    static void settle() { QTest::qWait(1); }
+    void settle() {
+        bool done = false;
+        desktop_.later([&done] { done = true; });
+        EXPECT_TRUE(QTest::qWaitFor([&done] { return done; }));
+    }
     void while_modal(const std::function<void()>& act) {
         const int turn = turns_++;
         wait_for_modal([this, turn, act] {
@@ -53,6 +70,7 @@ private:
     }
 
     QtDesktop desktop_;
+    Form_ueber_QUITTIKA other_; ///< with the last window the program would end
     QObject context_;
     int turns_ = 0;
     int played_ = 0;
