@@ -25,7 +25,8 @@ xcb_atom_t atom(xcb_connection_t& connection, std::string_view name) {
 
 void keep_off_task_bar(QWidget& window) {
     const auto* x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
-    if (x11 == nullptr) {
+    // Drawing off the screen offers the interface without a connection.
+    if (x11 == nullptr || QGuiApplication::platformName() != QLatin1String("xcb")) {
         return; // elsewhere the kind of the window says it
     }
     constexpr std::uint8_t kBits = 32;
