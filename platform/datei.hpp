@@ -12,7 +12,8 @@ namespace quittika {
 
 // Files as wholes. Paths are the program's own or the system's. Errors are `Laufzeitfehler` with the path:
 // 53 file missing, 76 folder missing, 70 not permitted, 75 no file, 52 bad name, 61 disk full, 71 device not
-// there, 57 anything else. Where a folder refused, the path is the folder's and ends with "/".
+// there, 58 file exists already, 57 anything else. Where a folder refused, the path is the folder's and ends
+// with "/".
 
 inline constexpr std::size_t kUnbegrenzt = std::numeric_limits<std::size_t>::max() / 2;
 
@@ -38,8 +39,24 @@ private:
 std::string datei_ersetzen(const std::string& pfad, std::string_view bytes,
                            const std::string& ausweichordner = {});
 
+/// Creates a file with these bytes in the same manner; throws 58 where one stands, 75 for a folder.
+void datei_anlegen(const std::string& pfad, std::string_view bytes);
+
 /// Appends bytes on a new line and returns when they are on disk; a file that does not exist is created. What
 /// could not be written whole is taken back.
 void datei_anhaengen(const std::string& pfad, std::string_view bytes);
+
+/// What a copy does where a file stands at its target.
+enum class Kopierziel {
+    Ersetzen, ///< as `datei_ersetzen` does
+    Neu,      ///< throws 58
+};
+
+/// Copies a file byte for byte. Source and target stay as they were where that fails. Throws 70 for a file
+/// that would be copied onto itself. The error's path tells which of the two it was.
+void DATEI_KOPIEREN(const std::string& von, const std::string& nach, Kopierziel ziel = Kopierziel::Ersetzen);
+
+/// Deletes a file, but throws 70 for one that may not be written. Of a symbolic link only the link goes.
+void DATEI_LOESCHEN(const std::string& pfad);
 
 } // namespace quittika

@@ -1,9 +1,11 @@
 #include "platform/datei.hpp"
 #include "platform/dateizugriff.hpp"
+#include "platform/verzeichnis.hpp"
 
 #include <cerrno>
 #include <charconv>
 #include <csignal>
+#include <cstdio>
 #include <filesystem>
 #include <optional>
 #include <system_error>
@@ -93,21 +95,37 @@ void umbenennen(const std::string& alt, const std::string& neu) {
     }
 }
 
-void daneben_schreiben(const std::string& ziel, std::string_view bytes, mode_t rechte, bool vorhanden) {
+/// The same, but throws 58 where something has that name.
+void benennen(const std::string& alt, const std::string& neu) {
+    if (renameat2(AT_FDCWD, alt.c_str(), AT_FDCWD, neu.c_str(), RENAME_NOREPLACE) == 0) {
+        return;
+    }
+    if (errno != EINVAL && errno != ENOSYS) {
+        scheitern(errno, neu);
+    }
+    if (datei_vorhanden(neu)) { // not every file system can tell by itself
+        scheitern(EEXIST, neu);
+    }
+    umbenennen(alt, neu);
+}
+
+/// `rechte`: those of the file that is replaced; none for a new file.
+void daneben_schreiben(const std::string& ziel, std::string_view bytes, std::optional<mode_t> rechte,
+                       void (*an_den_platz)(const std::string& alt, const std::string& neu)) {
     const std::string ordner = ordner_von(ziel);
     verwaiste_entfernen(ordner);
-    const NeueDatei neu = neue_datei(ordner, rechte, [](const std::string& n) {
+    const NeueDatei neu = neue_datei(ordner, rechte.value_or(0666), [](const std::string& n) {
         return std::string(kAnfang) + std::to_string(getpid()) + "-" + n + std::string(kEnde);
     });
     try {
         Datei datei(neu.nummer, ziel);
         datei.schreiben(bytes);
-        if (vorhanden) {
-            fchmod(datei.nummer(), rechte);
+        if (rechte) {
+            fchmod(datei.nummer(), *rechte);
         }
         datei.sichern();
         datei.schliessen();
-        umbenennen(neu.pfad, ziel);
+        an_den_platz(neu.pfad, ziel);
     } catch (const Laufzeitfehler&) {
         unlink(neu.pfad.c_str());
         throw;
@@ -182,7 +200,9 @@ std::string datei_ersetzen(const std::string& pfad, std::string_view bytes,
         scheitern(errno, errno == EROFS ? ordner_von(ziel) : ziel);
     }
     try {
-        daneben_schreiben(ziel, bytes, vorhanden ? auskunft.st_mode & 07777U : 0666, vorhanden);
+        daneben_schreiben(ziel, bytes,
+                          vorhanden ? std::optional<mode_t>(auskunft.st_mode & 07777U) : std::nullopt,
+                          umbenennen);
         return {};
     } catch (const Laufzeitfehler& f) {
         if (f.nummer() != fehler::kZugriffVerweigert || !vorhanden || ausweichordner.empty()) {
@@ -190,6 +210,15 @@ std::string datei_ersetzen(const std::string& pfad, std::string_view bytes,
         }
     }
     return am_ort_schreiben(ziel, bytes, ausweichordner);
+}
+
+void datei_anlegen(const std::string& pfad, std::string_view bytes) {
+    const std::string ziel = wirkliches_ziel(ort_von(pfad));
+    struct stat auskunft {};
+    if (stat(ziel.c_str(), &auskunft) == 0) {
+        scheitern(S_ISDIR(auskunft.st_mode) ? EISDIR : EEXIST, ziel);
+    }
+    daneben_schreiben(ziel, bytes, std::nullopt, benennen);
 }
 
 } // namespace quittika

@@ -23,6 +23,8 @@ int nummer_von(int system) {
     case EPERM:
     case EROFS:
         return fehler::kZugriffVerweigert;
+    case EEXIST:
+        return fehler::kDateiVorhanden;
     case EISDIR:
     case ENAMETOOLONG:
     case ELOOP:

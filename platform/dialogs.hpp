@@ -22,10 +22,13 @@ struct MessageBox {
 struct FileDialog {
     /// Pairs of text and pattern, all parted by "|": "Bilder (*.bmp)|*.bmp".
     std::string filter;
-    /// File name that stands in the dialog at first; empty for none.
+    /// File name that stands in the dialog at first, shown as `DATEINAME_BEREINIGEN` makes it; empty for
+    /// none.
     std::string proposed_name;
     /// Empty for the desktop's own title.
     std::string title;
+    /// Whether `open_file` takes the names of existing files only.
+    bool must_exist = true;
 };
 
 struct PrinterDialog {

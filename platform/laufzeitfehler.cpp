@@ -12,7 +12,7 @@ struct Text {
     const char* text;
 };
 
-constexpr std::array<Text, 20> kTexte{{
+constexpr std::array<Text, 21> kTexte{{
     {fehler::kUngueltigerAufruf, "Ungültiger Aufruf"},
     {fehler::kUeberlauf, "Überlauf"},
     {fehler::kSpeicher, "Nicht genügend Speicher"},
@@ -23,6 +23,7 @@ constexpr std::array<Text, 20> kTexte{{
     {fehler::kDateiFehlt, "Datei nicht gefunden"},
     {fehler::kDateiOffen, "Datei ist bereits geöffnet"},
     {fehler::kGeraet, "Fehler beim Lesen oder Schreiben"},
+    {fehler::kDateiVorhanden, "Datei existiert bereits"},
     {fehler::kDatentraegerVoll, "Datenträger voll"},
     {fehler::kDateiende, "Eingabe hinter dem Dateiende"},
     {fehler::kZugriffVerweigert, "Zugriff verweigert"},

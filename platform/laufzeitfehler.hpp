@@ -17,6 +17,7 @@ constexpr int kDateiname = 52;
 constexpr int kDateiFehlt = 53;
 constexpr int kDateiOffen = 55;
 constexpr int kGeraet = 57;
+constexpr int kDateiVorhanden = 58;
 constexpr int kDatentraegerVoll = 61;
 constexpr int kDateiende = 62;
 constexpr int kZugriffVerweigert = 70;

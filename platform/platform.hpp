@@ -3,6 +3,7 @@
 #include "platform/desktop.hpp"
 #include "platform/dialogs.hpp"
 #include "platform/printing.hpp"
+#include "platform/progress.hpp"
 #include "platform/shell.hpp"
 
 namespace quittika {
@@ -14,6 +15,7 @@ struct Platform {
     Shell& shell;
     Clock& clock;
     Printing& printing;
+    Progress& progress;
 };
 
 } // namespace quittika

@@ -67,6 +67,7 @@ ssize_t echtes_pread(int, void*, size_t, off_t) __asm__("__real_pread");
 int echtes_fsync(int) __asm__("__real_fsync");
 int echtes_ftruncate(int, off_t) __asm__("__real_ftruncate");
 int echtes_rename(const char*, const char*) __asm__("__real_rename");
+int echtes_renameat2(int, const char*, int, const char*, unsigned) __asm__("__real_renameat2");
 
 int gestoertes_open(const char* pfad, int art, ...) __asm__("__wrap_open");
 int gestoertes_close(int) __asm__("__wrap_close");
@@ -76,6 +77,7 @@ ssize_t gestoertes_pread(int, void*, size_t, off_t) __asm__("__wrap_pread");
 int gestoertes_fsync(int) __asm__("__wrap_fsync");
 int gestoertes_ftruncate(int, off_t) __asm__("__wrap_ftruncate");
 int gestoertes_rename(const char*, const char*) __asm__("__wrap_rename");
+int gestoertes_renameat2(int, const char*, int, const char*, unsigned) __asm__("__wrap_renameat2");
 
 int gestoertes_open(const char* pfad, int art, ...) {
     va_list weitere;
@@ -117,5 +119,9 @@ int gestoertes_ftruncate(int datei, off_t laenge) {
 
 int gestoertes_rename(const char* alt, const char* neu) {
     return gestoert("rename", [&] { return echtes_rename(alt, neu); });
+}
+
+int gestoertes_renameat2(int von, const char* alt, int nach, const char* neu, unsigned art) {
+    return gestoert("renameat2", [&] { return echtes_renameat2(von, alt, nach, neu, art); });
 }
 }

@@ -1,53 +1,80 @@
 #include "platform/qt/directory_views.hpp"
 
+#include "platform/laufwerke.hpp"
 #include "platform/qt/guard.hpp"
 #include "platform/qt/qt_text.hpp"
 
+#include <QEvent>
 #include <QHeaderView>
 #include <QItemSelectionModel>
-#include <QStorageInfo>
 
-#include <memory>
+#include <utility>
 
 namespace quittika {
 
+namespace {
+
+/// Whether a widget comes to be seen because the program shows it, not because its window is uncovered.
+bool is_opened(const QEvent& event) {
+    return event.type() == QEvent::Show && !event.spontaneous();
+}
+
+} // namespace
+
 DriveView::DriveView(DriveListBox& control, QComboBox& widget) : TypedView(control, widget) {
-    widget.clear();
-    for (const QStorageInfo& drive : QStorageInfo::mountedVolumes()) {
-        if (drive.isReady() && drive.bytesTotal() > 0 && widget.findText(drive.rootPath()) < 0) {
-            widget.addItem(drive.rootPath());
-        }
-    }
+    widget.setPlaceholderText(QStringLiteral("Laufwerk wählen"));
     connect(&widget, &QComboBox::activated, this, [this](int row) {
-        guarded(control_.form(), [&] { control_.Path = path_from_qt(widget_.itemText(row)); });
+        guarded(control_.form(), [&] { control_.Path = path_from_qt(widget_.itemData(row).toString()); });
     });
+}
+
+void DriveView::read() {
+    widget_.clear();
+    for (const Laufwerk& drive : LAUFWERKE()) {
+        const QString path = path_to_qt(drive.pfad);
+        widget_.addItem(QStringLiteral("%1  (%2)").arg(path_to_qt(drive.name), path), path);
+    }
+    push(PropertyId::Path);
 }
 
 void DriveView::push(PropertyId id) {
     if (id == PropertyId::Path) {
-        widget_.setCurrentIndex(widget_.findText(path_to_qt(control_.Path())));
+        widget_.setCurrentIndex(widget_.findData(path_to_qt(control_.Path())));
     }
+}
+
+bool DriveView::eventFilter(QObject* watched, QEvent* event) {
+    if (is_opened(*event) || event->type() == QEvent::MouseButtonPress || event->type() == QEvent::KeyPress) {
+        read();
+    }
+    return TypedView::eventFilter(watched, event);
 }
 
 DirectoryView::DirectoryView(DirListBox& control, QTreeView& widget) : TypedView(control, widget) {
-    model_.setFilter(QDir::AllDirs | QDir::NoDotAndDotDot | QDir::Drives);
-    model_.setRootPath(QString());
-    const std::unique_ptr<QItemSelectionModel> former(widget.selectionModel());
-    widget.setModel(&model_);
     widget.setHeaderHidden(true);
-    for (int column = 1; column < model_.columnCount(); ++column) {
-        widget.hideColumn(column);
+}
+
+void DirectoryView::read() {
+    auto model = std::make_unique<QFileSystemModel>();
+    model->setFilter(QDir::AllDirs | QDir::NoDotAndDotDot | QDir::Drives);
+    model->setRootPath(QString());
+    const std::unique_ptr<QItemSelectionModel> former(widget_.selectionModel());
+    widget_.setModel(model.get());
+    model_ = std::move(model);
+    for (int column = 1; column < model_->columnCount(); ++column) {
+        widget_.hideColumn(column);
     }
-    connect(widget.selectionModel(), &QItemSelectionModel::currentChanged, this,
+    connect(widget_.selectionModel(), &QItemSelectionModel::currentChanged, this,
             [this](const QModelIndex& index) {
                 if (!pushing_ && index.isValid()) {
-                    guarded(control_.form(), [&] { control_.Path = path_from_qt(model_.filePath(index)); });
+                    guarded(control_.form(), [&] { control_.Path = path_from_qt(model_->filePath(index)); });
                 }
             });
+    push(PropertyId::Path);
 }
 
 void DirectoryView::push(PropertyId id) {
-    const QModelIndex index = model_.index(path_to_qt(control_.Path()));
+    const QModelIndex index = model_->index(path_to_qt(control_.Path()));
     if (id != PropertyId::Path || control_.Path().empty() || index == widget_.currentIndex()) {
         return;
     }
@@ -55,6 +82,13 @@ void DirectoryView::push(PropertyId id) {
     widget_.setCurrentIndex(index);
     widget_.expand(index);
     widget_.scrollTo(index);
+}
+
+bool DirectoryView::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == &widget_ && is_opened(*event)) {
+        read();
+    }
+    return TypedView::eventFilter(watched, event);
 }
 
 } // namespace quittika

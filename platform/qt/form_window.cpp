@@ -72,7 +72,7 @@ QString window_title(const std::string& caption) {
 FormWindow::FormWindow(Form& form, QtDesktop& desktop) : form_(form), desktop_(desktop) {
     for (Control* control : form.controls()) {
         if (auto* timer = dynamic_cast<Timer*>(control)) {
-            auto view = std::make_unique<TimerView>(*timer);
+            auto view = std::make_unique<TimerView>(*timer, desktop);
             timers_.push_back(view.get());
             timer->attach(std::move(view));
         }

@@ -112,7 +112,21 @@ void QtDesktop::beep() {
 }
 
 void QtDesktop::later(std::function<void()> work) {
-    QTimer::singleShot(0, &context_, [work = std::move(work)] { guarded(work); });
+    QTimer::singleShot(0, &context_, [this, work = std::move(work)]() mutable {
+        if (standing_still()) {
+            waiting_.push_back(std::move(work));
+        } else {
+            guarded(work);
+        }
+    });
+}
+
+QtDesktop::Standstill::~Standstill() {
+    if (--desktop_.standstills_ == 0) {
+        for (std::function<void()>& work : std::exchange(desktop_.waiting_, {})) {
+            desktop_.later(std::move(work));
+        }
+    }
 }
 
 void QtDesktop::end() {

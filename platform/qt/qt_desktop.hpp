@@ -48,6 +48,20 @@ public:
     /// Window of an adopted form, built if need be, but not shown; null without a design.
     QWidget* window(Form& form);
 
+    /// Whether the program itself stands still because long work is under way.
+    bool standing_still() const { return standstills_ > 0; }
+    /// While one lives, no timer ticks, and what is to be done later waits.
+    class Standstill {
+    public:
+        explicit Standstill(QtDesktop& desktop) : desktop_(desktop) { ++desktop_.standstills_; }
+        Standstill(const Standstill&) = delete;
+        Standstill& operator=(const Standstill&) = delete;
+        ~Standstill();
+
+    private:
+        QtDesktop& desktop_;
+    };
+
     // For the windows themselves.
     QWidget* main_window() const { return main_; }
     std::unique_ptr<QWidget> new_window(const Form& form) const { return build_(form.name()); }
@@ -69,6 +83,8 @@ private:
     std::optional<WindowPlaces> places_;
     QPointer<QWidget> main_; ///< the first main window that was built
     QObject context_;        ///< work that is still to be done goes with it
+    std::vector<std::function<void()>> waiting_; ///< for the end of a standstill
+    int standstills_ = 0;
     bool ended_ = false;
 };
 

@@ -1,5 +1,6 @@
 #include "platform/qt/qt_dialogs.hpp"
 
+#include "platform/dateiname.hpp"
 #include "platform/laufzeitfehler.hpp"
 #include "platform/qt/colors.hpp"
 #include "platform/qt/message_box.hpp"
@@ -68,12 +69,16 @@ void QtDialogs::prepare(QFileDialog& window, const FileDialog& dialog) const {
         window.setNameFilters(filters);
     }
     if (!dialog.proposed_name.empty()) {
-        const QFileInfo proposed(path_to_qt(dialog.proposed_name));
-        if (proposed.isAbsolute() && proposed.dir().exists()) {
-            window.setDirectory(proposed.dir());
-        }
-        window.selectFile(proposed.fileName());
+        window.selectFile(path_to_qt(DATEINAME_BEREINIGEN(dialog.proposed_name)));
     }
+}
+
+void QtDialogs::prepare_for_new(QFileDialog& window, const FileDialog& dialog) const {
+    window.setFileMode(QFileDialog::AnyFile);
+    prepare(window, dialog);
+    window.setDefaultSuffix(default_suffix(window.selectedNameFilter()));
+    QObject::connect(&window, &QFileDialog::filterSelected, &window,
+                     [&window](const QString& filter) { window.setDefaultSuffix(default_suffix(filter)); });
 }
 
 std::string QtDialogs::run(QFileDialog& window) {
@@ -87,19 +92,20 @@ std::string QtDialogs::run(QFileDialog& window) {
 
 std::string QtDialogs::open_file(const FileDialog& dialog) {
     QFileDialog window(dialog_parent());
-    window.setFileMode(QFileDialog::ExistingFile);
-    prepare(window, dialog);
+    if (dialog.must_exist) {
+        window.setFileMode(QFileDialog::ExistingFile);
+        prepare(window, dialog);
+    } else {
+        prepare_for_new(window, dialog);
+        window.setLabelText(QFileDialog::Accept, QStringLiteral("Auswählen"));
+    }
     return run(window);
 }
 
 std::string QtDialogs::save_file(const FileDialog& dialog) {
     QFileDialog window(dialog_parent());
     window.setAcceptMode(QFileDialog::AcceptSave);
-    window.setFileMode(QFileDialog::AnyFile);
-    prepare(window, dialog);
-    window.setDefaultSuffix(default_suffix(window.selectedNameFilter()));
-    QObject::connect(&window, &QFileDialog::filterSelected, &window,
-                     [&window](const QString& filter) { window.setDefaultSuffix(default_suffix(filter)); });
+    prepare_for_new(window, dialog);
     return run(window);
 }
 

@@ -30,6 +30,8 @@ public:
 
 private:
     void prepare(QFileDialog& window, const FileDialog& dialog) const;
+    /// The same for a dialog that takes names of files that do not exist yet, with the filter's ending.
+    void prepare_for_new(QFileDialog& window, const FileDialog& dialog) const;
     std::string run(QFileDialog& window);
 
     PrinterChoice& printer_;

@@ -5,6 +5,7 @@
 #include "platform/qt/printer_choice.hpp"
 #include "platform/qt/qt_desktop.hpp"
 #include "platform/qt/qt_dialogs.hpp"
+#include "platform/qt/qt_progress.hpp"
 #include "platform/qt/qt_shell.hpp"
 
 namespace quittika {
@@ -12,7 +13,7 @@ namespace quittika {
 /// The whole platform on real windows; one for the program, after its `QtApplication`.
 class QtPlatform {
 public:
-    Platform platform() { return {desktop_, dialogs_, shell_, clock_, printing_}; }
+    Platform platform() { return {desktop_, dialogs_, shell_, clock_, printing_, progress_}; }
     QtDesktop& desktop() { return desktop_; }
     const QtPrinting& printing() const { return printing_; }
 
@@ -23,6 +24,7 @@ private:
     QtShell shell_;
     QtClock clock_;
     QtPrinting printing_{[this] { return &printer_.printer(); }};
+    QtProgress progress_{desktop_};
 };
 
 } // namespace quittika

@@ -1,10 +1,11 @@
 #include "platform/qt/timer_view.hpp"
 
 #include "platform/qt/guard.hpp"
+#include "platform/qt/qt_desktop.hpp"
 
 namespace quittika {
 
-TimerView::TimerView(Timer& control) : control_(control) {
+TimerView::TimerView(Timer& control, const QtDesktop& desktop) : control_(control), desktop_(desktop) {
     QObject::connect(&timer_, &QTimer::timeout, &timer_, [this] { tick(); });
 }
 
@@ -27,7 +28,7 @@ void TimerView::update() {
 
 void TimerView::tick() {
     update();
-    if (ticking_ || !control_.running() || !control_.Tick) {
+    if (ticking_ || desktop_.standing_still() || !control_.running() || !control_.Tick) {
         return;
     }
     ticking_ = true;

@@ -6,10 +6,13 @@
 
 namespace quittika {
 
-/// Lets a timer control tick. A tick that is still being handled is not followed by another.
+class QtDesktop;
+
+/// Lets a timer control tick. A tick that is still being handled is not followed by another, and while the
+/// desktop stands still there is none.
 class TimerView final : public ControlView {
 public:
-    explicit TimerView(Timer& control);
+    TimerView(Timer& control, const QtDesktop& desktop);
 
     void property_changed(PropertyId id) override;
     /// Starts or stops as the control and its form want it.
@@ -19,6 +22,7 @@ private:
     void tick();
 
     Timer& control_;
+    const QtDesktop& desktop_;
     QTimer timer_;
     bool ticking_ = false;
 };

@@ -52,20 +52,35 @@ Commands::Commands(ScriptPlatform& platform, std::ostream& out)
     : platform_(platform), out_(out), user_(platform.desktop) {}
 
 void Commands::run(std::string_view name, std::string_view arguments) {
-    static constexpr std::array<Entry, 26> kCommands{{
-        {"get", &Commands::get, true},         {"items", &Commands::items, true},
-        {"forms", &Commands::forms, false},    {"controls", &Commands::controls, true},
-        {"boxes", &Commands::boxes, false},    {"dialogs", &Commands::dialogs, false},
-        {"opened", &Commands::opened, false},  {"pages", &Commands::pages, false},
-        {"set", &Commands::set, true},         {"type", &Commands::type, true},
-        {"click", &Commands::click, true},     {"dblclick", &Commands::dblclick, true},
-        {"select", &Commands::select, true},   {"key", &Commands::key, true},
-        {"mouse", &Commands::mouse, true},     {"drop", &Commands::drop, true},
-        {"close", &Commands::close, true},     {"answer", &Commands::answer, true},
-        {"file", &Commands::file, true},       {"color", &Commands::color, true},
-        {"font", &Commands::font, true},       {"printer", &Commands::printer, true},
-        {"cancel", &Commands::cancel, false},  {"fail", &Commands::fail, true},
-        {"printto", &Commands::printto, true}, {"clock", &Commands::clock, true},
+    static constexpr std::array<Entry, 28> kCommands{{
+        {"get", &Commands::get, true},
+        {"items", &Commands::items, true},
+        {"forms", &Commands::forms, false},
+        {"controls", &Commands::controls, true},
+        {"boxes", &Commands::boxes, false},
+        {"dialogs", &Commands::dialogs, false},
+        {"opened", &Commands::opened, false},
+        {"pages", &Commands::pages, false},
+        {"set", &Commands::set, true},
+        {"type", &Commands::type, true},
+        {"click", &Commands::click, true},
+        {"dblclick", &Commands::dblclick, true},
+        {"select", &Commands::select, true},
+        {"key", &Commands::key, true},
+        {"mouse", &Commands::mouse, true},
+        {"drop", &Commands::drop, true},
+        {"close", &Commands::close, true},
+        {"answer", &Commands::answer, true},
+        {"file", &Commands::file, true},
+        {"color", &Commands::color, true},
+        {"font", &Commands::font, true},
+        {"printer", &Commands::printer, true},
+        {"cancel", &Commands::cancel, false},
+        {"fail", &Commands::fail, true},
+        {"printto", &Commands::printto, true},
+        {"clock", &Commands::clock, true},
+        {"progress", &Commands::progress, false},
+        {"abort", &Commands::abort, false},
     }};
     const auto found = std::find_if(kCommands.begin(), kCommands.end(),
                                     [name](const Entry& entry) { return entry.name == name; });
@@ -133,6 +148,10 @@ void Commands::pages(std::string_view /*arguments*/) {
     for (const auto& job : platform_.printing.jobs()) {
         lines(listing(*job));
     }
+}
+
+void Commands::progress(std::string_view /*arguments*/) {
+    lines(platform_.progress.take_displays());
 }
 
 void Commands::set(std::string_view arguments) {
@@ -216,6 +235,10 @@ void Commands::cancel(std::string_view /*arguments*/) {
 
 void Commands::fail(std::string_view arguments) {
     platform_.dialogs.queue(choice::Failure{number(arguments, 1)});
+}
+
+void Commands::abort(std::string_view /*arguments*/) {
+    platform_.progress.queue_abort();
 }
 
 void Commands::printto(std::string_view arguments) {

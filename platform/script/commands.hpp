@@ -31,6 +31,7 @@ private:
     void dialogs(std::string_view arguments);
     void opened(std::string_view arguments);
     void pages(std::string_view arguments);
+    void progress(std::string_view arguments);
     void set(std::string_view arguments);
     void type(std::string_view arguments);
     void click(std::string_view arguments);
@@ -47,6 +48,7 @@ private:
     void printer(std::string_view arguments);
     void cancel(std::string_view arguments);
     void fail(std::string_view arguments);
+    void abort(std::string_view arguments);
     void printto(std::string_view arguments);
     void clock(std::string_view arguments);
 

@@ -1,5 +1,6 @@
 #include "platform/script/script_dialogs.hpp"
 
+#include "platform/dateiname.hpp"
 #include "platform/laufzeitfehler.hpp"
 #include "platform/script/protocol.hpp"
 
@@ -93,7 +94,8 @@ template <class Wanted> Choice ScriptDialogs::take() {
 template <class Wanted> Wanted ScriptDialogs::run(const char* kind, const FileDialog& dialog) {
     const Choice entry = take<Wanted>();
     const std::string answer = std::visit([](const auto& chosen) { return text_of(chosen); }, entry);
-    dialogs_.push_back(line_of({"dialog", kind, dialog.filter, dialog.proposed_name, dialog.title, answer}));
+    dialogs_.push_back(line_of(
+        {"dialog", kind, dialog.filter, DATEINAME_BEREINIGEN(dialog.proposed_name), dialog.title, answer}));
     if (const auto* failure = std::get_if<choice::Failure>(&entry)) {
         throw Laufzeitfehler(failure->error);
     }

@@ -5,6 +5,7 @@
 #include "platform/script/script_desktop.hpp"
 #include "platform/script/script_dialogs.hpp"
 #include "platform/script/script_printing.hpp"
+#include "platform/script/script_progress.hpp"
 #include "platform/script/script_shell.hpp"
 
 #include <utility>
@@ -21,8 +22,9 @@ struct ScriptPlatform {
     ScriptDialogs dialogs;
     ScriptShell shell;
     ScriptPrinting printing;
+    ScriptProgress progress;
 
-    Platform view() { return {desktop, dialogs, shell, clock, printing}; }
+    Platform view() { return {desktop, dialogs, shell, clock, printing, progress}; }
 };
 
 } // namespace quittika

@@ -1,6 +1,7 @@
 #include "platform/script/user_values.hpp"
 
 #include "platform/forms/controls.hpp"
+#include "platform/laufwerke.hpp"
 #include "platform/script/lookup.hpp"
 #include "platform/script/protocol.hpp"
 
@@ -85,12 +86,24 @@ Deed set_range(RangeControl& range, const std::string& value) {
     return [&range, wanted] { range.Value = wanted; };
 }
 
-template <class List> Deed set_path(List& list, const std::string& value) {
-    std::error_code error;
-    if (!std::filesystem::is_directory(std::filesystem::path(value), error)) {
+Deed set_drive(DriveListBox& list, const std::string& value) {
+    const std::vector<Laufwerk> drives = LAUFWERKE();
+    if (std::none_of(drives.begin(), drives.end(),
+                     [&](const Laufwerk& drive) { return drive.pfad == value; })) {
         refuse_value(list, value);
     }
     return [&list, value] { list.Path = value; };
+}
+
+Deed set_directory(DirListBox& list, const std::string& value) {
+    std::error_code error;
+    if (!std::filesystem::is_directory(value, error)) {
+        refuse_value(list, value);
+    }
+    // A click gives the path without detours and without a "/" at its end.
+    const std::filesystem::path path = std::filesystem::absolute(value).lexically_normal();
+    const bool ends_with_mark = path.has_relative_path() && !path.has_filename();
+    return [&list, chosen = (ends_with_mark ? path.parent_path() : path).string()] { list.Path = chosen; };
 }
 
 /// Value of a hexadecimal digit, -1 for anything else.
@@ -147,10 +160,10 @@ std::function<void()> setter(Control& control, const std::string& value) {
         return set_combo_box(*combo, value);
     }
     if (auto* const drives = dynamic_cast<DriveListBox*>(&control)) {
-        return set_path(*drives, value);
+        return set_drive(*drives, value);
     }
     if (auto* const directories = dynamic_cast<DirListBox*>(&control)) {
-        return set_path(*directories, value);
+        return set_directory(*directories, value);
     }
     auto* const range = dynamic_cast<RangeControl*>(&control);
     if (range != nullptr && control.kind() != "ProgressBar") {

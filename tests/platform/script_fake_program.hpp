@@ -49,6 +49,9 @@ struct Haupt : Form {
     CommandButton Drucken{*this, "Drucken"};
     CommandButton Bild{*this, "Bild"};
     CommandButton Spaeter{*this, "Spaeter"};
+    CommandButton Arbeit{*this, "Arbeit"};
+    DriveListBox Laufwerk{*this, "Laufwerk"};
+    DirListBox Ordner{*this, "Ordner"};
     Timer Schnell{*this, "Schnell", 400, false};
     Timer Langsam{*this, "Langsam", 1000, false};
 };
@@ -135,14 +138,24 @@ private:
             platform_.desktop.later([this] { log("danach"); });
             log("davor");
         };
+        haupt_.Arbeit.Click = [this] { work(); };
         haupt_.Dialoge.Click = [this] {
             attempt([this] { return platform_.dialogs.open_file({"Bild|*.bmp", "", ""}); });
-            attempt([this] { return platform_.dialogs.save_file({"", "x.txt", "Sichern"}); });
+            attempt([this] { return platform_.dialogs.save_file({"", "5/08\tx.txt", "Sichern"}); });
             attempt([this] { return std::to_string(platform_.dialogs.choose_color(0)); });
             attempt([this] { return platform_.dialogs.choose_font("Arial"); });
         };
         haupt_.Drucken.Click = [this] { print(); };
         haupt_.Bild.Click = [this] { platform_.printing.printer("Bild")->picture(1, 2, 3, 4, directory_); };
+    }
+
+    void work() {
+        platform_.progress.begin("nichts zu tun");
+        const auto progress = platform_.progress.begin("a|b");
+        for (int step = 1; step <= 3 && !progress->aborted(); ++step) {
+            log("Schritt " + std::to_string(step));
+            progress->update(static_cast<std::size_t>(step), 3);
+        }
     }
 
     template <class Ask> void attempt(const Ask& ask) {

@@ -149,7 +149,7 @@ fail 75
 click form1.Dialoge
 dialogs
 = dialog|open|Bild\p*.bmp|||C:\\a b\pc.bmp
-= dialog|save||x.txt|Sichern|fail 75
+= dialog|save||5-08 x.txt|Sichern|fail 75
 = dialog|color||||65535
 = dialog|font||||Comic Sans MS
 cancel
@@ -157,7 +157,7 @@ file x
 click form1.Dialoge
 dialogs
 = dialog|open|Bild\p*.bmp|||cancel
-= dialog|save||x.txt|Sichern|x
+= dialog|save||5-08 x.txt|Sichern|x
 = dialog|color||||cancel
 = dialog|font||||cancel
 items form1.Log
@@ -244,6 +244,33 @@ items form1.Log
 = Rolle 9
 = davor
 = danach
+)"},
+    {"abort_ends_the_next_work_that_moves", R"(abort
+click form1.Arbeit
+click form1.Arbeit
+progress
+= progress|nichts zu tun|done
+= progress|a\pb|aborted
+= progress|nichts zu tun|done
+= progress|a\pb|done
+progress
+items form1.Log
+= Start dir
+= Schritt 1
+= Schritt 1
+= Schritt 2
+= Schritt 3
+)"},
+    {"directories_are_chosen_as_by_hand", R"(set form1.Laufwerk /
+set form1.Laufwerk /usr
+= error: form1.Laufwerk kann nicht "/usr" werden
+get form1.Laufwerk
+= /
+set form1.Ordner /usr/../usr/
+set form1.Ordner /gibt/es/nicht
+= error: form1.Ordner kann nicht "/gibt/es/nicht" werden
+get form1.Ordner
+= /usr
 )"},
 };
 INSTANTIATE_TEST_SUITE_P(Talks, ScriptTalk, testing::ValuesIn(kTalks),

@@ -141,6 +141,26 @@ TEST_F(DialogsTest, SavingProposesANameAddsTheEndingAndRemembersTheFolder) {
     EXPECT_EQ(error_of([&] { dialogs.open_file({"Rechnungen (*.rn)|*.rn", "", ""}); }), 32755);
 }
 
+TEST_F(DialogsTest, OpeningTakesANewNameWhereItMay) {
+    QTemporaryDir folder;
+    const auto choose = [&](bool must_exist) {
+        on_dialog<QFileDialog>([&](QFileDialog& window) {
+            EXPECT_EQ(window.acceptMode(), QFileDialog::AcceptOpen);
+            EXPECT_EQ(QFileInfo(window.selectedFiles().value(0)).fileName(), "5-08.txt");
+            window.setDirectory(folder.path());
+            window.selectFile("neu.txt");
+            if (must_exist) {
+                on_dialog<QMessageBox>([](QMessageBox& box) { box.accept(); }); // there is no such file
+            }
+            QMetaObject::invokeMethod(&window, "accept");
+            window.reject();
+        });
+        return dialogs.open_file({"Texte (*.txt)|*.txt", "5/08.txt", "", must_exist});
+    };
+    EXPECT_EQ(QString::fromStdString(choose(false)), folder.filePath("neu.txt"));
+    EXPECT_EQ(error_of([&] { choose(true); }), 32755);
+}
+
 TEST_F(DialogsTest, CancelledColourIsAnErrorAndAChosenOneIsNot) {
     on_dialog<QColorDialog>([](QColorDialog& window) { window.reject(); });
     EXPECT_EQ(error_of([&] { dialogs.choose_color(color::kYellow); }), 32755);
