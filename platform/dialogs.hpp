@@ -33,7 +33,7 @@ struct FileDialog {
 
 struct PrinterDialog {
     int copies = 1; ///< that stand in the dialog at first
-    /// File name that stands in the dialog at first, for a user who prints into a file.
+    /// File name that stands in the dialog at first, for a user who prints into a file; as above.
     std::string proposed_name;
 };
 

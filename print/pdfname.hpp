@@ -7,8 +7,7 @@
 
 namespace quittika {
 
-/// File name offered where the document in hand is printed into a file: its title line and the customer,
-/// without the characters that file names must not hold, short enough for every file system.
+/// File name offered where the document in hand is printed into a file: its title line and the customer.
 std::string PDFNAME_VORSCHLAGEN(const Form1& form1, const frm_einstellungen& einstellungen);
 
 } // namespace quittika

@@ -7,13 +7,6 @@
 
 namespace quittika {
 
-std::string DATEINAME_BEREINIGEN(std::string name) {
-    for (const char* zeichen : {":", "!", "@", "/", "\\", ";", ",", ".", "?", "*"}) {
-        name = ZEICHENERSETZEN(name, zeichen, " ");
-    }
-    return name;
-}
-
 std::string DATEINAME_VORSCHLAGEN(const Form1& form1) {
     constexpr int kFalscherTyp = 13;
     constexpr std::size_t kLaenge = 127;
@@ -21,11 +14,14 @@ std::string DATEINAME_VORSCHLAGEN(const Form1& form1) {
     if (!datum) {
         throw Laufzeitfehler(kFalscherTyp);
     }
-    const std::string name = std::to_string(datum->jahr) + "-" + format_zahl(datum->monat, "00") + "-" +
-                             format_zahl(datum->tag, "00") + "+" + form1.Text_rechnung.Text() + " " +
-                             form1.Text_RNnr.Text() + "+" + form1.Text_KundennrK.Text() + "+" +
-                             form1.Text_Kunde_1.Text();
-    return links(DATEINAME_BEREINIGEN(name), kLaenge) + ".qk8";
+    std::string name = std::to_string(datum->jahr) + "-" + format_zahl(datum->monat, "00") + "-" +
+                       format_zahl(datum->tag, "00") + "+" + form1.Text_rechnung.Text() + " " +
+                       form1.Text_RNnr.Text() + "+" + form1.Text_KundennrK.Text() + "+" +
+                       form1.Text_Kunde_1.Text();
+    for (const char* zeichen : {":", "!", "@", "/", "\\", ";", ",", ".", "?", "*"}) {
+        name = ZEICHENERSETZEN(name, zeichen, " ");
+    }
+    return links(name, kLaenge) + ".qk8";
 }
 
 } // namespace quittika

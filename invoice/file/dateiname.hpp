@@ -6,9 +6,6 @@
 
 namespace quittika {
 
-/// The text with a blank for each character that file names must not hold.
-std::string DATEINAME_BEREINIGEN(std::string name);
-
 /// File name offered on saving: date, title, number, customer number and name, without the characters that
 /// file names must not hold, at most 127 characters before ".qk8".
 /// Throws `Laufzeitfehler` 13 when `Text_Datum` is no date.

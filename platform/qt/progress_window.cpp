@@ -32,6 +32,7 @@ ProgressWindow::ProgressWindow(const QString& text, QWidget* parent)
     setFocusPolicy(Qt::StrongFocus); // what is typed on must not press the button
     setFocus();
     auto* heading = new QLabel(text, this);
+    heading->setObjectName(QStringLiteral("Vorgang"));
     heading->setTextFormat(Qt::PlainText);
     heading->setWordWrap(true);
     heading->setMinimumWidth(fontMetrics().averageCharWidth() * kCharacters);

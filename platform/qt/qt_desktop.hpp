@@ -81,8 +81,8 @@ private:
     BuildWindow build_;
     std::vector<FormWindow*> windows_; ///< owned by their forms
     std::optional<WindowPlaces> places_;
-    QPointer<QWidget> main_; ///< the first main window that was built
-    QObject context_;        ///< work that is still to be done goes with it
+    QPointer<QWidget> main_;                     ///< the first main window that was built
+    QObject context_;                            ///< work that is still to be done goes with it
     std::vector<std::function<void()>> waiting_; ///< for the end of a standstill
     int standstills_ = 0;
     bool ended_ = false;

@@ -131,7 +131,8 @@ int QtDialogs::choose_printer(const PrinterDialog& dialog) {
     QPrinter& printer = printer_.printer();
     printer.setCopyCount(std::clamp(dialog.copies, 1, kAllCopies));
     const QDir folder(folder_.isEmpty() ? QDir::homePath() : folder_);
-    PrintDialog window(printer, folder.filePath(path_to_qt(dialog.proposed_name)), dialog_parent());
+    PrintDialog window(printer, folder.filePath(path_to_qt(DATEINAME_BEREINIGEN(dialog.proposed_name))),
+                       dialog_parent());
     if (window.exec() != QDialog::Accepted) {
         throw Laufzeitfehler(fehler::kDialogAbgebrochen);
     }

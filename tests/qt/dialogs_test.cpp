@@ -151,9 +151,9 @@ TEST_F(DialogsTest, OpeningTakesANewNameWhereItMay) {
             window.selectFile("neu.txt");
             if (must_exist) {
                 on_dialog<QMessageBox>([](QMessageBox& box) { box.accept(); }); // there is no such file
+                QTimer::singleShot(50, &window, &QDialog::reject);
             }
             QMetaObject::invokeMethod(&window, "accept");
-            window.reject();
         });
         return dialogs.open_file({"Texte (*.txt)|*.txt", "5/08.txt", "", must_exist});
     };

@@ -72,7 +72,7 @@ protected:
 };
 
 TEST_F(ProgressTest, NothingButTheDisplayTakesInputUntilItIsAborted) {
-    Painted painted(*main_window().findChild<QWidget*>("Cmd_Add_To_list"));
+    Painted painted(main_window());
     QElapsedTimer time;
     time.start();
     qint64 appeared = 0;
@@ -84,11 +84,10 @@ TEST_F(ProgressTest, NothingButTheDisplayTakesInputUntilItIsAborted) {
             paints_before = painted.times;
             EXPECT_EQ(window.parentWidget(), &main_window());
             EXPECT_EQ(window.windowTitle(), "Quittika 2008");
-            EXPECT_EQ(window.findChild<QLabel*>()->text(), "Rechnungen werden <b>gelesen</b>");
-            EXPECT_EQ(window.findChild<QLabel*>()->textFormat(), Qt::PlainText);
+            EXPECT_EQ(window.findChild<QLabel*>("Vorgang")->text(), "Rechnungen werden <b>gelesen</b>");
+            EXPECT_EQ(window.findChild<QLabel*>("Vorgang")->textFormat(), Qt::PlainText);
             main_window().update();
             click_main_window();
-            main_window().close();
         } else if (shown_for == 40) {
             EXPECT_GT(window.findChild<QProgressBar*>()->value(), 300);
             QTest::mouseClick(window.findChild<QPushButton*>(), Qt::LeftButton);
@@ -104,7 +103,7 @@ TEST_F(ProgressTest, NothingButTheDisplayTakesInputUntilItIsAborted) {
     QTest::qWait(20);
     EXPECT_TRUE(happened.starts_with("later tick ")) << happened;
     click_main_window();
-    EXPECT_TRUE(happened.ends_with("click ")) << happened;
+    EXPECT_NE(happened.find("click"), std::string::npos) << happened;
 }
 
 TEST_F(ProgressTest, EscapeAbortsAndTheReturnKeyDoesNot) {
