@@ -70,6 +70,15 @@ void DirectoryView::read() {
                     guarded(control_.form(), [&] { control_.Path = path_from_qt(model_->filePath(index)); });
                 }
             });
+    connect(model_.get(), &QFileSystemModel::directoryLoaded, this, [this](const QString& loaded) {
+        if (path_to_qt(control_.Path()).startsWith(loaded)) {
+            // Its rows are sorted in a moment; only then the chosen one stands where it stays.
+            connect(
+                model_.get(), &QFileSystemModel::layoutChanged, this,
+                [this] { widget_.scrollTo(widget_.currentIndex(), QAbstractItemView::PositionAtCenter); },
+                static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::SingleShotConnection));
+        }
+    });
     push(PropertyId::Path);
 }
 
@@ -81,7 +90,7 @@ void DirectoryView::push(PropertyId id) {
     const Pushing here(pushing_);
     widget_.setCurrentIndex(index);
     widget_.expand(index);
-    widget_.scrollTo(index);
+    widget_.scrollTo(index, QAbstractItemView::PositionAtCenter);
 }
 
 bool DirectoryView::eventFilter(QObject* watched, QEvent* event) {

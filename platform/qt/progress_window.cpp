@@ -48,7 +48,11 @@ ProgressWindow::ProgressWindow(const QString& text, QWidget* parent)
     abort_->setAutoDefault(false);
     connect(abort_, &QPushButton::clicked, this, &ProgressWindow::reject);
 
+    const int room = fontMetrics().height();
+    abort_->setMinimumWidth(abort_->sizeHint().width() + room);
     auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(room, room, room, room);
+    column->setSpacing(room * 2 / 3);
     column->addWidget(heading);
     column->addWidget(bar_);
     auto* row = new QHBoxLayout;
@@ -59,6 +63,7 @@ ProgressWindow::ProgressWindow(const QString& text, QWidget* parent)
 }
 
 void ProgressWindow::appear() {
+    adjustSize(); // the size that its place is reckoned from
     show();
     const QDeadlineTimer deadline(kLongestOpening);
     while (!windowHandle()->isExposed() && !deadline.hasExpired()) {
