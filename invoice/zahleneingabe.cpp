@@ -59,6 +59,17 @@ std::optional<std::string> mit_einem_komma(std::string_view text) {
     return ersetzen(vorn, ".", "") + std::string(hinten);
 }
 
+/// "5,-" and "5,--" are whole amounts: what stands in front of the comma.
+std::string_view ohne_pfennigstrich(std::string_view text) {
+    const std::size_t komma = text.find(',');
+    if (komma == std::string_view::npos || komma == 0) {
+        return text;
+    }
+    const std::string_view hinten = text.substr(komma + 1);
+    const bool strich = hinten == "-" || hinten == "--" || hinten == "–" || hinten == "—";
+    return strich ? text.substr(0, komma + 1) : text;
+}
+
 bool wie_tausender(std::string_view text) {
     const bool ein_punkt = std::count(text.begin(), text.end(), '.') == 1;
     const std::string_view ziffern = ohne_vorzeichen(text);
@@ -73,11 +84,15 @@ std::string MIT_KOMMA(std::string_view text) {
 
 std::string KEINE_ZAHL(std::string_view getippt) {
     constexpr std::size_t kHoechstens = 30;
+    if (gekuerzt(getippt).empty()) {
+        return "Ein leeres Feld ist keine Zahl";
+    }
     return "\"" + links(getippt, kHoechstens) + "\" ist keine Zahl";
 }
 
 std::optional<Zahleneingabe> ZAHL_LESEN(std::string_view getippt) {
-    const std::string text = gekuerzt(getippt);
+    const std::string gekuerzter = gekuerzt(getippt);
+    const std::string_view text = ohne_pfennigstrich(gekuerzter);
     std::optional<std::string> zahl = mit_einem_komma(text);
     const std::optional<double> wert = zahl ? double_versuch(*zahl) : std::nullopt;
     if (!wert) {

@@ -14,7 +14,8 @@ struct Zahleneingabe {
 };
 
 /// Reads a typed number. A comma is the decimal mark; points in front of it part thousands, strictly in
-/// groups of three digits. Without a comma one point is the decimal mark. Nothing for every other text.
+/// groups of three digits. Without a comma one point is the decimal mark. "5,-" is 5. Nothing for every other
+/// text.
 std::optional<Zahleneingabe> ZAHL_LESEN(std::string_view getippt);
 
 /// The text with each point as a comma: how a text that is no number stays in its field.

@@ -59,6 +59,10 @@ TEST(Zahleneingabe, PunkteVorDemKommaSindTausender) {
     };
     const Fall faelle[] = {
         {"1.999,99", 1999.99, false},
+        {"5,-", 5, false},
+        {"1.200,-- ", 1200, false},
+        {"-5,–", -5, false},
+        {"5-", -5, false},
         {"12.345.678,90", 12345678.9, false},
         {" -1.234,5 ", -1234.5, false},
         {"1.234,5-", -1234.5, false},
