@@ -18,7 +18,7 @@ public:
     struct Teile {
         Form1& form1;
         const frm_einstellungen& einstellungen;
-        const PROGRAMMEINSTELLUNG& werte;
+        PROGRAMMEINSTELLUNG& werte;
         Rechnungszustand& zustand;
         const Programmverzeichnis& verzeichnis;
         Platform& platform;

@@ -201,10 +201,11 @@ void Hauptfenster::BetraegeVerdrahten() {
          {static_cast<Control*>(&f.Option_mwst_plus), static_cast<Control*>(&f.Option_mwst_minus),
           static_cast<Control*>(&f.Option_inkl_MwSt), static_cast<Control*>(&f.Check_RABATT),
           static_cast<Control*>(&f.Check_Versandkosten), static_cast<Control*>(&f.Check_VersandMwStEXTRA),
-          static_cast<Control*>(&f.Check_VersandINKL_MwSt), static_cast<Control*>(&f.Check_mengenartDECIMAL),
-          static_cast<Control*>(&f.Check_000)}) {
+          static_cast<Control*>(&f.Check_VersandINKL_MwSt), static_cast<Control*>(&f.Check_000)}) {
         schalter->Click = aenderung();
     }
+    f.Check_mengenartDECIMAL.Click =
+        aenderung([this] { t_.werte.MENGE_DEZIMAL = t_.form1.Check_mengenartDECIMAL.ticked(); });
     f.Check_mwst.Click = aenderung([this] { Check_mwst_Click(); });
     f.Option_Satz1.Click = aenderung([this] { t_.form1.Text_MwSt.Text = t_.werte.MWST_SATZ1; });
     f.Option_Satz2.Click = aenderung([this] { t_.form1.Text_MwSt.Text = t_.werte.MWST_SATZ2; });

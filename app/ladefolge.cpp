@@ -105,7 +105,6 @@ void Ladefolge::LayoutZeigen() {
 void Ladefolge::VorgabenUebernehmen() {
     Form1& f = z_.form1;
     z_.vorgaben.uebernehmen();
-    f.Check_datum.Value = z_.programm.Check_datum.Value();
     f.Text_rechnung.Text = z_.einstellungen.Text_rechnung.Text();
     f.Text_Datum.Text = datum_text(z_.platform.clock.now());
 }

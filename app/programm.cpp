@@ -32,13 +32,13 @@ struct Programm::Teile {
 
     Eingabezeile eingabezeile{form1, platform.dialogs};
     Rechnung rechnung{form1, zustand, eingabezeile, platform.clock};
-    Vorgaben vorgaben{form1, einstellungen, werte};
+    Vorgaben vorgaben{form1, einstellungen, programm, werte};
     Summen summen{form1,          einstellungen,
                   zustand,        eingabezeile,
                   platform.clock, [this] { return ANZAHL_DRUCKSEITEN(form1.List_K.items(), einstellungen); }};
     Leistungsspalte leistungsspalte{form1, einstellungen, werte, platform.printing.metrics()};
     Positionen positionen{
-        form1, zustand, eingabezeile, rechnung, summen, platform.dialogs, [this](int zeile) {
+        form1, zustand, eingabezeile, rechnung, summen, [this](int zeile) {
             return leistungsspalte.HINWEIS(zeile);
         }};
     Zeilenmenue zeilenmenue{form1, zustand, eingabezeile, rechnung, summen, positionen};

@@ -120,12 +120,32 @@ std::string Eingabezeile::grund(const TextBox& feld) const {
 
 void Eingabezeile::lesen() {
     abgelehnt_ = nullptr;
-    const double menge = uebernehmen(form1_.Text_Menge, menge_lesen());
-    if (abgelehnt_ != nullptr) {
-        dialogs_.message({"Ihre Eingabe ist nicht gültig!", "Achtung Fehler!"});
+    const std::optional<Feldwert> gelesen = menge_lesen();
+    auf_null_gerundet_ = gelesen && gelesen->wert == 0 && (auf_null_gerundet_ || !gelesen->hinweis.empty());
+    const double menge = uebernehmen(form1_.Text_Menge, gelesen);
+    if (abgelehnt_ == nullptr) {
+        beanstandet_.reset();
+    } else if (beanstandet_ != form1_.Text_Menge.Text()) {
+        beanstanden();
     }
     const double preis = uebernehmen(form1_.Text_preis, preis_lesen());
     summe_zeigen(menge, preis);
+}
+
+void Eingabezeile::beanstanden() {
+    beanstandet_ = MIT_KOMMA(form1_.Text_Menge.Text());
+    dialogs_.message({"Ihre Eingabe ist nicht gültig!", "Achtung Fehler!"});
+}
+
+void Eingabezeile::ungelesenes_melden() {
+    ungelesenes_melden(form1_.Text_Menge, Menge().has_value());
+    ungelesenes_melden(form1_.Text_preis, Preis().has_value());
+}
+
+void Eingabezeile::ungelesenes_melden(TextBox& feld, bool lesbar) {
+    if (!lesbar && gefuellt(feld)) {
+        form1_.Hinweise.melden(grund(feld) + " Gerechnet wird mit 0.", &feld);
+    }
 }
 
 /// The value that counts, which the field shows then; 0 where it needs none or holds no number.
@@ -134,7 +154,7 @@ double Eingabezeile::uebernehmen(TextBox& feld, const std::optional<Feldwert>& g
         return 0;
     }
     if (!gelesen) {
-        form1_.Hinweise.melden(grund(feld) + " Gerechnet wird mit 0.", &feld);
+        ungelesenes_melden(feld, false);
         feld.Text = MIT_KOMMA(feld.Text());
         abgelehnt_ = abgelehnt_ == nullptr ? &feld : abgelehnt_;
         return 0;
@@ -144,7 +164,15 @@ double Eingabezeile::uebernehmen(TextBox& feld, const std::optional<Feldwert>& g
     return gelesen->wert;
 }
 
+std::string Eingabezeile::nullgrund() const {
+    return auf_null_gerundet_ ? "Die Zeile bleibt, ihre Menge wurde auf 0 gerundet: Nachkommastellen erlaubt "
+                                "das Kästchen \"" +
+                                    BESCHRIFTUNG(form1_.Check_mengenartDECIMAL) + "\"."
+                              : std::string();
+}
+
 void Eingabezeile::mitrechnen() {
+    auf_null_gerundet_ = false;
     if (gefuellt(form1_.Text_Menge) && gefuellt(form1_.Text_preis)) {
         summe_zeigen(Menge().value_or(0), Preis().value_or(0));
     }
@@ -183,6 +211,7 @@ void Eingabezeile::felder_zeigen() {
 
 void Eingabezeile::zeile_setzen(int zeile) {
     zeile_ = zeile;
+    auf_null_gerundet_ = false;
     form1_.Command_AENDERN.Enabled = zeile >= 0;
     form1_.Hinweise.setzen(Hinweiszeile::Lage::Zeilenwahl,
                            zeile < 0 ? std::string()

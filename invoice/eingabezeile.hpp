@@ -15,9 +15,13 @@ class Eingabezeile {
 public:
     Eingabezeile(Form1& form1, Dialogs& dialogs);
 
-    /// Reads quantity and price, rewrites both in their formats and shows the row's total. Tells in a box
-    /// when the quantity is none, in panel 3 what was read otherwise than typed.
+    /// Reads quantity and price, rewrites both in their formats and shows the row's total. Tells in a box,
+    /// once a text, when the quantity is none, in panel 3 what was read otherwise than typed.
     void lesen();
+    /// The box about input that is none.
+    void beanstanden();
+    /// Tells in panel 3 what cannot be read, without a box and without rewriting it.
+    void ungelesenes_melden();
     /// Shows the row's total of what is being typed and leaves everything else alone.
     void mitrechnen();
 
@@ -33,6 +37,8 @@ public:
     };
     /// The first field whose text is no number, or makes the total none; nothing where all is well.
     std::optional<Ablehnung> pruefen() const;
+    /// Why the quantity 0 deletes no row: another one was typed and rounded. Empty where none was.
+    std::string nullgrund() const;
     /// Whether the row total was a number at the last reading.
     bool SummeGueltig() const { return summe_gueltig_; }
 
@@ -60,13 +66,16 @@ private:
     std::string_view betragsformat() const { return form1_.Check_000.ticked() ? "0.000" : "0.00"; }
     std::string grund(const TextBox& feld) const;
     double uebernehmen(TextBox& feld, const std::optional<Feldwert>& gelesen);
+    void ungelesenes_melden(TextBox& feld, bool lesbar);
     void summe_zeigen(double menge, double preis);
     void standardknopf_zeigen();
 
     Form1& form1_;
     Dialogs& dialogs_;
     bool summe_gueltig_ = true;
+    bool auf_null_gerundet_ = false; ///< the quantity shown is 0, but none that the user typed
     TextBox* abgelehnt_ = nullptr;
+    std::optional<std::string> beanstandet_; ///< quantity that the box told of last, as its field shows it
     int zeile_ = -1;
     bool fokus_ = false;
 };

@@ -17,20 +17,19 @@ constexpr const char* kLeer = " ";
 } // namespace
 
 Positionen::Positionen(Form1& form1, Rechnungszustand& zustand, Eingabezeile& eingabezeile,
-                       Rechnung& rechnung, Summen& summen, Dialogs& dialogs,
-                       std::function<std::string(int zeile)> Druckhinweis)
+                       Rechnung& rechnung, Summen& summen, std::function<std::string(int zeile)> Druckhinweis)
     : form1_(form1),
       zustand_(zustand),
       eingabezeile_(eingabezeile),
       rechnung_(rechnung),
       summen_(summen),
-      dialogs_(dialogs),
       druckhinweis_(std::move(Druckhinweis)) {}
 
 void Positionen::EingabezeileVerlassen() {
     if (eingabezeile_.Menge() && eingabezeile_.Preis()) {
         summen_.jetztberechnen_List();
     } else {
+        eingabezeile_.ungelesenes_melden();
         form1_.Text_gesamtp.Text = vorgabe::kBetrag;
     }
 }
@@ -53,7 +52,7 @@ Positionen::Eingabe Positionen::EingabePruefen() {
 
 void Positionen::EingabeAblehnen(const Eingabezeile::Ablehnung& ablehnung) {
     form1_.Hinweise.melden(ablehnung.grund, ablehnung.feld);
-    dialogs_.message({"Ihre Eingabe ist nicht gültig!", "Achtung Fehler!"});
+    eingabezeile_.beanstanden();
     Eingabezeile::hingehen(*ablehnung.feld);
 }
 
@@ -64,9 +63,10 @@ void Positionen::MengeNullMelden() {
 void Positionen::Cmd_Add_To_list_Click() {
     zustand_.aendern();
     if (!eingabezeile_.MengeIstZahl()) {
-        form1_.Hinweise.melden(KEINE_ZAHL(form1_.Text_Menge.Text()) + ", die Menge steht auf 0.",
-                               &form1_.Text_Menge);
+        const std::string grund = KEINE_ZAHL(form1_.Text_Menge.Text());
         form1_.Text_Menge.Text = vorgabe::kMenge;
+        form1_.Hinweise.melden(form1_.Check_K.ticked() ? std::string() : grund + ", die Menge steht auf 0.",
+                               &form1_.Text_Menge);
     }
     const Eingabe eingabe = EingabePruefen();
     if (eingabe == Eingabe::Ungueltig || (eingabe == Eingabe::Gueltig && !ZeileHinzufuegen(false))) {
@@ -84,6 +84,11 @@ void Positionen::Command_AENDERN_Click() {
         return;
     }
     const Eingabe eingabe = EingabePruefen();
+    if (const std::string grund = eingabezeile_.nullgrund();
+        eingabe == Eingabe::Menge_Null && !grund.empty()) {
+        EingabeAblehnen({&form1_.Text_Menge, grund});
+        return;
+    }
     if (eingabe == Eingabe::Ungueltig || (eingabe == Eingabe::Gueltig && !ZeileHinzufuegen(false))) {
         return;
     }
@@ -95,6 +100,8 @@ void Positionen::Command_AENDERN_Click() {
     NaechsteEingabe();
     if (eingabe == Eingabe::Menge_Null) {
         MengeNullMelden();
+        form1_.Hinweise.melden("Zeile " + std::to_string(alte_zeile + 1) +
+                               " wurde gelöscht, weil ihre Menge 0 ist.");
     }
 }
 

@@ -5,7 +5,6 @@
 #include "invoice/rechnung.hpp"
 #include "invoice/rechnungszustand.hpp"
 #include "invoice/summen.hpp"
-#include "platform/dialogs.hpp"
 
 #include <functional>
 #include <string>
@@ -17,7 +16,7 @@ class Positionen {
 public:
     /// `Druckhinweis`: what there is to say of a row on paper, by its index; empty for nothing.
     Positionen(Form1& form1, Rechnungszustand& zustand, Eingabezeile& eingabezeile, Rechnung& rechnung,
-               Summen& summen, Dialogs& dialogs, std::function<std::string(int zeile)> Druckhinweis);
+               Summen& summen, std::function<std::string(int zeile)> Druckhinweis);
 
     void Cmd_Add_To_list_Click();
     /// Replaces the selected row by the input line; quantity 0 without "K" deletes it.
@@ -64,7 +63,6 @@ private:
     Eingabezeile& eingabezeile_;
     Rechnung& rechnung_;
     Summen& summen_;
-    Dialogs& dialogs_;
     std::function<std::string(int zeile)> druckhinweis_;
 };
 

@@ -17,8 +17,9 @@ std::string satztext(const std::string& satz) {
 
 } // namespace
 
-Vorgaben::Vorgaben(Form1& form1, const frm_einstellungen& einstellungen, PROGRAMMEINSTELLUNG& werte)
-    : form1_(form1), einstellungen_(einstellungen), werte_(werte) {}
+Vorgaben::Vorgaben(Form1& form1, const frm_einstellungen& einstellungen, const frm_Programm& programm,
+                   PROGRAMMEINSTELLUNG& werte)
+    : form1_(form1), einstellungen_(einstellungen), programm_(programm), werte_(werte) {}
 
 void Vorgaben::uebernehmen() {
     SpaltenBenennen();
@@ -26,6 +27,7 @@ void Vorgaben::uebernehmen() {
     MwStUebernehmen();
     RabattAus();
     VersandAus();
+    SchalterUebernehmen();
     werte_.RECHNUNGSSCHRIFT = werte_.DRUCKERSCHRIFT;
 }
 
@@ -75,6 +77,13 @@ void Vorgaben::VersandAus() {
     form1_.Text_Versandk.Text = vorgabe::kVersandtext;
     form1_.Text_PreisVersankostenEingabe.Text = vorgabe::kBetrag;
     form1_.Label_VersandkostenMWST.Caption = vorgabe::kVersandMwSt;
+}
+
+void Vorgaben::SchalterUebernehmen() {
+    form1_.Check_datum.Value = programm_.Check_datum.Value();
+    form1_.Check_mengenartDECIMAL.Value = werte_.MENGE_DEZIMAL ? 1 : 0;
+    form1_.Check_000.Value = 0;
+    form1_.Check_tele_nichtdrucken.Value = 0;
 }
 
 } // namespace quittika

@@ -2,6 +2,7 @@
 
 #include "invoice/form1.hpp"
 #include "settings/frm_einstellungen.hpp"
+#include "settings/frm_programm.hpp"
 #include "settings/programmeinstellung.hpp"
 
 namespace quittika {
@@ -9,9 +10,11 @@ namespace quittika {
 /// What a new invoice takes from the settings, at the start of the program and later alike.
 class Vorgaben {
 public:
-    Vorgaben(Form1& form1, const frm_einstellungen& einstellungen, PROGRAMMEINSTELLUNG& werte);
+    Vorgaben(Form1& form1, const frm_einstellungen& einstellungen, const frm_Programm& programm,
+             PROGRAMMEINSTELLUNG& werte);
 
-    /// Rates, kind of VAT, text blocks, column headings and print font; discount and shipping are off.
+    /// Rates, kind of VAT, text blocks, column headings, print font, decimals and automatic date; discount
+    /// and shipping are off.
     void uebernehmen();
 
 private:
@@ -21,9 +24,11 @@ private:
     void SaetzeZeigen();
     void RabattAus();
     void VersandAus();
+    void SchalterUebernehmen();
 
     Form1& form1_;
     const frm_einstellungen& einstellungen_;
+    const frm_Programm& programm_;
     PROGRAMMEINSTELLUNG& werte_;
 };
 

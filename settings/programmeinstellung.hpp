@@ -17,6 +17,7 @@ struct PROGRAMMEINSTELLUNG {
     std::string MWST_SATZ1 = "19"; ///< per cent, as typed
     std::string MWST_SATZ2 = "7";  ///< per cent, as typed
     std::string WAEHRUNG = "EUR";
+    bool MENGE_DEZIMAL = false; ///< quantities of new invoices have decimals: what the user chose last
     std::array<std::string, 3> LETZTE_DATEI{"ERROR", "ERROR", "ERROR"}; ///< newest first, "ERROR" when none
     Color FARBE_LINIEN = 0;
     Color FARBE_WERBESPRUCH = 0;

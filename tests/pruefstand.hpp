@@ -96,11 +96,12 @@ struct Pruefstand {
     Rechnungszustand zustand;
     Form1 form1;
     frm_einstellungen einstellungen;
+    frm_Programm programm;
     Eingabezeile eingabezeile{form1, dialoge};
     Rechnung rechnung{form1, zustand, eingabezeile, uhr};
-    Vorgaben vorgaben{form1, einstellungen, werte};
+    Vorgaben vorgaben{form1, einstellungen, programm, werte};
     Summen summen{form1, einstellungen, zustand, eingabezeile, uhr, [] { return 1; }};
-    Positionen positionen{form1, zustand, eingabezeile, rechnung, summen, dialoge, [](int) { return ""; }};
+    Positionen positionen{form1, zustand, eingabezeile, rechnung, summen, [](int) { return ""; }};
     Rechnungsnummern nummern{form1, einstellungen, zustand, verzeichnis, dialoge};
     ZuletztGeoeffnet zuletzt{form1, werte};
     Dateistand stand;

@@ -17,6 +17,8 @@ TEST(Vorgaben, NeueRechnungenBeginnenMitDenEinstellungen) {
     p.einstellungen.Label_Menge.Caption = "Stück";
     p.werte.MWST_SATZ1 = "16";
     p.werte.DRUCKERSCHRIFT = "Courier";
+    p.werte.MENGE_DEZIMAL = true;
+    p.programm.Check_datum.Value = 1;
     const auto fremde_rechnung = [&p] {
         p.form1.Check_mwst.Value = 0;
         p.form1.Option_inkl_MwSt.Value = true;
@@ -25,6 +27,9 @@ TEST(Vorgaben, NeueRechnungenBeginnenMitDenEinstellungen) {
         p.form1.Label_Menge.Caption = "kg";
         p.form1.Text_RNnr.Text = "3";
         p.werte.RECHNUNGSSCHRIFT = "Arial";
+        p.form1.Check_mengenartDECIMAL.Value = 0;
+        p.form1.Check_datum.Value = 0;
+        p.form1.Check_000.Value = 1;
     };
     const auto wie_eingestellt = [&p] {
         EXPECT_EQ(p.form1.Check_mwst.Value(), 1);
@@ -36,6 +41,9 @@ TEST(Vorgaben, NeueRechnungenBeginnenMitDenEinstellungen) {
         EXPECT_EQ(p.form1.Label_Mengex.Caption(), "Stück");
         EXPECT_EQ(p.form1.Text_RNnr.Text(), "41");
         EXPECT_EQ(p.werte.RECHNUNGSSCHRIFT, "Courier");
+        EXPECT_TRUE(p.form1.Check_mengenartDECIMAL.ticked());
+        EXPECT_TRUE(p.form1.Check_datum.ticked());
+        EXPECT_EQ(p.form1.Text_preis.Text(), "0,00");
     };
     fremde_rechnung();
     p.befehle.m_neu_Click();
