@@ -102,7 +102,7 @@ bool Dateibefehle::SpeichernNach(const std::string& pfad) {
     form1_.StatusBar1[2].Caption = "SPEICHERN VON: " + pfad;
     schreiber_.DateiDatenSammeln();
     if (!schreiber_.DateiSchreiben(pfad)) {
-        PfadZeigen(zustand_.AktuellerPfad());
+        PfadZeigen(zustand_.IstDateiDesPfads() ? zustand_.AktuellerPfad() : std::string());
         form1_.StatusBar1[2].Caption = kSpeicherfehler;
         return false;
     }
@@ -141,6 +141,7 @@ void Dateibefehle::AmPfadSpeichern() {
     }
     zustand_.als_gespeichert_merken();
     zustand_.DateiSetzen(zustand_.AktuellerPfad());
+    PfadZeigen(zustand_.AktuellerPfad());
     form1_.StatusBar1[2].Caption = "SPEICHERN ERFOLGREICH ABGESCHLOSSEN";
 }
 
