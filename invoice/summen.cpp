@@ -62,13 +62,21 @@ void Summen::SatzLesen(TextBox& feld, double& variable) {
 }
 
 void Summen::UngezaehltesMelden() {
+    const Form1& f = form1_;
+    const bool versand = f.Check_Versandkosten.ticked();
     std::string text;
-    if (Rabattprozent != 0 && !form1_.Check_RABATT.ticked()) {
-        text = "Der Rabatt zählt nicht: Das Häkchen \"" + BESCHRIFTUNG(form1_.Check_RABATT) + "\" fehlt.";
+    const auto anfuegen = [&text](const std::string& satz) { text += (text.empty() ? "" : " ") + satz; };
+    if (Rabattprozent != 0 && !f.Check_RABATT.ticked()) {
+        anfuegen("Der Rabatt zählt nicht: Das Häkchen \"" + BESCHRIFTUNG(f.Check_RABATT) + "\" fehlt.");
     }
-    if (Versand_Eingabe != 0 && !form1_.Check_Versandkosten.ticked()) {
-        text += (text.empty() ? "" : " ") + ("Die Versandkosten zählen nicht: Das Häkchen \"" +
-                                             BESCHRIFTUNG(form1_.Check_Versandkosten) + "\" fehlt.");
+    if (Versand_Eingabe != 0 && !versand) {
+        anfuegen("Die Versandkosten zählen nicht: Das Häkchen \"" + BESCHRIFTUNG(f.Check_Versandkosten) +
+                 "\" fehlt.");
+    }
+    if (versand && f.Check_VersandMwStEXTRA.ticked() && f.Check_VersandINKL_MwSt.ticked()) {
+        anfuegen("Die MwSt. der Versandkosten wird nicht neu berechnet: Bitte nur \"" +
+                 BESCHRIFTUNG(f.Check_VersandMwStEXTRA) + "\" oder \"" +
+                 BESCHRIFTUNG(f.Check_VersandINKL_MwSt) + "\" ankreuzen.");
     }
     form1_.Hinweise.setzen(Hinweiszeile::Lage::NichtGezaehlt, text);
 }
