@@ -39,7 +39,9 @@ void ElidedLabel::paintEvent(QPaintEvent* /*event*/) {
 
 bool ElidedLabel::event(QEvent* event) {
     if (event->type() == QEvent::ToolTip && toolTip().isEmpty() && shown_text() != text()) {
-        QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), text(), this);
+        // Marked up, it is broken into lines.
+        QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(),
+                           QStringLiteral("<p>%1</p>").arg(text().toHtmlEscaped()), this);
         return true;
     }
     return QLabel::event(event);
