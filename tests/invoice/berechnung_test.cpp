@@ -95,113 +95,84 @@ TEST(Berechnung, VersandWirdGeteilt) {
     EXPECT_EQ(sonst.Versand_MwSt, 2);
 }
 
-// --- random invoices against exact fractions ---
-
 __extension__ using Gross = __int128;
 
-/// An exact fraction; `text` rounds it half away from zero to `stellen` decimals.
-struct Bruch {
-    Gross z = 0;
-    Gross n = 1;
-    friend Bruch operator*(Bruch a, Bruch b) { return Bruch{a.z * b.z, a.n * b.n}.gekuerzt(); }
-    friend Bruch operator/(Bruch a, Bruch b) { return Bruch{a.z * b.n, a.n * b.z}.gekuerzt(); }
-    friend Bruch operator+(Bruch a, Bruch b) { return Bruch{a.z * b.n + b.z * a.n, a.n * b.n}.gekuerzt(); }
-    friend Bruch operator-(Bruch a, Bruch b) { return a + Bruch{-b.z, b.n}; }
-
-    Bruch gekuerzt() const {
-        Gross a = z < 0 ? -z : z;
-        Gross b = n < 0 ? -n : n;
-        while (b != 0) {
-            const Gross rest = a % b;
-            a = b;
-            b = rest;
-        }
-        const Gross teiler = (n < 0 ? -1 : 1) * (a == 0 ? 1 : a);
-        return {z / teiler, n / teiler};
+/// The fraction z/n, rounded half away from zero to `stellen` decimals.
+std::string bruch(Gross z, Gross n, int stellen) {
+    Gross wert = z < 0 ? -z : z;
+    for (int i = 0; i < stellen; ++i) {
+        wert *= 10;
     }
-    long long gerundet(int stellen) const {
-        Gross wert = z < 0 ? -z : z;
-        for (int i = 0; i < stellen; ++i) {
-            wert *= 10;
-        }
-        const Gross ganz = (2 * wert + n) / (2 * n);
-        return static_cast<long long>(z < 0 ? -ganz : ganz);
+    wert = (2 * wert + n) / (2 * n);
+    std::string ziffern = std::to_string(static_cast<long long>(wert));
+    while (static_cast<int>(ziffern.size()) <= stellen) {
+        ziffern.insert(0, "0");
     }
-    std::string text(int stellen) const {
-        const long long wert = gerundet(stellen);
-        std::string ziffern = std::to_string(wert < 0 ? -wert : wert);
-        while (static_cast<int>(ziffern.size()) <= stellen) {
-            ziffern.insert(0, "0");
-        }
-        ziffern.insert(ziffern.size() - static_cast<std::size_t>(stellen), ",");
-        return (wert < 0 ? "-" : "") + ziffern;
-    }
-};
+    ziffern.insert(ziffern.size() - static_cast<std::size_t>(stellen), ",");
+    return (z < 0 && wert != 0 ? "-" : "") + ziffern;
+}
 
-struct Zufallsrechnung {
-    std::mt19937 zufall;
-    int bis(int grenze) { return static_cast<int>(zufall() % static_cast<unsigned>(grenze + 1)); }
-    Bruch hundertstel(int grenze) { return {bis(grenze), 100}; }
-};
-
+/// A random invoice against the same one in exact fractions; rates and the shipping price are hundredths.
 void eine_rechnung(unsigned saat) {
-    Pruefstand p;
-    Zufallsrechnung r{std::mt19937(saat)};
-    const bool drei = r.bis(1) == 1;
+    std::mt19937 zufall(saat);
+    const auto bis = [&zufall](int grenze) {
+        return static_cast<int>(zufall() % static_cast<unsigned>(grenze + 1));
+    };
+    const bool drei = bis(1) == 1;
     const int stellen = drei ? 3 : 2;
-    p.form1.Check_mengenartDECIMAL.Value = 1;
-    p.form1.Check_000.Value = drei ? 1 : 0;
-    Bruch summe;
-    for (int i = r.bis(30); i >= 0; --i) {
-        const Bruch menge = Bruch{r.bis(99999) + 1, 100};
-        const Bruch preis{r.bis(999999), drei ? 1000 : 100};
-        p.zeile(menge.text(2), "Posten", preis.text(stellen));
-        summe = summe + Bruch{(menge * preis).gerundet(stellen), drei ? 1000 : 100};
-    }
-    const Bruch rabattsatz = r.hundertstel(10000);
-    const Bruch satz = r.hundertstel(3000);
-    const Bruch versand = r.hundertstel(9999);
-    const bool rabatt = r.bis(1) == 1;
-    const int modus = r.bis(3);
-    const int versandmodus = r.bis(3);
+    const int nenner = drei ? 1000 : 100;
+    Pruefstand p;
     Form1& f = p.form1;
-    f.Check_RABATT.Value = rabatt ? 1 : 0;
-    f.Text_Rabatt.Text = rabattsatz.text(2);
-    f.Text_MwSt.Text = satz.text(2);
+    f.Check_mengenartDECIMAL.Value = 1;
+    f.Check_000.Value = drei ? 1 : 0;
+    Gross summe = 0;
+    for (int i = bis(30); i >= 0; --i) {
+        const Gross menge = bis(99999) + 1;
+        const Gross preis = bis(999999);
+        p.zeile(bruch(menge, 100, 2), "Posten", bruch(preis, nenner, stellen));
+        summe += (2 * menge * preis + 100) / 200;
+    }
+    const Gross rabatt = bis(10000);
+    const Gross satz = bis(3000);
+    const Gross versand = bis(9999);
+    const bool mit_rabatt = bis(1) == 1;
+    const int modus = bis(3);
+    const int versandmodus = bis(3);
+    f.Check_RABATT.Value = mit_rabatt ? 1 : 0;
+    f.Text_Rabatt.Text = bruch(rabatt, 100, 2);
+    f.Text_MwSt.Text = bruch(satz, 100, 2);
     f.Check_mwst.Value = modus == 0 ? 0 : 1;
+    OptionButton* const modi[] = {nullptr, &f.Option_mwst_plus, &f.Option_mwst_minus, &f.Option_inkl_MwSt};
     if (modus > 0) {
-        (modus == 1   ? f.Option_mwst_plus
-         : modus == 2 ? f.Option_mwst_minus
-                      : f.Option_inkl_MwSt)
-            .Value = true;
+        modi[modus]->Value = true;
     }
     f.Check_Versandkosten.Value = versandmodus == 0 ? 0 : 1;
-    f.Text_PreisVersankostenEingabe.Text = versand.text(2);
+    f.Text_PreisVersankostenEingabe.Text = bruch(versand, 100, 2);
     f.Check_VersandMwStEXTRA.Value = versandmodus == 2 ? 1 : 0;
     f.Check_VersandINKL_MwSt.Value = versandmodus == 3 ? 1 : 0;
     p.summen.jetztberechnen_List();
 
-    const Bruch hundert{100, 1};
-    const Bruch abzug = rabatt ? rabattsatz / hundert * summe : Bruch{};
-    const Bruch rest = summe - abzug;
-    const Bruch faktor = satz / hundert + Bruch{1, 1};
-    const Bruch netto = rest / faktor;
-    const Bruch mwst = modus == 1   ? rest * faktor - rest
-                       : modus == 2 ? netto - rest
-                       : modus == 3 ? rest - netto
-                                    : Bruch{};
-    const Bruch betrag = modus == 1 ? rest * faktor : modus == 2 ? netto : rest;
-    const Bruch eingabe = versandmodus == 0 ? Bruch{} : versand;
-    const Bruch versandnetto = eingabe / Bruch{119, 100};
-
-    EXPECT_EQ(f.Text_summe.Text(), summe.text(stellen));
-    EXPECT_EQ(f.Text_summeRabatt.Text(), "-" + abzug.text(stellen));
-    EXPECT_EQ(f.Text_summeNACHRABATT.Text(), rest.text(stellen));
-    EXPECT_EQ(f.Text_summemwst.Text(), mwst.text(2));
-    EXPECT_EQ(f.Text_gesamtbetrag.Text(), (betrag + eingabe).text(2));
-    EXPECT_EQ(f.Text_PreisVersankosten.Text(), (versandmodus == 2 ? versandnetto : eingabe).text(2));
-    EXPECT_EQ(f.Text_PreisVersankostenMwST.Text(),
-              versandmodus >= 2 ? (eingabe - versandnetto).text(2) : "0,00");
+    const Gross abzug = mit_rabatt ? rabatt : 0;
+    const Gross rest = summe * (10000 - abzug); // in parts of n
+    const Gross n = Gross{10000} * nenner;
+    const Gross brutto = 10000 + satz;
+    const Gross eingabe = versandmodus == 0 ? 0 : versand;
+    const auto mit_versand = [&](Gross z, Gross teile) {
+        return bruch(100 * z + eingabe * teile, 100 * teile, 2);
+    };
+    EXPECT_EQ(f.Text_summe.Text(), bruch(summe, nenner, stellen));
+    EXPECT_EQ(f.Text_summeRabatt.Text(), "-" + bruch(summe * abzug, n, stellen));
+    EXPECT_EQ(f.Text_summeNACHRABATT.Text(), bruch(rest, n, stellen));
+    EXPECT_EQ(f.Text_summemwst.Text(), modus == 0 ? "0,00"
+                                       : modus == 1
+                                           ? bruch(rest * satz, n * 10000, 2)
+                                           : bruch((modus == 2 ? -1 : 1) * rest * satz, n * brutto, 2));
+    EXPECT_EQ(f.Text_gesamtbetrag.Text(), modus == 1   ? mit_versand(rest * brutto, n * 10000)
+                                          : modus == 2 ? mit_versand(rest * 10000, n * brutto)
+                                                       : mit_versand(rest, n));
+    EXPECT_EQ(f.Text_PreisVersankosten.Text(),
+              versandmodus == 2 ? bruch(eingabe, 119, 2) : bruch(eingabe, 100, 2));
+    EXPECT_EQ(f.Text_PreisVersankostenMwST.Text(), bruch(versandmodus >= 2 ? eingabe * 19 : 0, 11900, 2));
     EXPECT_TRUE(p.dialoge.boxen.empty());
 }
 

@@ -140,22 +140,6 @@ TEST(Druck, UebertragUndZwischensummeUeberDreiSeiten) {
     EXPECT_EQ(papier.finden("Ihr Werbespruch", 2), nullptr) << "the full head only on the first";
 }
 
-TEST(Druck, EinUmbruchBeendetSeineSeite) {
-    Druckprobe p;
-    p.zeilen(2);
-    p.positionen.Command_Trennzeile_Click();
-    p.zeilen(1);
-    const Papier papier = p.drucken();
-    EXPECT_EQ(papier.seite, 2);
-    EXPECT_EQ(papier.finden("+ +"), nullptr);
-    EXPECT_EQ(papier.finden("Zwischensumme")->text, "Zwischensumme:    20,00");
-    EXPECT_DOUBLE_EQ(papier.finden("Zwischensumme")->oben, papier.finden("002")->oben + 4 + 4)
-        << "the break takes no line";
-    EXPECT_EQ(papier.finden("Übertrag", 2)->text, "Übertrag:   20,00");
-    EXPECT_NE(papier.finden("003", 2), nullptr);
-    EXPECT_EQ(papier.finden("Seite", 2)->text, "Seite 2/2");
-}
-
 TEST(Druck, ZweiteSeiteOhneBlockBeginntTiefer) {
     Druckprobe p;
     p.einstellungen.Check_MitLogoadresseFFSeite.Value = 0;
