@@ -3,8 +3,8 @@
 #include "invoice/file/dateibefehle.hpp"
 #include "invoice/positionen.hpp"
 #include "platform/laufzeitfehler.hpp"
+#include "platform/script/script_dialogs.hpp"
 
-#include <deque>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -14,39 +14,6 @@
 #include <stdlib.h>
 
 namespace quittika {
-
-/// Dialogs that answer from queues and keep what they were asked.
-class FalscheDialoge : public Dialogs {
-public:
-    std::deque<Answer> antworten;
-    std::deque<std::string> dateien;
-    std::vector<MessageBox> boxen;
-
-    Answer message(const MessageBox& box) override {
-        boxen.push_back(box);
-        if (antworten.empty() || box.buttons == Buttons::Ok) {
-            return box.buttons == Buttons::Ok ? Answer::Ok : Answer::No;
-        }
-        const Answer antwort = antworten.front();
-        antworten.pop_front();
-        return antwort;
-    }
-    std::string open_file(const FileDialog&) override { return naechste_datei(); }
-    std::string save_file(const FileDialog&) override { return naechste_datei(); }
-    Color choose_color(Color) override { throw Laufzeitfehler(fehler::kDialogAbgebrochen); }
-    std::string choose_font(const std::string&) override { throw Laufzeitfehler(fehler::kDialogAbgebrochen); }
-    int choose_printer(const PrinterDialog&) override { throw Laufzeitfehler(fehler::kDialogAbgebrochen); }
-
-private:
-    std::string naechste_datei() {
-        if (dateien.empty()) {
-            throw Laufzeitfehler(fehler::kDialogAbgebrochen);
-        }
-        std::string datei = dateien.front();
-        dateien.pop_front();
-        return datei;
-    }
-};
 
 struct StehendeUhr : Clock {
     Zeitpunkt zeit{2008, 3, 5, 10, 20, 30};
@@ -88,7 +55,7 @@ private:
 
 /// The invoice with all its modules, without a window.
 struct Pruefstand {
-    FalscheDialoge dialoge;
+    ScriptDialogs dialoge;
     StehendeUhr uhr;
     Probenordner ordner;
     Programmverzeichnis verzeichnis{ordner.ordner()};
@@ -122,7 +89,7 @@ struct Pruefstand {
         positionen.Cmd_Add_To_list_Click();
     }
     bool speichern(const std::string& name) {
-        dialoge.dateien.push_back(ordner.pfad(name));
+        dialoge.queue(choice::File{ordner.pfad(name)});
         return befehle.m_speichern_Click();
     }
     bool oeffnen(const std::string& name) {

@@ -8,7 +8,7 @@
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t anzahl) {
     using namespace quittika;
     static Pruefstand p;
-    p.dialoge.boxen.clear();
+    p.dialoge.take_boxes();
     p.leser.InhaltUebernehmen({reinterpret_cast<const char*>(bytes), anzahl});
     p.leser.DateiDatenAnzeigen();
     p.summen.jetztberechnen_List();

@@ -173,7 +173,7 @@ void eine_rechnung(unsigned saat) {
     EXPECT_EQ(f.Text_PreisVersankosten.Text(),
               versandmodus == 2 ? bruch(eingabe, 119, 2) : bruch(eingabe, 100, 2));
     EXPECT_EQ(f.Text_PreisVersankostenMwST.Text(), bruch(versandmodus >= 2 ? eingabe * 19 : 0, 11900, 2));
-    EXPECT_TRUE(p.dialoge.boxen.empty());
+    EXPECT_TRUE(p.dialoge.take_boxes().empty());
 }
 
 TEST(Berechnung, ZufaelligeRechnungenStimmenMitBruechenUeberein) {

@@ -5,6 +5,7 @@
 #include "tests/pruefstand.hpp"
 #include "tests/stoerung.hpp"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <cerrno>
@@ -16,10 +17,14 @@
 namespace quittika {
 namespace {
 
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::StartsWith;
+
 TEST(Rechnungsdatei, AlteUndUngewoehnlicheDateien) {
     Pruefstand p;
     const auto laden = [&p](const std::vector<std::string>& zeilen) {
-        p.dialoge.boxen.clear();
+        p.dialoge.take_boxes();
         std::string bytes;
         for (const std::string& zeile : zeilen) {
             bytes += zeile + "\r\n";
@@ -52,8 +57,8 @@ TEST(Rechnungsdatei, AlteUndUngewoehnlicheDateien) {
     EXPECT_EQ(p.form1.List_Gesamtp.List(0), "2,00");
 
     EXPECT_FALSE(laden({"qk7", "Titel", "#qk8LIST#;1;-;1;Rest;2,00;2,00"}));
-    ASSERT_EQ(p.dialoge.boxen.size(), 1U);
-    EXPECT_EQ(p.dialoge.boxen[0].title, "Fehler...Datei ist keine >>*.qk8<< - Datei...");
+    EXPECT_THAT(p.dialoge.take_boxes(),
+                ElementsAre(StartsWith("box|Fehler...Datei ist keine >>*.qk8<< - Datei...|")));
     EXPECT_EQ(p.form1.Text_rechnung.Text(), "RECHNUNG") << "no scalar values";
     EXPECT_EQ(p.form1.List_Leistung.ListCount(), 1) << "but the positions";
 
@@ -138,8 +143,7 @@ TEST(Rechnungsdatei, MisslungenesSpeichernKostetNichts) {
     EXPECT_EQ(std::distance(std::filesystem::directory_iterator(p.ordner.ordner()), {}), 2)
         << "nothing is left over";
     EXPECT_EQ(p.form1.StatusBar1[2].Caption(), "FEHLER BEIM SPEICHERN");
-    ASSERT_EQ(p.dialoge.boxen.size(), 1U);
-    EXPECT_EQ(p.dialoge.boxen[0].text, "Fehler beim speichern");
+    EXPECT_THAT(p.dialoge.take_boxes(), ElementsAre(HasSubstr("|Fehler beim speichern|")));
     EXPECT_TRUE(p.zustand.geaendert());
     EXPECT_EQ(p.ordner.lesen("RN.txt"), "2\r\n") << "no number is used up";
     EXPECT_FALSE(p.speichern("kein/ordner.qk8"));
