@@ -43,9 +43,7 @@ TEST(Dateien, Kopieren) {
         {"quelle", "alt", kErsetzen, ""},
         {"quelle", "alt", kNeu, "58 alt"},
         {"quelle", "ins_leere", kNeu, ""},
-        {"fehlt", "alt", kErsetzen, "53 fehlt"},
         {"fehlt", "alt", kNeu, "53 fehlt"},
-        {"kein/ordner", "alt", kErsetzen, "76 kein/ordner"},
         {"quelle", "kein/ordner", kNeu, "76 kein/"},
         {"ordner", "frei", kNeu, "75 ordner"},
         {"quelle", "ordner", kErsetzen, "75 ordner"},
@@ -69,26 +67,21 @@ TEST(Dateien, Kopieren) {
     }
 }
 
-TEST(Dateien, KopieAufVollemDatentraeger) {
+TEST(Dateien, KopieWirdGanzOderGarNicht) {
     const Probenordner o;
     o.schreiben("quelle", "neuer");
     o.schreiben("alt", "alt");
-    for (const auto& [nach, ziel] : {std::pair("alt", Kopierziel::Ersetzen), {"frei", Kopierziel::Neu}}) {
+    for (const char* nach : {"alt", "frei"}) {
         const Stoerung voll("write", 1, Stoerung::kHalbDannVoll);
-        EXPECT_THAT(fehler_aus([&] { DATEI_KOPIEREN(o.pfad("quelle"), o.pfad(nach), ziel); }),
-                    testing::StartsWith("61 "));
+        EXPECT_EQ(fehler_aus([&] { DATEI_KOPIEREN(o.pfad("quelle"), o.pfad(nach)); }), "61 " + o.pfad(nach));
     }
     EXPECT_EQ(o.lesen("alt"), "alt");
     EXPECT_THAT(DATEIEN_SUCHEN(o.ordner(), "*"), ElementsAre("alt", "quelle"));
     EXPECT_THAT(DATEIEN_SUCHEN(o.ordner(), ".*"), ElementsAre()) << "nothing is left behind";
-}
-
-TEST(Dateien, DateisystemOhneUmbenennenNurInsFreie) {
-    const Probenordner o;
-    const Stoerung altes_dateisystem("renameat2", 1, EINVAL);
-    datei_anlegen(o.pfad("neu"), "x");
-    EXPECT_TRUE(altes_dateisystem.eingetreten());
-    EXPECT_EQ(o.lesen("neu"), "x");
+    const Stoerung kennt_kein_freies_ziel("renameat2", 1, EINVAL);
+    DATEI_KOPIEREN(o.pfad("quelle"), o.pfad("frei"), Kopierziel::Neu);
+    EXPECT_TRUE(kennt_kein_freies_ziel.eingetreten());
+    EXPECT_EQ(o.lesen("frei"), "neuer");
 }
 
 TEST(Dateien, Loeschen) {
@@ -139,20 +132,12 @@ TEST(Dateien, SuchenNachMuster) {
 }
 
 TEST(Dateien, VorgeschlageneNamen) {
-    const auto lang = [](std::size_t anzahl) {
-        std::string text;
-        for (std::size_t i = 0; i < anzahl; ++i) {
-            text += "ä";
-        }
-        return text;
-    };
+    const auto lang = [](std::size_t anzahl) { return ersetzen(std::string(anzahl, 'x'), "x", "ä"); };
     const std::pair<std::string, std::string> faelle[] = {
         {"", ""},
-        {"Kundenliste.txt", "Kundenliste.txt"},
         {"RECHNUNG 2008/05\\7: \"neu\"?.pdf", "RECHNUNG 2008-05-7 neu.pdf"},
         {std::string("a\0b\tc\r\nd\x7F.txt", 13), "a b c d.txt"},
         {"a\xC2\x85z<>", "a z"},
-        {"kein\xFFUTF.txt", "kein\xFFUTF.txt"},
         {"../..x.pdf", "-..x.pdf"},
         {"..RE 5.pdf", "RE 5.pdf"},
         {".pdf", "Unbenannt.pdf"},
@@ -160,7 +145,6 @@ TEST(Dateien, VorgeschlageneNamen) {
         {"a.b*c", "a.b c"},
         {"...", "Unbenannt"},
         {lang(200) + "z.pdf", lang(125) + ".pdf"}, // 251 bytes have room for 125 letters of two bytes
-        {lang(200), lang(127)},
         {"Nr. " + lang(200), "Nr. " + lang(125)},
         {lang(127) + "z", lang(127) + "z"},
     };
@@ -177,21 +161,18 @@ TEST(Dateien, LaufwerkeSindWurzelHeimUndMedien) {
                           "/dev/sdc1 /media/anna/Meine\\040Bilder vfat ro 0 0\n"
                           "tmpfs /mediathek tmpfs rw 0 0\n"
                           "server:/x /mnt nfs rw 0 0\n");
-    const std::string heim = getenv("HOME") == nullptr ? "" : getenv("HOME");
-    const auto gesehen = [&](const char* home, const std::string& tabelle) {
-        setenv("HOME", home, 1);
-        std::vector<std::string> zeilen;
-        for (const Laufwerk& l : LAUFWERKE(tabelle)) {
-            zeilen.push_back(l.pfad + "|" + l.name);
-        }
-        return zeilen;
-    };
-    EXPECT_THAT(gesehen("/home/anna/", o.pfad("mounts")),
-                ElementsAre("/|Dateisystem", "/home/anna|Persönlicher Ordner",
-                            "/media/anna/Meine Bilder|Meine Bilder", "/mnt|mnt",
-                            "/run/media/anna/STICK|STICK"));
-    EXPECT_THAT(gesehen("", o.pfad("fehlt")), ElementsAre("/|Dateisystem"));
-    heim.empty() ? unsetenv("HOME") : setenv("HOME", heim.c_str(), 1);
+    const std::string tabelle = o.pfad("mounts");
+    const char* heim = getenv("HOME");
+    const std::string gemerkt = heim == nullptr ? "/" : heim;
+    setenv("HOME", "/home/anna/", 1);
+    std::string gesehen;
+    for (const Laufwerk& laufwerk : LAUFWERKE(tabelle)) {
+        gesehen += laufwerk.pfad + ": " + laufwerk.name + "\n";
+    }
+    setenv("HOME", gemerkt.c_str(), 1);
+    EXPECT_EQ(gesehen,
+              "/: Dateisystem\n/home/anna: Persönlicher Ordner\n/media/anna/Meine Bilder: Meine Bilder\n"
+              "/mnt: mnt\n/run/media/anna/STICK: STICK\n");
 }
 
 } // namespace
