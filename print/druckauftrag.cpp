@@ -91,37 +91,44 @@ void Druckauftrag::Command_printform_Click() {
 
 void Druckauftrag::drucke(Druckjustierung just, const Druckoptionen& optionen) {
     const int exemplare = dialogs_.choose_printer({1, PDFNAME_VORSCHLAGEN(form1_, einstellungen_)});
-    const std::string titel = auftragstitel();
     form1_.Text1.Text = std::to_string(exemplare);
     if (LAYOUT_GEWAEHLT(einstellungen_) == 0) {
         form1_.Hinweise.melden("Es ist kein Layout gewählt, deshalb wurde nichts gedruckt.");
         return;
     }
-    std::string fehlendes_bild;
-    for (int i = 1; i <= exemplare; ++i) {
-        status("BERECHNEN...DRUCKEN...BLATT: " + std::to_string(i) + "/" + std::to_string(exemplare));
-        fehlendes_bild = drucke_exemplar(titel, just, optionen);
-    }
-    ergebnis_melden(fehlendes_bild);
-}
-
-void Druckauftrag::ergebnis_melden(const std::string& fehlendes_bild) {
-    const std::string datei = printing_.output_file();
-    if (!datei.empty()) {
+    exemplare_drucken(exemplare, just, optionen);
+    if (const std::string datei = printing_.output_file(); !datei.empty()) {
         form1_.Hinweise.melden("Die PDF-Datei liegt hier: " + datei);
     }
-    if (!fehlendes_bild.empty()) {
-        form1_.Hinweise.melden("Ohne das Bild " + fehlendes_bild + " gedruckt.");
+}
+
+void Druckauftrag::exemplare_drucken(int anzahl, Druckjustierung just, const Druckoptionen& optionen) {
+    int fertig = 0;
+    try {
+        while (fertig < anzahl) {
+            status("BERECHNEN...DRUCKEN...BLATT: " + std::to_string(fertig + 1) + "/" +
+                   std::to_string(anzahl));
+            drucke_exemplar(just, optionen);
+            ++fertig;
+        }
+    } catch (const Laufzeitfehler&) {
+        if (fertig > 0) {
+            form1_.Hinweise.melden("Gedruckt: " + std::to_string(fertig) + " von " + std::to_string(anzahl) +
+                                   " Exemplaren.");
+        }
+        throw;
     }
 }
 
-std::string Druckauftrag::drucke_exemplar(const std::string& titel, Druckjustierung just,
-                                          const Druckoptionen& optionen) {
-    const std::unique_ptr<PrintDevice> drucker = printing_.printer(titel);
+void Druckauftrag::drucke_exemplar(Druckjustierung just, const Druckoptionen& optionen) {
+    const std::unique_ptr<PrintDevice> drucker = printing_.printer(auftragstitel());
     NachsichtigesGeraet geraet(*drucker);
     PrintSurface surface(geraet, printing_.metrics());
     rechnungsdruck_.DRUCKE_RECHNUNG(surface, just, optionen);
-    return geraet.fehlendes_bild();
+    if (!geraet.fehlendes_bild().empty()) {
+        form1_.Hinweise.melden("Ohne das Bild " + geraet.fehlendes_bild() + " gedruckt.");
+    }
+    form1_.Hinweise.melden(geraet.ueberdruck().hinweis());
 }
 
 } // namespace quittika

@@ -39,10 +39,8 @@ public:
 private:
     void status(const std::string& text) { form1_.StatusBar1[2].Caption = text; }
     void drucke(Druckjustierung just, const Druckoptionen& optionen);
-    /// Returns the picture that could not be drawn, empty if there was none.
-    std::string drucke_exemplar(const std::string& titel, Druckjustierung just,
-                                const Druckoptionen& optionen);
-    void ergebnis_melden(const std::string& fehlendes_bild);
+    void exemplare_drucken(int anzahl, Druckjustierung just, const Druckoptionen& optionen);
+    void drucke_exemplar(Druckjustierung just, const Druckoptionen& optionen);
     std::string auftragstitel() const;
 
     Form1& form1_;

@@ -20,6 +20,7 @@ template <class Zeichnung> bool nachsichtig(const Zeichnung& zeichnung) {
 
 void NachsichtigesGeraet::text(double left, double top, double width, const PrintFont& font, Color color,
                                std::string_view text) {
+    ueberdruck_.text(left, top, width, font, text);
     nachsichtig([&] { geraet_.text(left, top, width, font, color, text); });
 }
 
@@ -32,6 +33,11 @@ void NachsichtigesGeraet::picture(double left, double top, double width, double 
     if (!nachsichtig([&] { geraet_.picture(left, top, width, height, path); }) && fehlendes_bild_.empty()) {
         fehlendes_bild_ = path;
     }
+}
+
+void NachsichtigesGeraet::new_page() {
+    ueberdruck_.neue_seite();
+    geraet_.new_page();
 }
 
 } // namespace quittika

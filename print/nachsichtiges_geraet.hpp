@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/printing.hpp"
+#include "print/ueberdruck.hpp"
 
 #include <string>
 
@@ -16,14 +17,16 @@ public:
               std::string_view text) override;
     void line(double x1, double y1, double x2, double y2, Color color) override;
     void picture(double left, double top, double width, double height, const std::string& path) override;
-    void new_page() override { geraet_.new_page(); }
+    void new_page() override;
     void end_document() override { geraet_.end_document(); }
 
     /// The first picture that could not be drawn; empty if there was none.
     const std::string& fehlendes_bild() const { return fehlendes_bild_; }
+    const Ueberdruck& ueberdruck() const { return ueberdruck_; }
 
 private:
     PrintDevice& geraet_;
+    Ueberdruck ueberdruck_;
     std::string fehlendes_bild_;
 };
 

@@ -17,6 +17,7 @@ public:
     int annahmefehler = 0;
     int bildfehler = 0;
     int endfehler = 0;
+    int gute = 0; ///< documents before the one that fails
     std::string datei;
 
     const FontMetrics& metrics() const override { return schrift; }
@@ -26,7 +27,7 @@ public:
             throw Laufzeitfehler(annahmefehler, "Der Drucker GP ist angehalten.");
         }
         titel.push_back(job_title);
-        return std::make_unique<Papiergeraet>(papier, bildfehler, endfehler);
+        return std::make_unique<Papiergeraet>(papier, bildfehler, gute-- > 0 ? 0 : endfehler);
     }
 };
 
@@ -72,27 +73,31 @@ TEST(Druckauftrag, AbbruchUndFehlerStehenInDerStatuszeile) {
         Choice dialog;
         int annahme;
         int ende;
+        int gute;
         const char* status;
         const char* meldung;
     };
     const Fall faelle[] = {
-        {"abgebrochen", choice::Cancel{}, 0, 0, "DRUCKEN ABGEBROCHEN.", ""},
-        {"Dialog gestört", choice::Failure{fehler::kDrucker}, 0, 0, "FEHLER BEIM DRUCKEN!",
+        {"abgebrochen", choice::Cancel{}, 0, 0, 0, "DRUCKEN ABGEBROCHEN.", ""},
+        {"Dialog gestört", choice::Failure{fehler::kDrucker}, 0, 0, 0, "FEHLER BEIM DRUCKEN!",
          "Der Drucker meldet einen Fehler: bitte prüfen und noch einmal drucken."},
-        {"Drucker nimmt nichts an", choice::Printer{1}, fehler::kDrucker, 0, "FEHLER BEIM DRUCKEN!",
+        {"Drucker nimmt nichts an", choice::Printer{1}, fehler::kDrucker, 0, 0, "FEHLER BEIM DRUCKEN!",
          "Der Drucker GP ist angehalten."},
-        {"PDF nicht schreibbar", choice::Printer{1}, 0, fehler::kDatentraegerVoll, "FEHLER BEIM DRUCKEN!",
-         "Der Datenträger ist voll: bitte Platz schaffen oder auf einem anderen speichern."},
+        {"zweites Exemplar", choice::Printer{3}, 0, fehler::kDatentraegerVoll, 1, "FEHLER BEIM DRUCKEN!",
+         "Gedruckt: 1 von 3 Exemplaren. Der Datenträger ist voll: bitte Platz schaffen oder auf einem "
+         "anderen "
+         "speichern."},
     };
     for (const Fall& f : faelle) {
         SCOPED_TRACE(f.name);
         Auftragsprobe p;
         p.drucker.annahmefehler = f.annahme;
         p.drucker.endfehler = f.ende;
+        p.drucker.gute = f.gute;
         EXPECT_EQ(p.drucken(f.dialog), f.status);
         EXPECT_EQ(p.meldung(), f.meldung);
         EXPECT_TRUE(p.druckdialoge.take_boxes().empty());
-        EXPECT_EQ(p.drucker.papier.enden, 0);
+        EXPECT_EQ(p.drucker.papier.enden, f.gute);
         p.drucker.annahmefehler = p.drucker.endfehler = 0;
         p.drucken();
         EXPECT_EQ(p.meldung(), "") << "the reason goes with the next job that succeeds";
@@ -167,6 +172,35 @@ TEST(Druckauftrag, OhneLayoutWirdNichtsGedruckt) {
     EXPECT_EQ(p.drucken(), "DRUCKEN...");
     EXPECT_TRUE(p.drucker.titel.empty());
     EXPECT_EQ(p.meldung(), "Es ist kein Layout gewählt, deshalb wurde nichts gedruckt.");
+}
+
+TEST(Druckauftrag, WasSichUeberdecktOderNichtAufDasBlattPasstWirdGesagt) {
+    struct Fall {
+        const char* name;
+        TextBox Form1::*feld;
+        std::string text;
+        const char* meldung;
+    };
+    const Fall faelle[] = {
+        {"Titel im Lieferdatum", &Form1::Text_rechnung, std::string(77, 'R'),
+         "Auf Seite 1 stehen \"LIEFERDATUM\" und \"RRRRRRRRRRRRRRRRRRRRRRRRRRRRRR...\" übereinander"},
+        {"davor", &Form1::Text_rechnung, std::string(76, 'R'), ""},
+        {"Kunde neben dem Blatt", &Form1::Text_Kunde_2, std::string(91, 'K'),
+         "Auf Seite 1 ragt \"KKKKKKKKKKKKKKKKKKKKKKKKKKKKKK...\" über das Blatt hinaus"},
+        {"bis zum Rand", &Form1::Text_Kunde_2, std::string(90, 'K'), ""},
+    };
+    for (const Fall& f : faelle) {
+        SCOPED_TRACE(f.name);
+        Auftragsprobe p;
+        p.form1.Text_RNnr.Text = "7";
+        p.form1.Check_LIEFERDATUM.Value = 1;
+        p.form1.Text_LIEFERDATUM.Text = "LIEFERDATUM";
+        (p.form1.*f.feld).Text = f.text;
+        p.drucken();
+        const std::string rat =
+            ": bitte Text kürzen, kleinere Schrift wählen oder eine Seite früher umbrechen.";
+        EXPECT_EQ(p.meldung(), *f.meldung == 0 ? "" : f.meldung + rat);
+    }
 }
 
 TEST(Druckauftrag, EinFehlendesBildKostetNurSichSelbst) {
