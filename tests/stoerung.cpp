@@ -58,26 +58,29 @@ template <class Aufruf> auto gestoert(const char* name, const Aufruf& aufruf) ->
 
 } // namespace
 
+/// Leads a call of the system through `gestoert`; the linker knows its two ends (-Wl,--wrap).
+#define UMGELEITET(ergebnis, name, parameter, argumente)                                                     \
+    extern "C" ergebnis echtes_##name parameter __asm__("__real_" #name);                                    \
+    extern "C" ergebnis gestoertes_##name parameter __asm__("__wrap_" #name);                                \
+    ergebnis gestoertes_##name parameter {                                                                   \
+        return gestoert(#name, [&] { return echtes_##name argumente; });                                     \
+    }
+
+UMGELEITET(ssize_t, read, (int datei, void* bytes, size_t anzahl), (datei, bytes, anzahl))
+UMGELEITET(ssize_t, pread, (int datei, void* bytes, size_t anzahl, off_t ab), (datei, bytes, anzahl, ab))
+UMGELEITET(int, fsync, (int datei), (datei))
+UMGELEITET(int, ftruncate, (int datei, off_t laenge), (datei, laenge))
+UMGELEITET(int, rename, (const char* alt, const char* neu), (alt, neu))
+UMGELEITET(int, renameat2, (int von, const char* alt, int nach, const char* neu, unsigned art),
+           (von, alt, nach, neu, art))
+
 extern "C" {
 int echtes_open(const char*, int, ...) __asm__("__real_open");
-int echtes_close(int) __asm__("__real_close");
-ssize_t echtes_write(int, const void*, size_t) __asm__("__real_write");
-ssize_t echtes_read(int, void*, size_t) __asm__("__real_read");
-ssize_t echtes_pread(int, void*, size_t, off_t) __asm__("__real_pread");
-int echtes_fsync(int) __asm__("__real_fsync");
-int echtes_ftruncate(int, off_t) __asm__("__real_ftruncate");
-int echtes_rename(const char*, const char*) __asm__("__real_rename");
-int echtes_renameat2(int, const char*, int, const char*, unsigned) __asm__("__real_renameat2");
-
 int gestoertes_open(const char* pfad, int art, ...) __asm__("__wrap_open");
+int echtes_close(int) __asm__("__real_close");
 int gestoertes_close(int) __asm__("__wrap_close");
+ssize_t echtes_write(int, const void*, size_t) __asm__("__real_write");
 ssize_t gestoertes_write(int, const void*, size_t) __asm__("__wrap_write");
-ssize_t gestoertes_read(int, void*, size_t) __asm__("__wrap_read");
-ssize_t gestoertes_pread(int, void*, size_t, off_t) __asm__("__wrap_pread");
-int gestoertes_fsync(int) __asm__("__wrap_fsync");
-int gestoertes_ftruncate(int, off_t) __asm__("__wrap_ftruncate");
-int gestoertes_rename(const char*, const char*) __asm__("__wrap_rename");
-int gestoertes_renameat2(int, const char*, int, const char*, unsigned) __asm__("__wrap_renameat2");
 
 int gestoertes_open(const char* pfad, int art, ...) {
     va_list weitere;
@@ -99,29 +102,5 @@ ssize_t gestoertes_write(int datei, const void* bytes, size_t anzahl) {
         return -1;
     }
     return echtes_write(datei, bytes, art == 0 ? anzahl : (anzahl + 1) / 2);
-}
-
-ssize_t gestoertes_read(int datei, void* bytes, size_t anzahl) {
-    return gestoert("read", [&] { return echtes_read(datei, bytes, anzahl); });
-}
-
-ssize_t gestoertes_pread(int datei, void* bytes, size_t anzahl, off_t ab) {
-    return gestoert("pread", [&] { return echtes_pread(datei, bytes, anzahl, ab); });
-}
-
-int gestoertes_fsync(int datei) {
-    return gestoert("fsync", [&] { return echtes_fsync(datei); });
-}
-
-int gestoertes_ftruncate(int datei, off_t laenge) {
-    return gestoert("ftruncate", [&] { return echtes_ftruncate(datei, laenge); });
-}
-
-int gestoertes_rename(const char* alt, const char* neu) {
-    return gestoert("rename", [&] { return echtes_rename(alt, neu); });
-}
-
-int gestoertes_renameat2(int von, const char* alt, int nach, const char* neu, unsigned art) {
-    return gestoert("renameat2", [&] { return echtes_renameat2(von, alt, nach, neu, art); });
 }
 }

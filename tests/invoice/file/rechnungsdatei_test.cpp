@@ -9,7 +9,6 @@
 #include <gtest/gtest.h>
 
 #include <cerrno>
-#include <random>
 
 #include <sys/stat.h>
 #include <unistd.h>
@@ -66,30 +65,14 @@ TEST(Rechnungsdatei, AlteUndUngewoehnlicheDateien) {
     EXPECT_FALSE(laden({}));
 }
 
-TEST(Rechnungsdatei, SchlechteDateienKostenNichts) {
-    std::mt19937 zufall(7);
-    std::string rauschen(100000, '\0');
-    for (char& c : rauschen) {
-        c = static_cast<char>(zufall());
-    }
-    std::string nullen = "qk8\r\n" + std::string(3000, '\0') + "\r\n#qk8LIST#;\0;-;1;a;1;1";
-    const std::pair<const char*, std::string> dateien[] = {
-        {"rauschen", rauschen},
-        {"rauschen mit kennung", "qk8\n" + rauschen},
-        {"nullen", nullen},
-        {"leer", ""},
-        {"eine Zeile von 10 MB", "qk8\r\n" + std::string(10U << 20U, 'x') + "\r\n#qk8LIST#;1;-;1;" +
-                                     std::string(1U << 20U, 'y') + ";1,00;1,00\r\n"},
-    };
-    for (const auto& [name, bytes] : dateien) {
-        SCOPED_TRACE(name);
-        Pruefstand p;
-        p.ordner.schreiben("x.qk8", bytes);
-        EXPECT_TRUE(p.oeffnen("x.qk8"));
-        EXPECT_EQ(p.form1.List_DARSTELLUNG.ListCount(), p.form1.List_K.ListCount());
-        p.form1.Text_Datum.Text = "1.2.2008"; // the file's own need not be a date
-        EXPECT_TRUE(p.speichern("y.qk8"));
-    }
+TEST(Rechnungsdatei, EineZeileVonZehnMegabyteKostetNichts) {
+    Pruefstand p;
+    p.ordner.schreiben("x.qk8", "qk8\r\n" + std::string(10U << 20U, 'x') + "\r\n#qk8LIST#;1;-;1;" +
+                                    std::string(1U << 20U, 'y') + ";1,00;1,00\r\n");
+    EXPECT_TRUE(p.oeffnen("x.qk8"));
+    EXPECT_EQ(p.form1.List_DARSTELLUNG.ListCount(), 1);
+    p.form1.Text_Datum.Text = "1.2.2008"; // the file has none
+    EXPECT_TRUE(p.speichern("y.qk8"));
 }
 
 TEST(Rechnungsdatei, AbgeschnitteneDateiWirdNichtUeberschrieben) {
