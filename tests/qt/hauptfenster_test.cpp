@@ -221,14 +221,19 @@ TEST_F(Hauptfenstertest, ZuLangeLeistungIstGekuerztUndTraegtIhrenTextAlsHinweis)
     EXPECT_TRUE(erste.data().toString().contains(leistung)) << "the item itself is whole";
     EXPECT_EQ(erste.data(Qt::AccessibleTextRole).toString(),
               "1; 2; " + leistung + "; 999999999,99; 1999999999,98");
-    const auto hinweis = [liste](int nummer) {
-        const QPoint ort = liste->visualRect(liste->model()->index(nummer, 0)).center();
-        QHelpEvent frage(QEvent::ToolTip, ort, liste->viewport()->mapToGlobal(ort));
-        QApplication::sendEvent(liste->viewport(), &frage);
+    const auto hinweis = [](QWidget* ziel, QPoint ort) {
+        QHelpEvent frage(QEvent::ToolTip, ort, ziel->mapToGlobal(ort));
+        QApplication::sendEvent(ziel, &frage);
         return QToolTip::text();
     };
-    EXPECT_EQ(hinweis(1), "");
-    EXPECT_TRUE(hinweis(0).contains(leistung.trimmed()));
+    const auto zeilenhinweis = [&](int nummer) {
+        return hinweis(liste->viewport(), liste->visualRect(liste->model()->index(nummer, 0)).center());
+    };
+    EXPECT_EQ(zeilenhinweis(1), "");
+    EXPECT_TRUE(zeilenhinweis(0).contains(leistung.trimmed()));
+    f().Hinweise.melden(std::string("<b> ") + leistung.toStdString() + leistung.toStdString());
+    const QString ganzer = hinweis(feld<QWidget>("StatusBar1(3)"), {5, 5});
+    EXPECT_TRUE(ganzer.startsWith("<p>&lt;b&gt; Brett") && ganzer.endsWith("Brett </p>")) << "in lines";
 }
 
 TEST_F(Hauptfenstertest, RasterEntstehtBeimAufklappen) {
