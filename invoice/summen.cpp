@@ -73,6 +73,11 @@ void Summen::UngezaehltesMelden() {
         anfuegen("Die Versandkosten zählen nicht: Das Häkchen \"" + BESCHRIFTUNG(f.Check_Versandkosten) +
                  "\" fehlt.");
     }
+    if (f.Check_mwst.ticked() && mwst_modus() == Mwst_Modus::Ohne) {
+        anfuegen("Die MwSt. zählt nicht: Bitte \"" + BESCHRIFTUNG(f.Option_mwst_plus) + "\", \"" +
+                 BESCHRIFTUNG(f.Option_mwst_minus) + "\" oder \"" + BESCHRIFTUNG(f.Option_inkl_MwSt) +
+                 "\" wählen.");
+    }
     if (versand && f.Check_VersandMwStEXTRA.ticked() && f.Check_VersandINKL_MwSt.ticked()) {
         anfuegen("Die MwSt. der Versandkosten wird nicht neu berechnet: Bitte nur \"" +
                  BESCHRIFTUNG(f.Check_VersandMwStEXTRA) + "\" oder \"" +
