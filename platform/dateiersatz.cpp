@@ -191,7 +191,7 @@ std::string datei_ersetzen(const std::string& pfad, std::string_view bytes,
         scheitern(EISDIR, ziel);
     }
     if (vorhanden && !S_ISREG(auskunft.st_mode)) {
-        Datei geraet(ziel, O_WRONLY);
+        Datei geraet(ziel, O_WRONLY | O_NONBLOCK); // a pipe without a reader must not hold the program
         geraet.schreiben(bytes);
         geraet.schliessen();
         return {};

@@ -52,6 +52,7 @@ TEST(Textdatei, FehlerHabenIhreNummer) {
     EXPECT_EQ(lesefehler(o.pfad("ordner")), fehler::kPfadZugriff);
     ASSERT_EQ(mkfifo(o.pfad("rohr").c_str(), 0600), 0);
     EXPECT_EQ(lesefehler(o.pfad("rohr")), fehler::kPfadZugriff) << "a pipe must not hold the program";
+    EXPECT_EQ(schreibfehler(o.pfad("rohr")), fehler::kDatentraegerFehlt);
     EXPECT_EQ(lesefehler("/dev/zero"), fehler::kPfadZugriff);
     EXPECT_EQ(schreibfehler(o.pfad("ordner")), fehler::kPfadZugriff);
     EXPECT_EQ(schreibfehler(o.pfad("kein/ordner")), fehler::kPfadFehlt);
