@@ -15,10 +15,15 @@ struct frm_einstellungen : Form {
     Menu m_import{*this, "m_import", "Einstellungen &importieren..."};
     CommandButton Command_uebernehmen2{*this, "Command_uebernehmen2", "Alle Änderungen übernehmen"};
     CommandButton Command_nichtuebernehmen{*this, "Command_nichtuebernehmen", "Änderungen nicht übernehmen"};
-    SSTab SSTab1{*this, "SSTab1"};
+    SSTab SSTab1{*this,
+                 "SSTab1",
+                 {"Firmendaten", "Bankdaten", "Textdaten", "Mehrwertsteuer/Währung",
+                  "Firmenlogo && Wasserzeichen", "Designer/Druckerschriftart", "Layouts", "Druckfarben",
+                  "Drucklayout", "Justierung", "Benennungen"}};
 
     // --- Firmendaten ---
-    Frame Frame1{SSTab1, "Frame1", "Kontaktdaten"};
+    Container& Seite_Firmendaten = SSTab1.page(0);
+    Frame Frame1{Seite_Firmendaten, "Frame1", "Kontaktdaten"};
     TextBox Text_firma_1{Frame1, "Text_firma_1", "MUSTERFIRMA"};
     CheckBox Check_FETT_firma1{Frame1, "Check_FETT_firma1", "Fettschrift"};
     TextBox Text_firma_2{Frame1, "Text_firma_2", "Musterstr. 2"};
@@ -30,7 +35,8 @@ struct frm_einstellungen : Form {
     TextBox Text_firma_8{Frame1, "Text_firma_8", "Faxnr.: 12345/56789"};
 
     // --- Bankdaten ---
-    Frame Frame5{SSTab1, "Frame5", "Bankverbindung"};
+    Container& Seite_Bankdaten = SSTab1.page(1);
+    Frame Frame5{Seite_Bankdaten, "Frame5", "Bankverbindung"};
     OptionButton Option_BankVerb_Vorgabe{Frame5, "Option_BankVerb_Vorgabe", "Bankverbindung nach Vorgabe"};
     OptionButton Option_BankVerb_ZweiZeile{Frame5, "Option_BankVerb_ZweiZeile", "Freie Zeilen"};
     Frame Frame_Bankverb_Vorlage{Frame5, "Frame_Bankverb_Vorlage"};
@@ -53,15 +59,16 @@ struct frm_einstellungen : Form {
     CheckBox Check_BANKLINIE{Frame_BANKLINIE, "Check_BANKLINIE", "Trennlinie drucken"};
 
     // --- Textdaten ---
-    Frame Frame8{SSTab1, "Frame8", "Rechnung"};
+    Container& Seite_Textdaten = SSTab1.page(2);
+    Frame Frame8{Seite_Textdaten, "Frame8", "Rechnung"};
     TextBox Text_rechnung{Frame8, "Text_rechnung", "RECHNUNG 2008 -"};
     HScrollBar HScroll_GROESSE_RECHNUNG{Frame8, "HScroll_GROESSE_RECHNUNG", 8, 20, 10};
     Label Label_GROESSE_RECHNUNG{Frame8, "Label_GROESSE_RECHNUNG", "..."};
-    Frame Frame2{SSTab1, "Frame2", "Werbespruch"};
+    Frame Frame2{Seite_Textdaten, "Frame2", "Werbespruch"};
     TextBox Text_Werbung{Frame2, "Text_Werbung", "Ihr Werbespruch"};
     HScrollBar HScroll_GROESSE_WERBUNG{Frame2, "HScroll_GROESSE_WERBUNG", 8, 20, 10};
     Label Label_GROESSE_WERBUNG{Frame2, "Label_GROESSE_WERBUNG", "..."};
-    ControlArray<Frame, 2> Frame3{SSTab1, "Frame3"};
+    ControlArray<Frame, 2> Frame3{Seite_Textdaten, "Frame3"};
     ControlArray<TextBox, 2> Text_Bemerkung1{Frame3, "Text_Bemerkung1"};
     ControlArray<TextBox, 2> Text_Bemerkung2{Frame3, "Text_Bemerkung2"};
     ControlArray<TextBox, 2> Text_Bemerkung3{Frame3, "Text_Bemerkung3"};
@@ -72,11 +79,11 @@ struct frm_einstellungen : Form {
     Label Label_GROESSE_ANSCHREIBEN{Frame3[0], "Label_GROESSE_ANSCHREIBEN", "..."};
     HScrollBar HScroll_GROESSE_BEMERKUNGEN{Frame3[1], "HScroll_GROESSE_BEMERKUNGEN", 8, 20, 10};
     Label Label_GROESSE_BEMERKUNGEN{Frame3[1], "Label_GROESSE_BEMERKUNGEN", "..."};
-    HScrollBar HScroll_GROESSE_ZUSATZ_1{SSTab1, "HScroll_GROESSE_ZUSATZ_1", 8, 20, 10};
-    Label Label_GROESSE_ZUSATZ_1{SSTab1, "Label_GROESSE_ZUSATZ_1", "..."};
-    HScrollBar HScroll_GROESSE_ZUSATZ_2{SSTab1, "HScroll_GROESSE_ZUSATZ_2", 8, 20, 10};
-    Label Label_GROESSE_ZUSATZ_2{SSTab1, "Label_GROESSE_ZUSATZ_2", "..."};
-    Frame Frame_RNSTARTWERT{SSTab1, "Frame_RNSTARTWERT", "Startwert für autom. Rechnungsnr.-Zähler"};
+    HScrollBar HScroll_GROESSE_ZUSATZ_1{Seite_Textdaten, "HScroll_GROESSE_ZUSATZ_1", 8, 20, 10};
+    Label Label_GROESSE_ZUSATZ_1{Seite_Textdaten, "Label_GROESSE_ZUSATZ_1", "..."};
+    HScrollBar HScroll_GROESSE_ZUSATZ_2{Seite_Textdaten, "HScroll_GROESSE_ZUSATZ_2", 8, 20, 10};
+    Label Label_GROESSE_ZUSATZ_2{Seite_Textdaten, "Label_GROESSE_ZUSATZ_2", "..."};
+    Frame Frame_RNSTARTWERT{Seite_Textdaten, "Frame_RNSTARTWERT", "Startwert für autom. Rechnungsnr.-Zähler"};
     TextBox Text_RNStartwert{Frame_RNSTARTWERT, "Text_RNStartwert", "1"};
     CommandButton Command_RNSTartwertSET{Frame_RNSTARTWERT, "Command_RNSTartwertSET", "Setzen"};
     Label Label_RNAKTUELL{Frame_RNSTARTWERT, "Label_RNAKTUELL"};
@@ -87,26 +94,28 @@ struct frm_einstellungen : Form {
     Label Label_Kopie{*this, "Label_Kopie", "         KOPIE   "};
 
     // --- Mehrwertsteuer/Währung ---
-    Frame Frame7{SSTab1, "Frame7", "Mehrwertsteuersatz 1:"};
+    Container& Seite_MwSt = SSTab1.page(3);
+    Frame Frame7{Seite_MwSt, "Frame7", "Mehrwertsteuersatz 1:"};
     TextBox Text_MwSt{Frame7, "Text_MwSt", "19"};
-    Frame Frame12{SSTab1, "Frame12", "Mehrwertsteuersatz 2:"};
+    Frame Frame12{Seite_MwSt, "Frame12", "Mehrwertsteuersatz 2:"};
     TextBox Text_MwSt2{Frame12, "Text_MwSt2", "7"};
-    Frame Frame6{SSTab1, "Frame6", "Berechnungsart"};
+    Frame Frame6{Seite_MwSt, "Frame6", "Berechnungsart"};
     CheckBox Check_mwst{Frame6, "Check_mwst", "mit MwSt"};
     OptionButton Option_mwst_plus{Frame6, "Option_mwst_plus", "plus (+)"};
     OptionButton Option_mwst_minus{Frame6, "Option_mwst_minus", "minus (-)"};
     OptionButton Option_inkl_MwSt{Frame6, "Option_inkl_MwSt", "inklusive MwSt"};
-    Frame Frame10{SSTab1, "Frame10", "Währungseinheit"};
+    Frame Frame10{Seite_MwSt, "Frame10", "Währungseinheit"};
     TextBox Text_Waehrung{Frame10, "Text_Waehrung", "EUR"};
 
     // --- Firmenlogo & Wasserzeichen ---
-    Frame Frame4{SSTab1, "Frame4", "Logo"};
+    Container& Seite_Bilder = SSTab1.page(4);
+    Frame Frame4{Seite_Bilder, "Frame4", "Logo"};
     TextBox Text_logopath{Frame4, "Text_logopath"};
     CommandButton Command_durchsuchen{Frame4, "Command_durchsuchen", "Durchsuchen..."};
     CheckBox Check_keinlogo{Frame4, "Check_keinlogo", "kein Logo verwenden"};
     PictureBox Picture1{Frame4, "Picture1"};
     Image logotab{Frame4, "logotab"};
-    Frame Frame_Wasserz{SSTab1, "Frame_Wasserz", "Wasserzeichein/Hintergrund"};
+    Frame Frame_Wasserz{Seite_Bilder, "Frame_Wasserz", "Wasserzeichein/Hintergrund"};
     TextBox Text_bildpath{Frame_Wasserz, "Text_bildpath"};
     CommandButton Command_Wasserz_Bild_suchen{Frame_Wasserz, "Command_Wasserz_Bild_suchen", "Bild suchen..."};
     CheckBox Check_mit_Wasserz{Frame_Wasserz, "Check_mit_Wasserz", "Wasserzeichen drucken"};
@@ -114,14 +123,16 @@ struct frm_einstellungen : Form {
     Image Image_WASSERZ{Frame_Wasserz, "Image_WASSERZ"};
 
     // --- Designer/Druckerschriftart ---
-    CommandButton CMD_DESIGNER{SSTab1, "CMD_DESIGNER", "Designer aufrufen..."};
-    Frame Frame_DRUCKERSCHRIFT{SSTab1, "Frame_DRUCKERSCHRIFT"};
+    Container& Seite_Designer = SSTab1.page(5);
+    CommandButton CMD_DESIGNER{Seite_Designer, "CMD_DESIGNER", "Designer aufrufen..."};
+    Frame Frame_DRUCKERSCHRIFT{Seite_Designer, "Frame_DRUCKERSCHRIFT"};
     CommandButton Command_DRUCKERSCHRIFT{Frame_DRUCKERSCHRIFT, "Command_DRUCKERSCHRIFT",
                                          "Schriftart wählen..."};
     CommandButton Command_DRUCKERSCHRIFT_Reset{Frame_DRUCKERSCHRIFT, "Command_DRUCKERSCHRIFT_Reset", "Arial"};
 
     // --- page designs ---
-    Frame Frame_Layout{SSTab1, "Frame_Layout", "Layout"};
+    Container& Seite_Layouts = SSTab1.page(6);
+    Frame Frame_Layout{Seite_Layouts, "Frame_Layout", "Layout"};
     OptionButton Option1_Layout{Frame_Layout, "Option1_Layout", "Layout 1"};
     OptionButton Option2_Layout{Frame_Layout, "Option2_Layout", "Layout 2"};
     OptionButton Option3_Layout{Frame_Layout, "Option3_Layout", "Layout 3"};
@@ -141,6 +152,7 @@ struct frm_einstellungen : Form {
     Image Image8_Layout{Frame_Layout, "Image8_Layout"};
 
     // --- print colours ---
+    Container& Seite_Druckfarben = SSTab1.page(7);
     struct Farbzeile {
         Farbzeile(Container& seite, const char* rahmen, const char* titel, const char* knopf,
                   const char* muster, const char* regler);
@@ -151,41 +163,23 @@ struct frm_einstellungen : Form {
         Slider G;     ///< 0 to 255
         Slider B;     ///< 0 to 255
     };
-    Farbzeile Linien{
-        SSTab1, "Frame_Linien", "Linien", "Command_FARBE_LINIEN", "Frame_Linienfarbe", "Slider_Linienfarbe"};
-    Farbzeile Werbespruch{SSTab1,
-                          "Frame_Werbespruch",
-                          "Werbespruch",
-                          "Command_FARBE_WERBESPRUCH",
-                          "Frame_Werbespruchfarbe",
-                          "Slider_Werbespruchfarbe"};
-    Farbzeile Bankdaten{SSTab1,
-                        "Frame_Bankdaten",
-                        "Bankdaten",
-                        "Command_FARBE_BANKDATEN",
-                        "Frame_Bankdatenfarbe",
-                        "Slider_Bankdatenfarbe"};
-    Farbzeile Bemerkungen{SSTab1,
-                          "Frame_Bemerkungen",
-                          "Bemerkungen",
-                          "Command_FARBE_BEMERKUNGEN",
-                          "Frame_Bemerkungenfarbe",
-                          "Slider_Bemerkungenfarbe"};
-    Farbzeile Firmendaten{SSTab1,
-                          "Frame_Firmendaten",
-                          "Firmendaten",
-                          "Command_FARBE_FIRMENDATEN",
-                          "Frame_Firmendatenfarbe",
-                          "Slider_Firmendatenfarbe"};
-    Farbzeile Kundennr{SSTab1,
-                       "Frame_Kundennr",
-                       "Kundennummer",
-                       "Command_FARBE_KUNDENNR",
-                       "Frame_Kundennrfarbe",
-                       "Slider_Kundennrfarbe"};
+    Farbzeile Linien{Seite_Druckfarben,      "Frame_Linien",      "Linien",
+                     "Command_FARBE_LINIEN", "Frame_Linienfarbe", "Slider_Linienfarbe"};
+    Farbzeile Werbespruch{Seite_Druckfarben,           "Frame_Werbespruch",      "Werbespruch",
+                          "Command_FARBE_WERBESPRUCH", "Frame_Werbespruchfarbe", "Slider_Werbespruchfarbe"};
+    Farbzeile Bankdaten{Seite_Druckfarben,         "Frame_Bankdaten",      "Bankdaten",
+                        "Command_FARBE_BANKDATEN", "Frame_Bankdatenfarbe", "Slider_Bankdatenfarbe"};
+    Farbzeile Bemerkungen{Seite_Druckfarben,           "Frame_Bemerkungen",      "Bemerkungen",
+                          "Command_FARBE_BEMERKUNGEN", "Frame_Bemerkungenfarbe", "Slider_Bemerkungenfarbe"};
+    Farbzeile Firmendaten{Seite_Druckfarben,           "Frame_Firmendaten",      "Firmendaten",
+                          "Command_FARBE_FIRMENDATEN", "Frame_Firmendatenfarbe", "Slider_Firmendatenfarbe"};
+    Farbzeile Kundennr{Seite_Druckfarben,        "Frame_Kundennr",      "Kundennummer",
+                       "Command_FARBE_KUNDENNR", "Frame_Kundennrfarbe", "Slider_Kundennrfarbe"};
 
     // --- general page layout ---
-    Frame Frame_DruckLayoutallgemein{SSTab1, "Frame_DruckLayoutallgemein", "Allgemeines Drucklayout"};
+    Container& Seite_Drucklayout = SSTab1.page(8);
+    Frame Frame_DruckLayoutallgemein{Seite_Drucklayout, "Frame_DruckLayoutallgemein",
+                                     "Allgemeines Drucklayout"};
     Frame Frame_RN_RK_kopf{Frame_DruckLayoutallgemein, "Frame_RN_RK_kopf", "Rechnungskopf"};
     OptionButton Option_RN_Kopf_alleSeiten{Frame_RN_RK_kopf, "Option_RN_Kopf_alleSeiten", "auf alle Seiten"};
     OptionButton Option_RN_RK_Kopf_nurErsteSeite{Frame_RN_RK_kopf, "Option_RN_RK_Kopf_nurErsteSeite",
@@ -206,7 +200,8 @@ struct frm_einstellungen : Form {
     CheckBox Check_Faltmarke_MITDRUCKEN{Frame13, "Check_Faltmarke_MITDRUCKEN", "Faltmarken drucken"};
 
     // --- print adjustment, millimetres ---
-    Frame Frame11{SSTab1, "Frame11", "Justierung"};
+    Container& Seite_Justierung = SSTab1.page(9);
+    Frame Frame11{Seite_Justierung, "Frame11", "Justierung"};
     Frame Frame_JustierA4{Frame11, "Frame_JustierA4"};
     Shape ShapejustierA4{Frame_JustierA4, "ShapejustierA4"};
     HScrollBar HScroll_druckj{Frame11, "HScroll_druckj", -12, 12, -4};
@@ -215,7 +210,8 @@ struct frm_einstellungen : Form {
     Label LabelDRUCKj_V{Frame11, "LabelDRUCKj_V", "-6 mm"};
 
     // --- names of the columns ---
-    Frame Frame14{SSTab1, "Frame14", "Benennungszuordnung"};
+    Container& Seite_Benennungen = SSTab1.page(10);
+    Frame Frame14{Seite_Benennungen, "Frame14", "Benennungszuordnung"};
     TextBox TName_Pos{Frame14, "TName_Pos", "Pos."};
     TextBox TName_Menge{Frame14, "TName_Menge", "Menge"};
     TextBox TName_Leistung{Frame14, "TName_Leistung", "Leistung"};

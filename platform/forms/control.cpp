@@ -34,13 +34,22 @@ Control::Control(Container& container, const Named& named, std::string caption)
 
 Control::~Control() = default;
 
-bool Control::effectively_visible() const {
+bool Control::visible_behind_tabs() const {
     for (const Control* c = this; c != nullptr; c = c->container_.container_control()) {
         if (!c->Visible()) {
             return false;
         }
     }
     return true;
+}
+
+bool Control::effectively_visible() const {
+    for (const Control* c = this; c != nullptr; c = c->container_.container_control()) {
+        if (!c->container_.in_front()) {
+            return false;
+        }
+    }
+    return visible_behind_tabs();
 }
 
 bool Control::effectively_enabled() const {

@@ -17,7 +17,7 @@ namespace quittika {
 class Control;
 class Form;
 
-/// Something that holds controls: a form, or a frame on it.
+/// Something that holds controls: a form, a frame on it, or a page behind a tab.
 /// Option buttons of one container switch each other off.
 class Container {
 public:
@@ -25,6 +25,10 @@ public:
     virtual Form& form() = 0;
     /// The control that this container is, or null for the form itself.
     virtual Control* container_control() = 0;
+    /// Whether what it holds can be seen; not on a page behind another one.
+    virtual bool in_front() const { return true; }
+    /// Turns to the page that it is.
+    virtual void bring_to_front() {}
 };
 
 /// What a platform hangs on a control in order to show it.
@@ -76,8 +80,10 @@ public:
     Form& form() const { return form_; }
     /// The container that the control stands in.
     Container& container() const { return container_; }
-    /// Visible itself, and all frames around it too.
+    /// Visible itself, and all frames around it too, and every page that it stands on in front.
     bool effectively_visible() const;
+    /// Visible as far as a user's clicks on tabs can make it so.
+    bool visible_behind_tabs() const;
     /// Enabled itself, and all frames around it too.
     bool effectively_enabled() const;
 

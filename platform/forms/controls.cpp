@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <utility>
 
 namespace quittika {
 
@@ -220,6 +221,13 @@ void RangeControl::check(PropertyId id, std::int64_t value) const {
     require(id != PropertyId::Value || (value >= Min() && value <= Max()), kInvalidProperty);
 }
 
+void RangeControl::changed(PropertyId id) {
+    Control::changed(id);
+    if ((id == PropertyId::Min || id == PropertyId::Max) && Min() <= Max()) {
+        Value = std::clamp(Value(), Min(), Max());
+    }
+}
+
 void RangeControl::fire_for(PropertyId id) {
     if (id == PropertyId::Value) {
         Change();
@@ -236,6 +244,28 @@ void Slider::fire_for(PropertyId id) {
 Timer::Timer(Container& container, const Named& named, int interval_ms, bool enabled)
     : Control(container, named), Interval(*this, PropertyId::Interval, interval_ms) {
     Enabled.adopt(enabled);
+}
+
+SSTab::SSTab(Container& container, const Named& named, std::vector<std::string> captions)
+    : Control(container, named), captions_(std::move(captions)) {
+    for (int index = 0; index < static_cast<int>(captions_.size()); ++index) {
+        pages_.emplace_back(*this, index);
+    }
+}
+
+std::string SSTab::main_value() const {
+    return item(captions_, Tab());
+}
+
+int SSTab::index_of(const Container& page) const {
+    const auto is_page = [&page](const Page& one) { return &one == &page; };
+    return static_cast<int>(std::find_if(pages_.begin(), pages_.end(), is_page) - pages_.begin());
+}
+
+void SSTab::check(PropertyId id, std::int64_t value) const {
+    Control::check(id, value);
+    require(id != PropertyId::Tab || (value >= 0 && value < static_cast<int>(captions_.size())),
+            kInvalidProperty);
 }
 
 void SSTab::fire_for(PropertyId id) {

@@ -3,6 +3,9 @@
 #include "platform/forms/form.hpp"
 
 #include <cstdint>
+#include <deque>
+#include <functional>
+#include <string>
 #include <vector>
 
 namespace quittika {
@@ -147,6 +150,10 @@ public:
     /// A user's click on an item: fires `Click` even where it was selected already.
     void user_select(int index);
 
+    /// The text that item `index` gives when the mouse drags it to a text field; the field gets a copy. The
+    /// drag selects the item first. An item with an empty text stays; without a routine none can be dragged.
+    std::function<std::string(int index)> DragText;
+
     Handler<> Changed{activity_}; ///< after items or selection have changed, whoever changed them
 
 protected:
@@ -190,7 +197,8 @@ private:
     bool editable_;
 };
 
-/// What scroll bars, sliders and progress bars share: a value within bounds.
+/// What scroll bars, sliders and progress bars share: a value within bounds. New bounds take the value along,
+/// with `Change`; while they contradict each other, it stays.
 class RangeControl : public Control {
 public:
     RangeControl(Container& container, const Named& named, int min, int max, int value);
@@ -204,6 +212,7 @@ public:
 
 protected:
     void check(PropertyId id, std::int64_t value) const override;
+    void changed(PropertyId id) override;
     void fire_for(PropertyId id) override;
 };
 
@@ -259,17 +268,50 @@ public:
     std::string_view kind() const override { return "StatusPanel"; }
 };
 
-/// Pages behind tabs; `Tab` is the page in front, from 0.
-class SSTab final : public Control, public Container {
+/// Pages behind tabs. A control names the page that it stands on as its container:
+///
+///     SSTab SSTab1{*this, "SSTab1", {"Firmendaten", "Bankdaten"}};
+///     Frame Frame5{SSTab1.page(1), "Frame5", "Bankverbindung"};
+///
+/// Whoever turns to another page, `Click` follows. What stands on a page behind another one cannot be seen
+/// and takes no focus, but it is within a user's reach: a script's command on it clicks the tab first.
+class SSTab final : public Control {
 public:
-    using Control::Control;
+    /// `captions`: one for each page; "&" marks the letter for the Alt key, "&&" is an ampersand.
+    SSTab(Container& container, const Named& named, std::vector<std::string> captions);
     std::string_view kind() const override { return "SSTab"; }
-    Form& form() override { return Control::form(); }
-    Control* container_control() override { return this; }
-    Property<int> Tab{*this, PropertyId::Tab, 0};
+    /// Caption of the page in front.
+    std::string main_value() const override;
+    /// The tabs report their clicks themselves.
+    void user_click() override {}
+
+    Property<int> Tab{*this, PropertyId::Tab, 0}; ///< page in front, from 0
+
+    const std::vector<std::string>& captions() const { return captions_; }
+    Container& page(int index) { return pages_.at(static_cast<std::size_t>(index)); }
+    /// Index of one of the pages.
+    int index_of(const Container& page) const;
 
 protected:
+    void check(PropertyId id, std::int64_t value) const override;
     void fire_for(PropertyId id) override;
+
+private:
+    class Page final : public Container {
+    public:
+        Page(SSTab& tabs, int index) : tabs_(tabs), index_(index) {}
+        Form& form() override { return tabs_.form(); }
+        Control* container_control() override { return &tabs_; }
+        bool in_front() const override { return tabs_.Tab() == index_; }
+        void bring_to_front() override { tabs_.Tab = index_; }
+
+    private:
+        SSTab& tabs_;
+        int index_;
+    };
+
+    std::vector<std::string> captions_;
+    std::deque<Page> pages_;
 };
 
 /// Drives and directories, chosen by path.

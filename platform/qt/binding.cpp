@@ -2,6 +2,7 @@
 
 #include "platform/qt/button_views.hpp"
 #include "platform/qt/directory_views.hpp"
+#include "platform/qt/frame_view.hpp"
 #include "platform/qt/list_views.hpp"
 #include "platform/qt/plain_views.hpp"
 #include "platform/qt/qt_text.hpp"
@@ -50,6 +51,11 @@ bool is_container(QObject& object) {
     return object.isWidgetType() && !other;
 }
 
+template <Qt::Orientation Direction> bool is_scroll_bar(QObject& object) {
+    const auto* bar = qobject_cast<QScrollBar*>(&object);
+    return bar != nullptr && bar->orientation() == Direction;
+}
+
 bool shows_picture(QObject& object) {
     return is_a<QLabel>(object) || is_container(object);
 }
@@ -81,8 +87,10 @@ constexpr Pair kPairs[] = {
     {"Line", "QFrame", is_container, tie<Control, QWidget, FrameView>},
     {"ListBox", "QListView", is_a<QListView>, tie<ListBox, QListView, ListBoxView>},
     {"ComboBox", "QComboBox", is_a<QComboBox>, tie<ComboBox, QComboBox, ComboBoxView>},
-    {"HScrollBar", "QScrollBar", is_a<QScrollBar>, tie<RangeControl, QAbstractSlider, RangeView>},
-    {"VScrollBar", "QScrollBar", is_a<QScrollBar>, tie<RangeControl, QAbstractSlider, RangeView>},
+    {"HScrollBar", "horizontal QScrollBar", is_scroll_bar<Qt::Horizontal>,
+     tie<RangeControl, QAbstractSlider, RangeView>},
+    {"VScrollBar", "vertical QScrollBar", is_scroll_bar<Qt::Vertical>,
+     tie<RangeControl, QAbstractSlider, RangeView>},
     {"Slider", "QSlider", is_a<QSlider>, tie<RangeControl, QAbstractSlider, RangeView>},
     {"ProgressBar", "QProgressBar", is_a<QProgressBar>, tie<ProgressBar, QProgressBar, ProgressView>},
     {"Image", "QLabel", shows_picture, tie<Control, QWidget, PictureView>},
@@ -152,6 +160,22 @@ QMultiHash<QString, QObject*> named_parts(const Form& form, QWidget& window) {
     return parts;
 }
 
+/// What is wrong between the pages of a form and those of its window; empty when all is right.
+std::string page_finding(const Control& control, const QWidget& widget) {
+    if (const auto* tabs = dynamic_cast<const SSTab*>(&control)) {
+        const auto count = static_cast<std::size_t>(static_cast<const QTabWidget&>(widget).count());
+        return count == tabs->captions().size() ? "" : "has " + std::to_string(count) + " pages";
+    }
+    const auto* tabs = dynamic_cast<const SSTab*>(control.container().container_control());
+    if (tabs == nullptr) {
+        return {};
+    }
+    const auto index = tabs->index_of(control.container());
+    const auto* around = widget.window()->findChild<QTabWidget*>(to_qt(tabs->name()));
+    const QWidget* page = around == nullptr ? nullptr : around->widget(index);
+    return page != nullptr && page->isAncestorOf(&widget) ? "" : "not on page " + std::to_string(index);
+}
+
 std::string finding(const Control& control, const QList<QObject*>& widgets) {
     const std::string name = control.form().name() + "." + control.name();
     if (widgets.isEmpty()) {
@@ -168,8 +192,11 @@ std::string finding(const Control& control, const QList<QObject*>& widgets) {
     if (widget == nullptr) {
         return control.placing() == Placing::Layout ? "" : name + ": has a place, but no widget stands there";
     }
-    const std::string place = place_finding(control, *widget);
-    return place.empty() ? "" : name + ": " + place;
+    std::string wrong = place_finding(control, *widget);
+    if (wrong.empty()) {
+        wrong = page_finding(control, *widget);
+    }
+    return wrong.empty() ? "" : name + ": " + wrong;
 }
 
 /// Ties the controls that nothing shows yet; returns the names of those for which there is no widget.

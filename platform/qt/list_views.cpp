@@ -4,12 +4,17 @@
 #include "platform/qt/qt_text.hpp"
 #include "platform/qt/widgets/column_list.hpp"
 
+#include <QApplication>
 #include <QContextMenuEvent>
+#include <QDrag>
 #include <QEvent>
 #include <QItemSelectionModel>
+#include <QMimeData>
+#include <QMouseEvent>
 #include <QScrollBar>
 
 #include <memory>
+#include <utility>
 #include <vector>
 
 namespace quittika {
@@ -89,24 +94,76 @@ bool ListBoxView::eventFilter(QObject* watched, QEvent* event) {
         open_menu(static_cast<QContextMenuEvent&>(*event));
         return true;
     }
-    // While the button is down the selection follows the mouse; the row chosen is the one at its release.
     if (event->type() == QEvent::MouseButtonPress) {
-        mouse_down_ = true;
+        pressed(static_cast<QMouseEvent&>(*event));
+    } else if (event->type() == QEvent::MouseMove && drags(static_cast<QMouseEvent&>(*event))) {
+        return true;
     } else if (event->type() == QEvent::MouseButtonRelease) {
-        mouse_down_ = false;
-        QMetaObject::invokeMethod(
-            this,
-            [this] {
-                const int row = selected_row();
-                if (row >= 0 && row != control_.ListIndex()) {
-                    take(row);
-                } else {
-                    push_index(); // a click beside the rows chooses nothing else
-                }
-            },
-            Qt::QueuedConnection);
+        if (std::exchange(dragged_, false)) {
+            return true;
+        }
+        released();
     }
     return WidgetView::eventFilter(watched, event);
+}
+
+// While the button is down the selection follows the mouse; the row chosen is the one at its release.
+void ListBoxView::pressed(const QMouseEvent& event) {
+    mouse_down_ = true;
+    dragged_ = false;
+    pressed_at_ = event.position().toPoint();
+    const bool may_be_dragged = control_.DragText && event.button() == Qt::LeftButton;
+    pressed_row_ = may_be_dragged ? widget_.indexAt(pressed_at_).row() : -1;
+}
+
+void ListBoxView::released() {
+    mouse_down_ = false;
+    pressed_row_ = -1;
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            const int row = selected_row();
+            if (row >= 0 && row != control_.ListIndex()) {
+                take(row);
+            } else {
+                push_index(); // a click beside the rows chooses nothing else
+            }
+        },
+        Qt::QueuedConnection);
+}
+
+bool ListBoxView::drags(const QMouseEvent& event) {
+    if (pressed_row_ < 0 || !event.buttons().testFlag(Qt::LeftButton)) {
+        return false;
+    }
+    const QPoint way = event.position().toPoint() - pressed_at_;
+    if (way.manhattanLength() >= QApplication::startDragDistance()) {
+        const int row = std::exchange(pressed_row_, -1);
+        std::string text;
+        guarded(control_.form(), [&] { text = control_.DragText(row); });
+        if (text.empty()) {
+            return false;
+        }
+        drag(row, text);
+    }
+    return true;
+}
+
+void ListBoxView::drag(int row, const std::string& text) {
+    const Activity::Hold here(control_.form().activity()); // until the drop has been heard
+    mouse_down_ = false;
+    dragged_ = true; // the drag gets the release
+    if (row != control_.ListIndex()) {
+        take(row);
+    }
+    if (!QGuiApplication::mouseButtons().testFlag(Qt::LeftButton)) {
+        return; // the click has led to a box, which got it
+    }
+    auto* data = new QMimeData;
+    data->setText(lines_to_qt(text));
+    auto* drag = new QDrag(&widget_);
+    drag->setMimeData(data);
+    drag->exec(Qt::CopyAction);
 }
 
 void ListBoxView::push_all() {

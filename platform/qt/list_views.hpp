@@ -6,8 +6,12 @@
 #include <QComboBox>
 #include <QListView>
 #include <QMenu>
+#include <QPoint>
+
+#include <string>
 
 class QContextMenuEvent;
+class QMouseEvent;
 
 namespace quittika {
 
@@ -31,12 +35,20 @@ private:
     void take(int row);
     int selected_row() const;
     void open_menu(const QContextMenuEvent& event);
+    void pressed(const QMouseEvent& event);
+    void released();
+    /// A move of the mouse. Returns whether it is the beginning of a drag, or the drag itself, now over.
+    bool drags(const QMouseEvent& event);
+    void drag(int row, const std::string& text);
 
     ListModel model_;
     QMenu* menu_;
     bool dirty_ = false;
     bool pushing_ = false;
     bool mouse_down_ = false;
+    bool dragged_ = false; ///< since the last press of a button
+    int pressed_row_ = -1; ///< may be dragged
+    QPoint pressed_at_;
 };
 
 class ComboBoxView final : public TypedView<ComboBox, QComboBox> {

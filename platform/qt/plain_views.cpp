@@ -7,7 +7,6 @@
 #include "platform/qt/widgets/tint.hpp"
 #include "platform/verzeichnis.hpp"
 
-#include <QGroupBox>
 #include <QImageReader>
 #include <QPaintEvent>
 #include <QPainter>
@@ -47,13 +46,6 @@ void LabelView::push(PropertyId id) {
     }
     if (caption != widget_.text()) {
         widget_.setText(caption);
-    }
-}
-
-void FrameView::push(PropertyId id) {
-    auto* group = qobject_cast<QGroupBox*>(&widget_);
-    if (id == PropertyId::Caption && group != nullptr && group->title() != to_qt(control_.Caption())) {
-        group->setTitle(to_qt(control_.Caption()));
     }
 }
 
@@ -105,6 +97,10 @@ void PictureView::paint() {
 }
 
 TabView::TabView(SSTab& control, QTabWidget& widget) : TypedView(control, widget) {
+    widget.tabBar()->setFocusPolicy(Qt::StrongFocus); // a click on a tab ends the entry in a field
+    for (int page = 0; page < widget.count() && page < static_cast<int>(control.captions().size()); ++page) {
+        widget.setTabText(page, to_qt(control.captions()[static_cast<std::size_t>(page)]));
+    }
     connect(&widget, &QTabWidget::currentChanged, this, [this](int page) {
         if (page >= 0 && page != control_.Tab()) {
             guarded(control_.form(), [this, page] { control_.Tab = page; });

@@ -5,6 +5,7 @@
 #include <QAction>
 #include <QLabel>
 #include <QPixmap>
+#include <QTabBar>
 #include <QTabWidget>
 
 namespace quittika {
@@ -15,16 +16,6 @@ class Backdrop;
 class LabelView final : public TypedView<Control, QLabel> {
 public:
     LabelView(Control& control, QLabel& widget);
-
-protected:
-    void push(PropertyId id) override;
-    Clicks clicks() const override { return Clicks::Taken; }
-};
-
-/// Frames, shapes and lines. A frame's caption is the title of a group box.
-class FrameView final : public TypedView<Control, QWidget> {
-public:
-    using TypedView::TypedView;
 
 protected:
     void push(PropertyId id) override;
@@ -58,6 +49,7 @@ public:
 protected:
     void push(PropertyId id) override;
     void push_all() override { push(PropertyId::Tab); }
+    QWidget& surface() const override { return *widget_.tabBar(); }
 };
 
 /// A menu entry.

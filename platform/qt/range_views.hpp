@@ -7,7 +7,8 @@
 
 namespace quittika {
 
-/// Scroll bars and sliders.
+/// Scroll bars and sliders. A key or the wheel goes by a step of 1, in a wide range by 1/200 of it; a click
+/// beside the handle and the page keys go by a tenth.
 class RangeView final : public TypedView<RangeControl, QAbstractSlider> {
 public:
     RangeView(RangeControl& control, QAbstractSlider& widget);

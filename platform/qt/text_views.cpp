@@ -3,6 +3,8 @@
 #include "platform/qt/guard.hpp"
 #include "platform/qt/qt_text.hpp"
 
+#include <QCoreApplication>
+#include <QDropEvent>
 #include <QEvent>
 #include <QFocusEvent>
 #include <QTextBlock>
@@ -167,6 +169,28 @@ template <class W> void TextView<W>::take_selection() {
     const int start = control_position(text, part.start);
     this->control_.SelStart.adopt(start);
     this->control_.SelLength.adopt(control_position(text, part.start + part.length) - start);
+}
+
+template <class W> bool TextView<W>::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::Drop && !inserting_ && !this->control_.OLEDragDrop) {
+        auto& drop = static_cast<QDropEvent&>(*event);
+        const bool moved_inside = drop.source() == &this->widget_ || drop.source() == &this->surface();
+        if (!moved_inside) {
+            insert_copy(drop);
+            return true;
+        }
+    }
+    return WidgetView::eventFilter(watched, event);
+}
+
+template <class W> void TextView<W>::insert_copy(QDropEvent& drop) {
+    const Pushing here(inserting_);
+    QDropEvent copy(drop.position(), Qt::CopyAction, drop.mimeData(), drop.buttons(), drop.modifiers());
+    copy.setAccepted(drop.possibleActions().testFlag(Qt::CopyAction));
+    if (copy.isAccepted()) {
+        QCoreApplication::sendEvent(&this->surface(), &copy);
+    }
+    take_copy(drop, copy.isAccepted());
 }
 
 template class TextView<QLineEdit>;

@@ -17,6 +17,7 @@ protected:
     void push(PropertyId id) override;
     void push_all() override;
     Clicks clicks() const override { return Clicks::Shared; }
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
     /// The widget's text has changed under the user's hands.
     void take_text();
@@ -27,7 +28,9 @@ private:
     void push_text();
     void push_read_only();
     void push_selection();
+    void insert_copy(QDropEvent& drop);
 
+    bool inserting_ = false;
     bool pushing_ = false;
     bool holds_all_ = true;
 };

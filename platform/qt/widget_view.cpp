@@ -104,12 +104,9 @@ void WidgetView::start() {
     if (&mouse_widget != &widget_) {
         mouse_widget.installEventFilter(this);
     }
-    if (control_.OLEDragDrop) {
-        mouse_widget.setAcceptDrops(true);
-    }
-    if (control_.MouseMove) {
-        mouse_widget.setMouseTracking(true);
-    }
+    // Whether there is a handler shows when something comes.
+    mouse_widget.setAcceptDrops(true);
+    mouse_widget.setMouseTracking(true);
 }
 
 void WidgetView::push_common_start() {
@@ -213,7 +210,7 @@ bool WidgetView::eventFilter(QObject* /*watched*/, QEvent* event) {
     case QEvent::DragEnter:
     case QEvent::DragMove:
     case QEvent::Drop:
-        return control_.OLEDragDrop && widget_.isEnabled() && drop(*event);
+        return control_.OLEDragDrop && widget_.isEnabled() && drop(static_cast<QDropEvent&>(*event));
     default:
         return false;
     }
@@ -236,12 +233,14 @@ bool WidgetView::mouse(const QEvent& event) {
     const bool taken = clicks() == Clicks::Taken && hears_mouse();
     switch (event.type()) {
     case QEvent::MouseButtonPress:
+        pressed_ = true;
         fire(control_.MouseDown);
         return taken;
     case QEvent::MouseMove:
         fire(control_.MouseMove);
         return taken;
     case QEvent::MouseButtonDblClick:
+        pressed_ = true;
         fire(control_.MouseDown);
         if (control_.DblClick && clicks() != Clicks::Own && at.button == MouseButton::Left) {
             guarded(control_.form(), [this] { control_.DblClick(); });
@@ -249,7 +248,9 @@ bool WidgetView::mouse(const QEvent& event) {
         return taken;
     default:
         fire(control_.MouseUp);
-        release(at.button, given.position().toPoint());
+        if (std::exchange(pressed_, false)) { // else the end of a drag from elsewhere
+            release(at.button, given.position().toPoint());
+        }
         return taken;
     }
 }
@@ -260,17 +261,26 @@ void WidgetView::release(MouseButton button, QPoint place) {
     }
 }
 
-bool WidgetView::drop(QEvent& event) {
-    auto& given = static_cast<QDropEvent&>(event);
-    if (!given.mimeData()->hasText()) {
+bool WidgetView::drop(QDropEvent& event) {
+    if (!event.mimeData()->hasText()) {
         return false;
     }
-    given.acceptProposedAction();
-    if (event.type() == QEvent::Drop) {
-        const std::string text = from_qt(given.mimeData()->text());
-        guarded(control_.form(), [&] { control_.OLEDragDrop(text); });
+    take_copy(event, event.possibleActions().testFlag(Qt::CopyAction));
+    if (event.type() == QEvent::Drop && event.isAccepted()) {
+        QMetaObject::invokeMethod( // when the drag has ended, so that the handler may ask the user
+            this,
+            [this, text = lines_from_qt(event.mimeData()->text())] {
+                guarded(control_.form(), [&] { control_.OLEDragDrop(text); });
+            },
+            Qt::QueuedConnection);
     }
     return true;
+}
+
+void take_copy(QDropEvent& event, bool accepted) {
+    // Never a move: the one who dragged would then take the text away.
+    event.setDropAction(Qt::CopyAction);
+    event.setAccepted(accepted);
 }
 
 } // namespace quittika

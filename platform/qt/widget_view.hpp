@@ -61,14 +61,18 @@ private:
     void push_common_start();
     bool mouse(const QEvent& event);
     void release(MouseButton button, QPoint place);
-    bool drop(QEvent& event);
+    bool drop(QDropEvent& event);
     bool hears_mouse() const;
 
     Control& control_;
     QWidget& widget_;
     WidgetColors colors_;
+    bool pressed_ = false;               ///< a button went down here
     std::unique_ptr<WidgetPlace> place_; ///< where the program cares for it
 };
+
+/// Answers what is dragged over a widget or dropped on it: taken as a copy, or not at all.
+void take_copy(QDropEvent& event, bool accepted);
 
 /// A view that knows the exact types of its two sides.
 template <class C, class W> class TypedView : public WidgetView {

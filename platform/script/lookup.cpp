@@ -120,7 +120,7 @@ void require_reachable(const ScriptDesktop& desktop, const Form& form) {
 
 void require_reachable(const ScriptDesktop& desktop, const Control& control) {
     require_reachable(desktop, control.form());
-    if (!control.effectively_visible()) {
+    if (!control.visible_behind_tabs()) {
         throw CommandError(full_name(control) + " ist nicht sichtbar");
     }
     if (!control.effectively_enabled() || !control.form().Enabled()) {

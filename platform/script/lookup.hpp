@@ -21,7 +21,7 @@ const std::vector<std::string>& items(const ScriptDesktop& desktop, std::string_
 
 /// Throws unless a user could get at the window.
 void require_reachable(const ScriptDesktop& desktop, const Form& form);
-/// Throws unless a user could get at the control.
+/// Throws unless a user could get at the control, be it by a click on the tab of its page.
 void require_reachable(const ScriptDesktop& desktop, const Control& control);
 
 /// The name under which scripts know a control.

@@ -13,12 +13,22 @@ namespace quittika {
 
 namespace {
 
-constexpr std::array<std::string_view, 11> kFocusable{
-    "CommandButton", "CheckBox",   "OptionButton", "TextBox",      "ListBox",   "ComboBox",
-    "HScrollBar",    "VScrollBar", "Slider",       "DriveListBox", "DirListBox"};
+constexpr std::array<std::string_view, 12> kFocusable{
+    "CommandButton", "CheckBox",   "OptionButton", "TextBox",      "ListBox",    "ComboBox",
+    "HScrollBar",    "VScrollBar", "Slider",       "DriveListBox", "DirListBox", "SSTab"};
 
-bool focusable(const Control& control) {
-    return std::find(kFocusable.begin(), kFocusable.end(), control.kind()) != kFocusable.end();
+/// What has no other clicks than those of the mouse.
+constexpr std::array<std::string_view, 8> kClickedByMouse{"Label", "StatusPanel", "Image", "PictureBox",
+                                                          "Frame", "Shape",       "Line",  "TextBox"};
+
+template <class Kinds> bool is_one_of(const Kinds& kinds, const Control& control) {
+    return std::find(kinds.begin(), kinds.end(), control.kind()) != kinds.end();
+}
+
+/// A size of 0 is not known here.
+bool contains(const Control& control, const MouseEvent& at) {
+    const auto within = [](int place, int size) { return place >= 0 && (size == 0 || place < size); };
+    return within(at.x, control.Width()) && within(at.y, control.Height());
 }
 
 /// Byte length of the UTF-8 character that begins at `at`; a stray byte counts as one.
@@ -61,8 +71,23 @@ void User::require_reachable(const Control& control) const {
     lookup::require_reachable(desktop_, control);
 }
 
+void User::bring_to_front(Control& control) {
+    std::vector<Container*> behind; // innermost first
+    for (Control* c = &control; c != nullptr; c = c->container().container_control()) {
+        if (!c->container().in_front()) {
+            behind.push_back(&c->container());
+        }
+    }
+    for (auto page = behind.rbegin(); page != behind.rend(); ++page) {
+        desktop_.set_focus(*(*page)->container_control());
+        (*page)->bring_to_front();
+        require_reachable(control);
+    }
+}
+
 void User::focus(Control& control) {
-    if (focusable(control)) {
+    bring_to_front(control);
+    if (is_one_of(kFocusable, control)) {
         desktop_.set_focus(control);
         require_reachable(control); // leaving the former control may have taken this one away
     }
@@ -123,9 +148,19 @@ void User::select(Control& control, int index) {
         require_item(*combo, index);
         focus(control);
         choose(*combo, index);
+    } else if (auto* const tabs = dynamic_cast<SSTab*>(&control)) {
+        turn_to(*tabs, index);
     } else {
         throw CommandError(lookup::full_name(control) + " hat keine Einträge");
     }
+}
+
+void User::turn_to(SSTab& tabs, int page) {
+    if (page < 0 || page >= static_cast<int>(tabs.captions().size())) {
+        throw CommandError(lookup::full_name(tabs) + " hat keinen Eintrag " + std::to_string(page));
+    }
+    focus(tabs);
+    tabs.Tab = page;
 }
 
 void User::key(Control& control, int code) {
@@ -152,7 +187,12 @@ void User::mouse(Control& control, const std::string& action, const MouseEvent& 
         throw CommandError("Zu " + action + " gehört eine Maustaste");
     }
     const Deed deed(desktop_, control);
+    bring_to_front(control);
     (control.*(found->handler))(event);
+    const bool clicks = action == "up" && event.button == MouseButton::Left && contains(control, event);
+    if (clicks && is_one_of(kClickedByMouse, control) && control.form().shown()) {
+        control.user_click();
+    }
 }
 
 void User::drop(Control& control, const std::string& text) {
@@ -160,6 +200,7 @@ void User::drop(Control& control, const std::string& text) {
     if (!control.OLEDragDrop) {
         throw CommandError(lookup::full_name(control) + " nimmt nichts an");
     }
+    bring_to_front(control);
     control.OLEDragDrop(text);
 }
 

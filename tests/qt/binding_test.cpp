@@ -15,6 +15,7 @@
 #include <QPlainTextEdit>
 #include <QRadioButton>
 #include <QScrollBar>
+#include <QTabBar>
 #include <QTabWidget>
 #include <QTemporaryDir>
 #include <QTest>
@@ -47,6 +48,8 @@ const Pushed kPushed[] = {
     {"caption of a label", [](AllKinds& f) { f.Caption_.Caption = "A & <b>"; }, "Caption_", "text",
      "A & <b>"},
     {"caption of a frame", [](AllKinds& f) { f.Choice.Caption = "Wahl"; }, "Choice", "title", "Wahl"},
+    {"caption of a plain frame", [](AllKinds& f) { f.Back.Caption = "&Seite"; }, "ui_Rahmentitel", "text",
+     "&Seite"},
     {"caption of a menu", [](AllKinds& f) { f.Entry.Caption = "&Neu"; }, "Entry", "text", "&Neu"},
     {"hidden menu", [](AllKinds& f) { f.Entry.Visible = false; }, "Entry", "visible", "false"},
     {"panel", [](AllKinds& f) { f.Panel.Caption = "Fertig"; }, "Panel", "text", "Fertig"},
@@ -60,6 +63,7 @@ const Pushed kPushed[] = {
     {"text in an editable box", [](AllKinds& f) { f.Typed.Text = "other"; }, "Typed", "currentText", "other"},
     {"scroll bar", [](AllKinds& f) { f.Bar.Value = 7; }, "Bar", "value", "7"},
     {"bound of a scroll bar", [](AllKinds& f) { f.Bar.Max = 20; }, "Bar", "maximum", "20"},
+    {"bound that takes the value along", [](AllKinds& f) { f.Bar.Min = 5; }, "Bar", "value", "5"},
     {"slider", [](AllKinds& f) { f.Knob.Value = 9; }, "Knob", "value", "9"},
     {"progress", [](AllKinds& f) { f.Progress.Value = 40; }, "Progress", "value", "40"},
     {"tab", [](AllKinds& f) { f.Tabs.Tab = 1; }, "Tabs", "currentIndex", "1"},
@@ -71,9 +75,8 @@ class PushedTest : public ::testing::TestWithParam<Pushed> {};
 TEST_P(PushedTest, BeforeAndAfterBinding) {
     const Pushed& c = GetParam();
     const auto shown = [&](Bound& bound) {
-        return bound.window->findChild<QObject*>(QString::fromUtf8(c.widget))
-            ->property(c.property)
-            .toString();
+        const auto* object = bound.window->findChild<QObject*>(QString::fromUtf8(c.widget));
+        return object == nullptr ? QString() : object->property(c.property).toString();
     };
     Bound late;
     EXPECT_NE(shown(late), QString::fromUtf8(c.value)) << "the case shows nothing";
@@ -155,8 +158,35 @@ const Used kUsed[] = {
     {"scroll bar",
      [](Bound& b) { b.widget<QScrollBar>("Bar").triggerAction(QAbstractSlider::SliderSingleStepAdd); }, "Bar",
      "4", "Bar.Change "},
+    {"scroll bar by key", [](Bound& b) { press(b, "Bar", Qt::Key_Right); }, "Bar", "4", "Bar.Change "},
     {"slider", [](Bound& b) { press(b, "Knob", Qt::Key_Right); }, "Knob", "4", "Knob.Change Knob.Click "},
-    {"tab", [](Bound& b) { b.widget<QTabWidget>("Tabs").setCurrentIndex(1); }, "Tabs", "", "Tabs.Click "},
+    {"page of a wide slider",
+     [](Bound& b) {
+         b.form.Knob.Max = 255;
+         press(b, "Knob", Qt::Key_PageUp);
+     },
+     "Knob", "28", "Knob.Change Knob.Click "},
+    {"tab",
+     [](Bound& b) {
+         const QTabBar& bar = *b.widget<QTabWidget>("Tabs").tabBar();
+         QTest::mouseClick(const_cast<QTabBar*>(&bar), Qt::LeftButton, {}, bar.tabRect(1).center());
+     },
+     "Tabs", "Text && Bild", "Tabs.GotFocus Tabs.Click "},
+    {"letter of a tab",
+     [](Bound& b) {
+         b.form.Tabs.Tab = 1;
+         b.form.take_log();
+         QTest::keyClick(b.window.get(), Qt::Key_A, Qt::AltModifier);
+     },
+     "Tabs", "&Anfang", "Tabs.Click "},
+    {"letter of a plain frame",
+     [](Bound& b) {
+         b.form.Back.Caption = "&Seite";
+         b.form.Tabs.Tab = 1;
+         b.form.take_log();
+         QTest::keyClick(b.window.get(), Qt::Key_S, Qt::AltModifier);
+     },
+     "Hidden", "", "Hidden.GotFocus "},
 };
 
 class UsedTest : public ::testing::TestWithParam<Used> {};
@@ -329,17 +359,18 @@ TEST(Events, MouseInTwips) {
 
 TEST(Events, DroppedTextGoesToTheHandlerAlone) {
     Bound bound;
-    unbind(bound.form);
     std::string dropped;
     bound.form.Field.OLEDragDrop = [&](const std::string& text) { dropped = text; };
-    bind(bound.form, *bound.window);
     QMimeData data;
     data.setText("Frau Köhler");
     QDragEnterEvent enter({1, 1}, Qt::CopyAction, &data, Qt::LeftButton, {});
     QApplication::sendEvent(&bound.widget("Field"), &enter);
     EXPECT_TRUE(enter.isAccepted());
-    QDropEvent drop({1, 1}, Qt::CopyAction, &data, Qt::LeftButton, {});
+    QDropEvent drop({1, 1}, Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, Qt::ShiftModifier);
+    ASSERT_EQ(drop.proposedAction(), Qt::MoveAction);
     QApplication::sendEvent(&bound.widget("Field"), &drop);
+    EXPECT_EQ(drop.dropAction(), Qt::CopyAction);
+    QCoreApplication::sendPostedEvents();
     EXPECT_EQ(dropped, "Frau Köhler");
     EXPECT_EQ(bound.form.Field.Text(), "");
 }
@@ -390,6 +421,7 @@ TEST(CheckBinding, TellsWhatIsWrong) {
     bound.widget("Field").setObjectName("Feld");
     bound.widget("Line(0)").setObjectName("Tick");
     bound.widget("Panel").setObjectName("Knob");
+    bound.widget<QTabWidget>("Tabs").insertTab(0, new QWidget, "vorn");
     std::string all;
     for (const std::string& finding : check_binding(bound.form, *bound.window)) {
         all += finding + "\n";
@@ -397,7 +429,8 @@ TEST(CheckBinding, TellsWhatIsWrong) {
     for (const char* part :
          {"AllKinds.Field: no widget; a TextBox needs a QLineEdit or QPlainTextEdit",
           "AllKinds.Feld: no control", "AllKinds.Tick: 2 widgets", "AllKinds.Line(0): no widget",
-          "AllKinds.Panel: no widget", "AllKinds.Knob: 2 widgets"}) {
+          "AllKinds.Panel: no widget", "AllKinds.Knob: 2 widgets", "AllKinds.Tabs: has 3 pages",
+          "AllKinds.Back: not on page 1"}) {
         EXPECT_NE(all.find(part), std::string::npos) << part << "\n" << all;
     }
     EXPECT_EQ(all.find("ui_Heading"), std::string::npos);

@@ -36,7 +36,9 @@ struct AllKinds : Form {
     Slider Knob{*this, "Knob", 0, 10, 3};
     ProgressBar Progress{*this, "Progress", 0, 100, 0};
     Image Picture{*this, "Picture"};
-    SSTab Tabs{*this, "Tabs"};
+    SSTab Tabs{*this, "Tabs", {"&Anfang", "Text && Bild"}};
+    Frame Back{Tabs.page(1), "Back"};
+    TextBox Hidden{Back, "Hidden"};
     Shape Patch{*this, "Patch"};
     Menu Entry{*this, "Entry", "&Entry"};
     StatusPanel Panel{*this, "Panel"};
