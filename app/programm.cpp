@@ -37,10 +37,9 @@ struct Programm::Teile {
                   zustand,        eingabezeile,
                   platform.clock, [this] { return ANZAHL_DRUCKSEITEN(form1.List_K.items(), einstellungen); }};
     Leistungsspalte leistungsspalte{form1, einstellungen, werte, platform.printing.metrics()};
-    Positionen positionen{
-        form1, zustand, eingabezeile, rechnung, summen, [this](int zeile) {
-            return leistungsspalte.HINWEIS(zeile);
-        }};
+    Positionen positionen{form1,    zustand, eingabezeile,
+                          rechnung, summen,  [this](int zeile) {
+            return leistungsspalte.HINWEIS(zeile); }};
     Zeilenmenue zeilenmenue{form1, zustand, eingabezeile, rechnung, summen, positionen};
     Rechnungsnummern nummern{form1, einstellungen, zustand, verzeichnis, platform.dialogs};
     ZuletztGeoeffnet zuletzt{form1, werte};

@@ -13,8 +13,8 @@ struct SampleForm : Form {
     Image Block{Page, Named("Block").at({100, 200, 1507, 1000})};
     Frame Choice{*this, Named("Choice").movable({0, 0, 2000, 1000})};
     Label Text{Choice, "Text", "Farbe auswählen"};
-    SSTab Tabs{*this, "Tabs"};
-    Shape Patch{Tabs, Named("Patch").at({150, 75, 300, 450})};
+    SSTab Tabs{*this, "Tabs", {"A", "B"}};
+    Shape Patch{Tabs.page(1), Named("Patch").at({150, 75, 300, 450})};
     ListBox Data{*this, Named("Data").data_only()};
 };
 
