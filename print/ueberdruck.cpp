@@ -24,6 +24,9 @@ std::string zitat(const std::string& text) {
 } // namespace
 
 void Ueberdruck::text(double left, double top, double width, const PrintFont& font, std::string_view text) {
+    if (!hinweis_.empty()) {
+        return;
+    }
     const double hoehe = font.size * kMmJePunkt;
     const Druckbild neu{left, top + kVersalien * hoehe, left + width, top + kGrundlinie * hoehe,
                         std::string(text)};
@@ -33,18 +36,15 @@ void Ueberdruck::text(double left, double top, double width, const PrintFont& fo
     });
     if (bedeckt != bilder_.end()) {
         melden("stehen " + zitat(bedeckt->text) + " und " + zitat(neu.text) + " übereinander");
-    }
-    if (neu.links < -kOriginLeft || neu.rechts > kRechterRand || neu.unten > kUntererRand) {
+    } else if (neu.links < -kOriginLeft || neu.rechts > kRechterRand || neu.unten > kUntererRand) {
         melden("ragt " + zitat(neu.text) + " über das Blatt hinaus");
     }
     bilder_.push_back(neu);
 }
 
 void Ueberdruck::melden(const std::string& was) {
-    if (hinweis_.empty()) {
-        hinweis_ = "Auf Seite " + std::to_string(seite_) + " " + was +
-                   ": bitte Text kürzen, kleinere Schrift wählen oder eine Seite früher umbrechen.";
-    }
+    hinweis_ = "Auf Seite " + std::to_string(seite_) + " " + was +
+               ": bitte Text kürzen, kleinere Schrift wählen oder eine Seite früher umbrechen.";
 }
 
 void Ueberdruck::neue_seite() {
