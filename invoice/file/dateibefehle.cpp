@@ -3,7 +3,6 @@
 #include "invoice/file/dateiname.hpp"
 #include "invoice/file/hindernis.hpp"
 #include "invoice/programmname.hpp"
-#include "invoice/zeichenersatz.hpp"
 #include "platform/verzeichnis.hpp"
 
 namespace quittika {
@@ -46,9 +45,12 @@ bool Dateibefehle::VorAnderemSpeichern() {
     if (!m_speichern_Click()) {
         return false;
     }
-    if (schreiber_.Ersetzt() > 0) {
-        dialogs_.message({ZEICHENERSATZ_MELDUNG(schreiber_.Ersetzt()) +
-                              "\r\nBitte die gespeicherte Rechnung prüfen: " + zustand_.AktuellerPfad(),
+    std::string geaendert;
+    for (const std::string& meldung : {nummernmeldung_, schreiber_.Meldung()}) {
+        geaendert += meldung + (meldung.empty() ? "" : "\r\n");
+    }
+    if (!geaendert.empty()) {
+        dialogs_.message({geaendert + "Bitte die gespeicherte Rechnung prüfen: " + zustand_.AktuellerPfad(),
                           "Achtung!", Buttons::Ok, Symbol::Exclamation});
     }
     return true;
@@ -79,7 +81,7 @@ void Dateibefehle::NeuBeginnen() {
 bool Dateibefehle::m_speichern_Click() {
     const Hinweiszeile::Befehl befehl(form1_.Hinweise);
     summen_.jetztberechnen_List();
-    nummern_.NummerErneuern();
+    nummernmeldung_ = nummern_.NummerErneuern();
     try {
         return SpeichernNach(SpeicherpfadWaehlen());
     } catch (const Laufzeitfehler& fehler) {

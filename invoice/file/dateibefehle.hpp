@@ -44,7 +44,7 @@ public:
     bool VorherSpeichern(Buttons tasten);
 
 private:
-    /// Saves before the invoice leaves the window: what the file could not hold is told in a box.
+    /// Saves before the invoice leaves the window: what was changed on the way is told in a box.
     bool VorAnderemSpeichern();
     std::string SpeicherpfadWaehlen();
     bool SpeichernNach(const std::string& pfad);
@@ -77,6 +77,7 @@ private:
     Rechnungsleser& leser_;
     Rechnungsnummern& nummern_;
     ZuletztGeoeffnet& zuletzt_;
+    std::string nummernmeldung_; ///< what the last save told of the invoice's number
 };
 
 } // namespace quittika

@@ -57,17 +57,20 @@ void Rechnungsnummern::RNNUMMERZUWEISEN() {
     NummerZeigen();
 }
 
-void Rechnungsnummern::NummerErneuern() {
+std::string Rechnungsnummern::NummerErneuern() {
     if (!automatisch() || zustand_.IstDateiDesPfads() || form1_.Text_RNnr.Text() != Nummer()) {
-        return;
+        return {};
     }
     const std::string vorher = Nummer();
     ZaehlerNachlesen();
-    if (Nummer() != vorher) {
-        NummerZeigen();
-        form1_.Hinweise.melden("Die Nummer " + vorher +
-                               " ist inzwischen vergeben: diese Rechnung bekommt die " + Nummer() + ".");
+    if (Nummer() == vorher) {
+        return {};
     }
+    NummerZeigen();
+    std::string meldung =
+        "Die Nummer " + vorher + " ist inzwischen vergeben: diese Rechnung bekommt die " + Nummer() + ".";
+    form1_.Hinweise.melden(meldung);
+    return meldung;
 }
 
 void Rechnungsnummern::NummerVerbrauchen() {

@@ -29,8 +29,9 @@ public:
     /// Puts the next number into `Text_RNnr`; with numbering by hand a zero. Not an edit by the user.
     /// Automatic numbers follow the counter of another running program.
     void RNNUMMERZUWEISEN();
-    /// Gives a new invoice another number where another program has used up its own since; panel 3 says so.
-    void NummerErneuern();
+    /// Gives a new invoice another number where another program has used up its own since. Answers what to
+    /// tell of it, which panel 3 says already; empty where the number stays.
+    std::string NummerErneuern();
     /// Uses up a number: raises the higher of the counter and the one in RN.txt and writes it, if numbering
     /// is automatic.
     void NummerVerbrauchen();

@@ -105,19 +105,23 @@ bool Rechnungsschreiber::DateiSchreiben(const std::string& pfad) {
     try {
         const std::string beiseite = datei_ersetzen(pfad, datei.bytes(), verzeichnis_.ordner());
         stand_.merken(pfad, datei.bytes());
-        ersetzt_ = datei.ersetzt();
-        form1_.Hinweise.melden(ZEICHENERSATZ_MELDUNG(ersetzt_));
+        meldung_.clear();
+        Melden(ZEICHENERSATZ_MELDUNG(datei.ersetzt()));
         if (!beiseite.empty()) {
-            form1_.Hinweise.melden(
-                "Der Ordner nimmt keine neue Datei an: am alten Platz gespeichert, der alte "
-                "Inhalt liegt in >>" +
-                beiseite + "<<.");
+            Melden("Der Ordner nimmt keine neue Datei an: am alten Platz gespeichert, der alte "
+                   "Inhalt liegt in >>" +
+                   beiseite + "<<.");
         }
         return true;
     } catch (const Laufzeitfehler& fehler) {
         FehlerMelden(fehler);
         return false;
     }
+}
+
+void Rechnungsschreiber::Melden(const std::string& text) {
+    form1_.Hinweise.melden(text);
+    meldung_ += (meldung_.empty() || text.empty() ? "" : "\r\n") + text;
 }
 
 void Rechnungsschreiber::FehlerMelden(const Laufzeitfehler& fehler) {

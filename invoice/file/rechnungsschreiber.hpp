@@ -29,10 +29,11 @@ public:
     /// new one is complete. Shows a message and answers false when that fails. Panel 3 tells why, or of
     /// characters that the file cannot hold, or where the old content of a file written in place lies.
     bool DateiSchreiben(const std::string& pfad);
-    /// How many characters the file written last could not hold.
-    std::size_t Ersetzt() const { return ersetzt_; }
+    /// What panel 3 told of the file written last, a line each; empty for nothing.
+    const std::string& Meldung() const { return meldung_; }
 
 private:
+    void Melden(const std::string& text);
     void FehlerMelden(const Laufzeitfehler& fehler);
     void BesondereZeilen();
     void PositionenAnfuegen(Textpuffer& datei) const;
@@ -46,7 +47,7 @@ private:
     const Clock& uhr_;
     std::vector<Dateifeld> felder_;
     Dateizeilen DatenSchreiben;
-    std::size_t ersetzt_ = 0;
+    std::string meldung_;
 };
 
 } // namespace quittika

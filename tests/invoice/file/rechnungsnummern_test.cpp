@@ -28,11 +28,20 @@ TEST(Rechnungsnummern, ZweiProgrammeVergebenKeineNummerZweimal) {
     p.anderes_programm("20");
     p.befehle.m_neu_Click();
     EXPECT_EQ(p.nummer(), "20");
+    p.anderes_programm("30");
+    p.zustand.aendern();
+    p.dialoge.queue(Answer::Yes);
+    p.dialoge.queue(choice::File{p.ordner.pfad("c.qk8")});
+    p.befehle.m_neu_Click();
+    EXPECT_NE(p.dialoge.take_boxes().back().find("|Die Nummer 20 ist inzwischen vergeben: diese Rechnung "
+                                                 "bekommt die 30.\\r\\nBitte die gespeicherte"),
+              std::string::npos)
+        << "panel 3 speaks of the new invoice already";
     ASSERT_TRUE(p.oeffnen("a.qk8"));
     p.anderes_programm("6");
     ASSERT_TRUE(p.speichern("b.qk8"));
     EXPECT_EQ(p.nummer(), "6") << "an invoice on disk keeps its number";
-    EXPECT_EQ(p.zaehler(), "21\r\n") << "the higher of the two";
+    EXPECT_EQ(p.zaehler(), "32\r\n") << "the higher of the two";
 }
 
 TEST(Rechnungsnummern, UnlesbarerZaehlerWirdGesagt) {
