@@ -4,13 +4,15 @@ namespace quittika {
 
 namespace {
 
-constexpr Color kRuhig = 14737632;
 constexpr Color kHervor = 14466189;
 constexpr int kHoechstens = 5;
 
 } // namespace
 
-Erinnerung::Erinnerung(Form1& form1, const Rechnungszustand& zustand) : form1_(form1), zustand_(zustand) {}
+Erinnerung::Erinnerung(Form1& form1, const Rechnungszustand& zustand) : form1_(form1), zustand_(zustand) {
+    form1_.Timer_blink.Tick = [this] { Timer_blink_Timer(); };
+    form1_.Timer_chronjob.Tick = [this] { Timer_chronjob_Timer(); };
+}
 
 void Erinnerung::Faerben(Color farbe) {
     form1_.Command_printform.BackColor = farbe;
@@ -22,7 +24,7 @@ void Erinnerung::Timer_blink_Timer() {
         return;
     }
     hervorgehoben_ = !hervorgehoben_;
-    Faerben(hervorgehoben_ ? kHervor : kRuhig);
+    Faerben(hervorgehoben_ ? kHervor : color::kLightGrey);
     if (!hervorgehoben_) {
         ++blinkzaehler_;
     }
@@ -35,7 +37,7 @@ void Erinnerung::Timer_chronjob_Timer() {
     }
     blinkzaehler_ = 0;
     hervorgehoben_ = false;
-    Faerben(kRuhig);
+    Faerben(color::kLightGrey);
 }
 
 } // namespace quittika

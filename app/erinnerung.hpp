@@ -10,10 +10,9 @@ class Erinnerung {
 public:
     Erinnerung(Form1& form1, const Rechnungszustand& zustand);
 
+private:
     void Timer_blink_Timer();
     void Timer_chronjob_Timer();
-
-private:
     void Faerben(Color farbe);
 
     Form1& form1_;

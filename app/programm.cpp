@@ -1,11 +1,26 @@
 #include "app/programm.hpp"
 
+#include "app/betraege.hpp"
+#include "app/eingabe.hpp"
+#include "app/ereignisse.hpp"
 #include "app/erinnerung.hpp"
 #include "app/form_start.hpp"
 #include "app/hauptfenster.hpp"
+#include "app/kopf.hpp"
 #include "app/ladefolge.hpp"
+#include "app/logo.hpp"
+#include "app/menue_datei.hpp"
+#include "app/menue_drucken.hpp"
+#include "app/menue_einstellungen.hpp"
+#include "app/menue_extras.hpp"
+#include "app/menue_hilfe.hpp"
+#include "app/menue_listen.hpp"
+#include "app/raster.hpp"
 #include "app/startfenster.hpp"
+#include "invoice/erste_rechnung.hpp"
+#include "print/druckauftrag.hpp"
 #include "print/leistungsspalte.hpp"
+#include "print/lieferscheinoptionen.hpp"
 #include "print/seitenumbruch.hpp"
 
 #include <utility>
@@ -19,6 +34,10 @@ struct Programm::Teile {
         platform.desktop.adopt(einstellungen);
         platform.desktop.adopt(programm);
         platform.desktop.adopt(form_start);
+        MENUE_LISTEN(form1, ereignisse, platform.dialogs);
+        MENUE_DRUCKEN(form1);
+        MENUE_EINSTELLUNGEN(form1);
+        MENUE_EXTRAS(form1, eingabezeile);
     }
 
     Platform platform;
@@ -48,17 +67,29 @@ struct Programm::Teile {
     Rechnungsleser leser{form1, werte, zustand, rechnung, stand, platform.dialogs};
     Dateibefehle dateibefehle{form1,     zustand, rechnung, vorgaben, summen, stand, platform.dialogs,
                               schreiber, leser,   nummern,  zuletzt};
+    Lieferscheinoptionen lieferscheinoptionen{form1, einstellungen, platform.desktop};
     Druckauftrag druckauftrag{
-        form1, einstellungen, werte, platform.dialogs, platform.printing, platform.desktop, [this] {
+        form1, einstellungen, werte, platform.dialogs, platform.printing, lieferscheinoptionen, [this] {
             summen.jetztberechnen_List();
         }};
     KundeAufnehmen kunde_aufnehmen{form1, verzeichnis, platform.dialogs};
+    Einstellungsstart einstellungsstart{einstellungen, programm, werte, verzeichnis};
+    ErsteRechnung erste_rechnung{form1, einstellungen, vorgaben, rechnung, nummern, zuletzt, platform.clock};
+
+    // The main window: its areas, then the window, then its menus.
+    Ereignisse ereignisse{form1.Hinweise, zustand, summen};
+    Kopf kopf{form1, ereignisse, kunde_aufnehmen, platform.clock};
+    Eingabe eingabe{form1, ereignisse, eingabezeile, positionen, zeilenmenue};
+    Betraege betraege{form1, ereignisse, zustand, eingabezeile, summen, werte};
+    Raster raster{form1, ereignisse};
+    Logo logo{form1, einstellungen, werte};
     Erinnerung erinnerung{form1, zustand};
-    Ladefolge ladefolge{{form1, einstellungen, programm, werte, zustand, verzeichnis, platform, summen,
-                         rechnung, vorgaben, dateibefehle, nummern, zuletzt}};
-    Hauptfenster hauptfenster{{form1, einstellungen, werte, zustand, verzeichnis, platform, eingabezeile,
-                               summen, positionen, zeilenmenue, dateibefehle, druckauftrag, kunde_aufnehmen,
-                               erinnerung, ladefolge}};
+    Ladefolge ladefolge{form1, zustand,        platform.desktop, einstellungsstart,
+                        logo,  erste_rechnung, raster,           summen};
+    Hauptfenster hauptfenster{form1, zustand, ladefolge, kopf, dateibefehle, platform.desktop};
+    MenueDatei menue_datei{form1, ereignisse, dateibefehle, druckauftrag, hauptfenster, kopf, raster};
+    MenueHilfe menue_hilfe{form1,          ereignisse,       verzeichnis,     werte,
+                           platform.shell, platform.dialogs, platform.desktop};
     Startfenster startfenster{form_start, werte, verzeichnis, platform.clock, [this] { form1.Show(); }};
 };
 

@@ -2,11 +2,33 @@
 
 namespace quittika {
 
+Raster::Raster(Form1& form1, const Ereignisse& ereignisse) : form1_(form1) {
+    for (int seite = 0; seite < Form1::kSeiten; ++seite) {
+        form1.CMD_Seite1[seite].Click = [this, seite] { CMD_Seite1_Click(seite); };
+        for (Form1::Rasterzeile& zeile : form1.Raster) {
+            zeile.Check_K[seite].Click = [&zeile, seite, rechnen = ereignisse.rechnen()] {
+                RasterzeileFreigeben(zeile, seite);
+                rechnen();
+            };
+            zeile.Text_menge[seite].LostFocus = ereignisse.rechnen();
+            zeile.Text_preis[seite].LostFocus = ereignisse.rechnen();
+            zeile.Text_leistung[seite].OLEDragDrop = ABLEGEN(zeile.Text_leistung[seite]);
+            SPERREN({&zeile.Command_PLUS_[seite]});
+        }
+    }
+}
+
+void Raster::CMD_Seite1_Click(int seite) {
+    for (int i = 0; i < Form1::kSeiten; ++i) {
+        form1_.Frame_seite1[i].Visible = i == seite;
+        form1_.CMD_Seite1[i].BackColor = i == seite ? color::kYellow : color::kButtonFace;
+    }
+}
+
 void RasterzeileFreigeben(Form1::Rasterzeile& zeile, int seite) {
-    constexpr Color kGesperrt = 14737632;
     const bool frei = !zeile.Check_K[seite].ticked();
     for (TextBox* feld : {&zeile.Text_menge[seite], &zeile.Text_preis[seite]}) {
-        feld->BackColor = frei ? color::kWhite : kGesperrt;
+        feld->BackColor = frei ? color::kWhite : color::kLightGrey;
         feld->Enabled = frei;
         if (!frei) {
             feld->Text = "0";

@@ -190,6 +190,10 @@ void Eingabezeile::hingehen(TextBox& feld) {
     feld.select_all();
 }
 
+void Eingabezeile::anwaehlen() {
+    hingehen(form1_.Check_K.ticked() ? form1_.Text_leistung : form1_.Text_Menge);
+}
+
 void Eingabezeile::leeren() {
     form1_.Text_Menge.Text = vorgabe::kMenge;
     form1_.Text_leistung.Text = vorgabe::kLeistung;

@@ -47,6 +47,8 @@ public:
 
     /// Moves the focus into `feld` and marks what stands there.
     static void hingehen(TextBox& feld);
+    /// Moves the focus to where a row begins.
+    void anwaehlen();
     /// Puts the fields back to their start values; no row is being changed.
     void leeren();
     /// Shows what a position needs, hides it for a comment.

@@ -59,7 +59,7 @@ Form1::Form1()
     Option_anschreiben.ToolTipText.adopt("Das Anschreiben druckt nur das eigene Layout");
     Command_KD_Add.ToolTipText.adopt("Nimmt den Kunden dieser Rechnung in die Kundenliste auf");
     for (CommandButton* taste : {&Command_printform, &Command_jetztSpeichern}) {
-        taste->BackColor.adopt(14737632);
+        taste->BackColor.adopt(color::kLightGrey);
     }
 }
 

@@ -1,10 +1,8 @@
 #include "print/druckauftrag.hpp"
 
-#include "invoice/belegtexte.hpp"
 #include "invoice/file/hindernis.hpp"
 #include "platform/laufzeitfehler.hpp"
 #include "platform/print_surface.hpp"
-#include "print/firmenkopf.hpp"
 #include "print/nachsichtiges_geraet.hpp"
 #include "print/pdfname.hpp"
 
@@ -28,41 +26,15 @@ std::string DRUCKHINDERNIS(const Laufzeitfehler& fehler) {
 
 Druckauftrag::Druckauftrag(Form1& form1, const frm_einstellungen& einstellungen,
                            const PROGRAMMEINSTELLUNG& programm, Dialogs& dialogs, Printing& printing,
-                           Desktop& desktop, std::function<void()> jetztberechnen_List)
+                           const Lieferscheinoptionen& lieferscheinoptionen,
+                           std::function<void()> jetztberechnen_List)
     : form1_(form1),
       einstellungen_(einstellungen),
       dialogs_(dialogs),
       printing_(printing),
-      desktop_(desktop),
+      lieferscheinoptionen_(lieferscheinoptionen),
       jetztberechnen_List_(std::move(jetztberechnen_List)),
-      rechnungsdruck_(form1, einstellungen, programm) {
-    lieferschein_opt_.CMD_weiter.Click = [this] {
-        lieferschein_weiter_ = true;
-        lieferschein_opt_.Close();
-    };
-}
-
-Lieferscheinangaben Druckauftrag::check_LIEFERSCHEIN_PRINT() {
-    if (!IST_LIEFERSCHEIN(form1_)) {
-        return {};
-    }
-    Form_Lieferschein_opt& f = lieferschein_opt_;
-    if (f.desktop() == nullptr) {
-        desktop_.adopt(f);
-    }
-    const int haken = LAYOUT_GEWAEHLT(einstellungen_) == kEigenesLayout ? 0 : 1;
-    for (CheckBox* angabe : {&f.Check_LIEFERSCH_WERBESPRUCH, &f.Check_LIEFERSCH_BEMERKUNGSTEXT,
-                             &f.Check_LIEFERSCH_ANSCHREIBEN, &f.Check_LIEFERSCH_PREISE}) {
-        angabe->Value = haken;
-    }
-    lieferschein_weiter_ = false;
-    f.Show(Modality::Modal);
-    if (!lieferschein_weiter_) {
-        throw Laufzeitfehler(fehler::kDialogAbgebrochen);
-    }
-    return {f.Check_LIEFERSCH_WERBESPRUCH.ticked(), f.Check_LIEFERSCH_BEMERKUNGSTEXT.ticked(),
-            f.Check_LIEFERSCH_PREISE.ticked()};
-}
+      rechnungsdruck_(form1, einstellungen, programm) {}
 
 std::string Druckauftrag::auftragstitel() const {
     return "QK-> " + form1_.Text_Kunde_1.Text() + " " + form1_.Text_rechnung.Text() + " " +
@@ -75,7 +47,7 @@ void Druckauftrag::Command_printform_Click() {
     status("BERECHNEN...");
     jetztberechnen_List_();
     try {
-        const Druckoptionen optionen{check_LIEFERSCHEIN_PRINT()};
+        const Druckoptionen optionen{lieferscheinoptionen_.check_LIEFERSCHEIN_PRINT()};
         status("BERECHNEN...DRUCKEN...");
         drucke(just, optionen);
         status("DRUCKEN...");

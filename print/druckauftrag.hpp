@@ -1,11 +1,10 @@
 #pragma once
 
 #include "invoice/form1.hpp"
-#include "platform/desktop.hpp"
 #include "platform/dialogs.hpp"
 #include "platform/printing.hpp"
 #include "print/blatt.hpp"
-#include "print/form_lieferschein_opt.hpp"
+#include "print/lieferscheinoptionen.hpp"
 #include "print/rechnungsdruck.hpp"
 #include "settings/frm_einstellungen.hpp"
 #include "settings/programmeinstellung.hpp"
@@ -20,18 +19,13 @@ class Druckauftrag {
 public:
     /// `jetztberechnen_List` brings the result fields of the main window up to date.
     Druckauftrag(Form1& form1, const frm_einstellungen& einstellungen, const PROGRAMMEINSTELLUNG& programm,
-                 Dialogs& dialogs, Printing& printing, Desktop& desktop,
+                 Dialogs& dialogs, Printing& printing, const Lieferscheinoptionen& lieferscheinoptionen,
                  std::function<void()> jetztberechnen_List);
 
     /// Asks for the printer and prints the copies, each a job of its own. Says in panel 2 of the
     /// status bar how it ended, in panel 3 why it failed, where a file lies and what is missing on paper;
     /// throws only what the recalculation throws.
     void Command_printform_Click();
-
-    /// For a delivery note asks what to print on it, in the modal dialog, which begins with all ticks set,
-    /// in the user's own design with none. Throws `Laufzeitfehler` 32755 when it is closed otherwise than by
-    /// its button.
-    Lieferscheinangaben check_LIEFERSCHEIN_PRINT();
 
     /// The page loop that the preview shares.
     const Rechnungsdruck& rechnungsdruck() const { return rechnungsdruck_; }
@@ -47,10 +41,8 @@ private:
     const frm_einstellungen& einstellungen_;
     Dialogs& dialogs_;
     Printing& printing_;
-    Desktop& desktop_;
+    const Lieferscheinoptionen& lieferscheinoptionen_;
     std::function<void()> jetztberechnen_List_;
-    Form_Lieferschein_opt lieferschein_opt_;
-    bool lieferschein_weiter_ = false; ///< its button was pressed
     Rechnungsdruck rechnungsdruck_;
 };
 

@@ -68,21 +68,6 @@ void drucke_block(Blatt& blatt, const frm_einstellungen& einstellungen, Color fa
 
 } // namespace
 
-int LAYOUT_GEWAEHLT(const frm_einstellungen& einstellungen) {
-    const std::array<const OptionButton*, frm_einstellungen::kLayouts> knoepfe{
-        &einstellungen.Option1_Layout, &einstellungen.Option2_Layout, &einstellungen.Option3_Layout,
-        &einstellungen.Option4_Layout, &einstellungen.Option5_Layout, &einstellungen.Option6_Layout,
-        &einstellungen.Option7_Layout, &einstellungen.Option8_Layout, &einstellungen.Option9_Layout};
-    int nummer = 0;
-    for (const OptionButton* knopf : knoepfe) {
-        ++nummer;
-        if (knopf->Value()) {
-            return nummer;
-        }
-    }
-    return 0;
-}
-
 void LAYOUT_FIRMENKOPF(Blatt& blatt, const frm_einstellungen& einstellungen, Color farbe, int layout) {
     if (layout == kEigenesLayout) {
         layout = kErsatzFuerEigenes;

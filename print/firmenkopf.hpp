@@ -5,11 +5,6 @@
 
 namespace quittika {
 
-inline constexpr int kEigenesLayout = 9;
-
-/// Number of the chosen page design, 1 to 9; 0 if none is chosen.
-int LAYOUT_GEWAEHLT(const frm_einstellungen& einstellungen);
-
 /// Prints the logo and the sender block of a built-in design, 1 to 8, and leaves the cursor below the block.
 /// The user's own design has the block of design 2; any other number prints nothing.
 void LAYOUT_FIRMENKOPF(Blatt& blatt, const frm_einstellungen& einstellungen, Color farbe, int layout);

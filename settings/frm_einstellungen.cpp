@@ -1,5 +1,6 @@
 #include "settings/frm_einstellungen.hpp"
 
+#include <algorithm>
 #include <string>
 
 namespace quittika {
@@ -66,6 +67,13 @@ const ControlArray<TextBox, 2>& frm_einstellungen::Text_Bemerkung(int n) const {
 std::array<OptionButton*, frm_einstellungen::kLayouts> frm_einstellungen::Layouts() {
     return {&Option1_Layout, &Option2_Layout, &Option3_Layout, &Option4_Layout, &Option5_Layout,
             &Option6_Layout, &Option7_Layout, &Option8_Layout, &Option9_Layout};
+}
+
+int LAYOUT_GEWAEHLT(const frm_einstellungen& einstellungen) {
+    const auto knoepfe = const_cast<frm_einstellungen&>(einstellungen).Layouts();
+    const auto gewaehlt = std::find_if(knoepfe.begin(), knoepfe.end(),
+                                       [](const OptionButton* knopf) { return knopf->Value(); });
+    return gewaehlt == knoepfe.end() ? 0 : static_cast<int>(gewaehlt - knoepfe.begin()) + 1;
 }
 
 } // namespace quittika

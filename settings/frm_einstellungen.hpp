@@ -231,4 +231,9 @@ struct frm_einstellungen : Form {
     std::array<OptionButton*, kLayouts> Layouts();
 };
 
+inline constexpr int kEigenesLayout = 9;
+
+/// Number of the chosen page design, 1 to 9; 0 if none is chosen.
+int LAYOUT_GEWAEHLT(const frm_einstellungen& einstellungen);
+
 } // namespace quittika

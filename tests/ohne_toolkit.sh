@@ -12,7 +12,7 @@ toolkit_symbols "$2" >/dev/null || {
 }
 failed=0
 libraries=$(find "$1" -name 'lib*.a' ! -path "$2")
-[ "$(wc -l <<<"$libraries")" -ge 7 ] || { echo "not all libraries are there:"; echo "$libraries"; failed=1; }
+[ "$(wc -l <<<"$libraries")" -ge 8 ] || { echo "not all libraries are there:"; echo "$libraries"; failed=1; }
 for library in $libraries; do
     if found=$(toolkit_symbols "$library" | sort -u); then
         echo "$library needs the toolkit:"

@@ -225,7 +225,9 @@ bool Dateibefehle::oeffneRN(const std::string& pfad) {
         zuletzt_.ZuletztGeoeffnetMerken(gewaehlt);
         GelesenesZeigen(gewaehlt);
         form1_.StatusBar1[2].Caption = "GEÖFFNETE DATEI: " + gewaehlt;
-        CMD_Seite1_Click(0);
+        if (Geoeffnet) {
+            Geoeffnet();
+        }
         return true;
     } catch (const Laufzeitfehler& fehler) {
         if (fehler.nummer() != fehler::kDialogAbgebrochen) {
@@ -285,13 +287,6 @@ void Dateibefehle::Auffrischen() {
         form1_.List_DARSTELLUNG.ListIndex = form1_.List_DARSTELLUNG.ListCount() - 1;
     }
     zustand_.als_gespeichert_merken();
-}
-
-void Dateibefehle::CMD_Seite1_Click(int seite) {
-    for (int i = 0; i < Form1::kSeiten; ++i) {
-        form1_.Frame_seite1[i].Visible = i == seite;
-        form1_.CMD_Seite1[i].BackColor = i == seite ? color::kYellow : color::kButtonFace;
-    }
 }
 
 } // namespace quittika

@@ -8,6 +8,7 @@
 #include "invoice/vorgaben.hpp"
 #include "platform/laufzeitfehler.hpp"
 
+#include <functional>
 #include <string>
 
 namespace quittika {
@@ -18,6 +19,9 @@ public:
     Dateibefehle(Form1& form1, Rechnungszustand& zustand, Rechnung& rechnung, Vorgaben& vorgaben,
                  Summen& summen, const Dateistand& stand, Dialogs& dialogs, Rechnungsschreiber& schreiber,
                  Rechnungsleser& leser, Rechnungsnummern& nummern, ZuletztGeoeffnet& zuletzt);
+
+    /// Called after `oeffneRN` has shown a file.
+    std::function<void()> Geoeffnet;
 
     /// Starts a new invoice, after asking whether to save the present one.
     void m_neu_Click();
@@ -36,9 +40,6 @@ public:
     bool oeffneRN(const std::string& pfad);
     /// Opens recent file `n`, 1 to 3, without asking.
     void m_R_Click(int n);
-    /// Shows page `seite` (0 to 3) of the grid.
-    void CMD_Seite1_Click(int seite);
-
     /// Asks whether to save and does so. Answers false when the caller must stop: cancelled, or saving
     /// failed.
     bool VorherSpeichern(Buttons tasten);

@@ -16,6 +16,7 @@ constexpr Color kWhite = 0x00FFFFFF;
 constexpr Color kBlack = 0;
 constexpr Color kYellow = 65535;
 constexpr Color kGrey = 12632256;          ///< grey of the frames
+constexpr Color kLightGrey = 14737632;     ///< grey of locked fields and of buttons at rest
 constexpr Color kButtonFace = -2147483633; ///< the desktop's button colour
 constexpr Color kWindow = -2147483643;     ///< the desktop's colour of text fields
 constexpr Color kWindowText = -2147483640; ///< the desktop's text colour

@@ -39,8 +39,9 @@ struct Auftragsprobe : Pruefstand {
     int berechnet = 0;
     /// What the user does in the modal window.
     std::function<void(Form& form)> bedienen = [](Form& form) { form.find("CMD_weiter")->Click(); };
-    Druckauftrag auftrag{form1,   einstellungen,          werte, druckdialoge, drucker,
-                         desktop, [this] { ++berechnet; }};
+    Lieferscheinoptionen optionen{form1, einstellungen, desktop};
+    Druckauftrag auftrag{form1,    einstellungen,          werte, druckdialoge, drucker,
+                         optionen, [this] { ++berechnet; }};
 
     Auftragsprobe() {
         desktop.on_modal([this](const auto& /*open*/) { bedienen(*desktop.windows().back()); });

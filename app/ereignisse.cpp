@@ -1,0 +1,69 @@
+#include "app/ereignisse.hpp"
+
+#include "platform/text.hpp"
+
+#include <utility>
+
+namespace quittika {
+
+Ereignisse::Ereignisse(Hinweiszeile& hinweise, Rechnungszustand& zustand, Summen& summen)
+    : hinweise_(hinweise), zustand_(zustand), summen_(summen) {}
+
+Ereignisse::Ereignis Ereignisse::vom_benutzer(Ereignis tun) const {
+    return [&zustand = zustand_, tun = std::move(tun)] {
+        if (!zustand.gesperrt()) {
+            tun();
+        }
+    };
+}
+
+Ereignisse::Ereignis Ereignisse::eintrag(Ereignis tun) const {
+    return vom_benutzer([&zustand = zustand_, tun = std::move(tun)] {
+        zustand.aendern();
+        if (tun) {
+            tun();
+        }
+    });
+}
+
+Ereignisse::Ereignis Ereignisse::aenderung(Ereignis tun) const {
+    return eintrag([&summen = summen_, tun = std::move(tun)] {
+        if (tun) {
+            tun();
+        }
+        summen.jetztberechnen_List();
+    });
+}
+
+Ereignisse::Ereignis Ereignisse::befehl(Ereignis tun) const {
+    return [&hinweise = hinweise_, tun = std::move(tun)] {
+        const Hinweiszeile::Befehl laeuft(hinweise);
+        tun();
+    };
+}
+
+Ereignisse::Ereignis Ereignisse::rechnen() const {
+    return [&summen = summen_] { summen.jetztberechnen_List(); };
+}
+
+std::function<void(int)> TASTEN(std::map<int, Ereignisse::Ereignis> belegung) {
+    return [belegung = std::move(belegung)](int taste) {
+        if (const auto gedrueckt = belegung.find(taste); gedrueckt != belegung.end()) {
+            gedrueckt->second();
+        }
+    };
+}
+
+std::function<void(const std::string&)> ABLEGEN(TextBox& feld) {
+    return [&feld](const std::string& text) {
+        feld.Text = ZEICHENERSETZEN(ZEICHENERSETZEN(text, "\r", " "), "\n", " ");
+    };
+}
+
+void SPERREN(std::initializer_list<Control*> befehle) {
+    for (Control* befehl : befehle) {
+        befehl->Enabled = false;
+    }
+}
+
+} // namespace quittika

@@ -1,0 +1,50 @@
+#pragma once
+
+#include "invoice/rechnungszustand.hpp"
+#include "invoice/summen.hpp"
+
+#include <functional>
+#include <initializer_list>
+#include <map>
+#include <string>
+
+namespace quittika {
+
+/// Makes the handlers of the main window. Controls fire their events for the program as they do for the user:
+/// which of them a handler answers is decided here alone.
+class Ereignisse {
+public:
+    using Ereignis = Control::Event;
+    Ereignisse(Hinweiszeile& hinweise, Rechnungszustand& zustand, Summen& summen);
+
+    /// Runs for the user only, not while the program fills the control.
+    Ereignis vom_benutzer(Ereignis tun) const;
+    /// The same for an entry that no amount depends on: the change of the invoice is noted.
+    Ereignis eintrag(Ereignis tun = {}) const;
+    /// The same for what amounts depend on: everything is recalculated behind it, too.
+    Ereignis aenderung(Ereignis tun = {}) const;
+    /// A command of the user, before which panel 3 forgets the command before.
+    Ereignis befehl(Ereignis tun) const;
+    /// Recalculates, whoever fired the event.
+    Ereignis rechnen() const;
+
+private:
+    Hinweiszeile& hinweise_;
+    Rechnungszustand& zustand_;
+    Summen& summen_;
+};
+
+constexpr int kEingabetaste = 13;
+constexpr int kEscape = 27;
+constexpr int kEntfernen = 46;
+
+/// What each of these keys does.
+std::function<void(int)> TASTEN(std::map<int, Ereignisse::Ereignis> belegung);
+
+/// Takes dropped text over in one line: each character of a line end becomes a blank.
+std::function<void(const std::string&)> ABLEGEN(TextBox& feld);
+
+/// Commands whose windows the program does not have are not offered.
+void SPERREN(std::initializer_list<Control*> befehle);
+
+} // namespace quittika

@@ -1,0 +1,11 @@
+#pragma once
+
+#include "invoice/eingabezeile.hpp"
+#include "invoice/form1.hpp"
+
+namespace quittika {
+
+/// Wires the menu "Extras" of the main window and the buttons that stand for its commands.
+void MENUE_EXTRAS(Form1& form1, Eingabezeile& eingabezeile);
+
+} // namespace quittika

@@ -1,0 +1,13 @@
+#pragma once
+
+#include "platform/dialogs.hpp"
+#include "platform/shell.hpp"
+
+#include <string>
+
+namespace quittika {
+
+/// Opens a file, web page or mail address in the system's program for it; a box tells that there is none.
+void DOKUMENT_OEFFNEN(const std::string& dokument, Shell& shell, Dialogs& dialogs);
+
+} // namespace quittika
