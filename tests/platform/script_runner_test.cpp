@@ -1,6 +1,7 @@
 #include "platform/script/runner.hpp"
 
 #include "tests/platform/script_fake_program.hpp"
+#include "tests/workbench.hpp"
 
 #include <gtest/gtest.h>
 
@@ -37,8 +38,8 @@ struct Outcome {
     int status;
 };
 
-/// Plays the commands of a conversation to the runner with the fake program.
-Outcome play(const Conversation& conversation) {
+/// Plays the commands of a conversation to the runner.
+Outcome play(const Conversation& conversation, const ProgramFactory& program) {
     std::istringstream lines(conversation);
     std::string commands;
     for (std::string line; std::getline(lines, line);) {
@@ -47,7 +48,7 @@ Outcome play(const Conversation& conversation) {
     const FakeMetrics metrics;
     std::istringstream in(commands);
     std::ostringstream out;
-    Runner runner({fake_program, metrics}, in, out);
+    Runner runner({program, metrics}, in, out);
     const int status = runner.run();
     return {with_answers(commands, out.str()), status};
 }
@@ -55,6 +56,7 @@ Outcome play(const Conversation& conversation) {
 struct Talk {
     const char* name;
     const char* text; ///< what follows the first start
+    ProgramFactory program = fake_program;
 };
 
 void PrintTo(const Talk& talk, std::ostream* out) {
@@ -65,9 +67,13 @@ class ScriptTalk : public testing::TestWithParam<Talk> {};
 
 TEST_P(ScriptTalk, GoesAsWritten) {
     const Conversation expected = std::string("start dir 2008-05-17T09:30:58\n") + GetParam().text;
-    const Outcome outcome = play(expected);
+    const Outcome outcome = play(expected, GetParam().program);
     EXPECT_EQ(outcome.conversation, expected);
     EXPECT_EQ(outcome.status, expected.find("\n= error: ") == std::string::npos ? 0 : 1);
+}
+
+std::shared_ptr<void> workbench(const Platform& platform, const std::string& /*directory*/) {
+    return std::make_shared<test::Workbench>(platform.desktop, platform.progress);
 }
 
 const Talk kTalks[] = {
@@ -272,6 +278,82 @@ set form1.Ordner /gibt/es/nicht
 get form1.Ordner
 = /usr
 )"},
+    {"workbench", R"(mouse Workbench.Block move 1 330 165
+set Workbench.Movable 1
+mouse Workbench.Block move 0 30 15
+mouse Workbench.Block move 1 330 -45
+mouse Workbench.Block up 1 30 15
+mouse Workbench.Block up 1 1500 15
+mouse Workbench.Block up 2 30 15
+get Workbench.Block.Left
+= 750
+get Workbench.Block.Top
+= 540
+drop Workbench.Service Nagel
+= error: Workbench.Service nimmt nichts an
+get Workbench.Tabs
+= &Blatt
+click Workbench.Open
+select Articles.List 2
+drop Workbench.Service Nagel 6 mm
+get Workbench.Tabs
+= &Felder && Farben
+get Workbench.Service
+= Nagel 6 mm
+drop Workbench.Service Nagel
+= error: Workbench.Service nimmt nichts an
+click Workbench.Open
+click Workbench.Open
+forms
+= Workbench|Werkbank|
+= Articles|Artikel|
+click Articles.Done
+click Articles.Done
+= error: Es gibt kein Fenster Articles
+click Workbench.Open
+select Articles.List 1
+dblclick Articles.List
+type Workbench.Service !
+set Workbench.Block 1
+= error: Workbench.Block nimmt keinen Wert an
+select Workbench.Tabs 3
+= error: Workbench.Tabs hat keinen Eintrag 3
+get Workbench.Tabs.Tab
+= 1
+select Workbench.Tabs 0
+get Workbench.Service
+= Nagel 4 mm!
+set Workbench.Red 255
+get Workbench.Patch.BackColor
+= 255
+click Workbench.Work
+abort
+get Workbench.Result
+= gezählt
+click Workbench.Work
+progress
+= progress|Nägel werden gezählt|done
+= progress|Nägel werden gezählt|aborted
+get Workbench.Result
+= abgebrochen
+items Workbench.Log
+= Bild
+= gewählt Nagel 6 mm
+= Blatt 1
+= genommen (Nägel)
+= Artikel zerstört
+= Artikel zerstört
+= gewählt Nagel 4 mm
+= gewählt Nagel 4 mm
+= genommen (Nägel)
+= Artikel zerstört
+= Feld verlassen
+= Blatt 0
+= Blatt 1
+= Rot 255
+= Blatt 2
+)",
+     workbench},
 };
 INSTANTIATE_TEST_SUITE_P(Talks, ScriptTalk, testing::ValuesIn(kTalks),
                          [](const auto& p) { return p.param.name; });

@@ -1,0 +1,158 @@
+#include "platform/forms/twips.hpp"
+#include "platform/qt/application.hpp"
+#include "platform/qt/qt_desktop.hpp"
+#include "platform/qt/qt_progress.hpp"
+#include "tests/workbench.hpp"
+
+#include <gtest/gtest.h>
+
+#include "tests/qt/mouse/mouse.hpp"
+#include "tests/qt/mouse/workbench_window.hpp"
+
+#include <QListView>
+#include <QPushButton>
+#include <QSlider>
+#include <QTabWidget>
+#include <QThread>
+#include <QTimer>
+
+#include <algorithm>
+#include <vector>
+
+namespace quittika::test {
+
+namespace {
+
+class RealMouse : public ::testing::Test {
+protected:
+    void SetUp() override { ASSERT_TRUE(QTest::qWaitForWindowActive(desktop.window(bench.form()))); }
+
+    template <class W = QWidget> W& part(Form& form, const char* name) {
+        return *desktop.window(form)->findChild<W*>(QLatin1String(name));
+    }
+    QPointF place(const char* name, QPointF inside) { return part(bench.form(), name).mapToGlobal(inside); }
+    QPointF centre(const char* name) { return place(name, part(bench.form(), name).rect().center()); }
+    QPointF tab(int index) {
+        const QTabBar& bar = *part<QTabWidget>(bench.form(), "Tabs").tabBar();
+        return bar.mapToGlobal(QPointF(bar.tabRect(index).center()));
+    }
+    QPointF row(int index) {
+        const auto& list = part<QListView>(*bench.articles(), "List");
+        return list.viewport()->mapToGlobal(QPointF(list.visualRect(list.model()->index(index, 0)).center()));
+    }
+    void open_articles() {
+        Mouse().to(tab(1)).click().to(centre("Open")).click().go();
+        ASSERT_NE(bench.articles(), nullptr);
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(desktop.window(*bench.articles())));
+        log();
+    }
+    /// What has happened since the last call.
+    std::string log() {
+        std::string all;
+        for (const std::string& line : bench.form().Log.items()) {
+            all += line + "|";
+        }
+        bench.form().Log.Clear();
+        return all;
+    }
+
+    QtDesktop desktop{workbench_window};
+    QtProgress progress{desktop};
+    Workbench bench{desktop, progress, [] { QThread::msleep(3); }};
+};
+
+TEST_F(RealMouse, MovesAPictureInItsFrameAndBeyondOnceThatIsAllowed) {
+    const Image& block = bench.form().Block;
+    const double pixel = 15 / qGuiApp->devicePixelRatio(); // of the screen, in twips
+    const QPointF start = place("Block", {10, 10});
+    const QPointF way = QPointF(202, 502) / qGuiApp->devicePixelRatio(); // beyond the frame and the window
+    Mouse().to(start).down().to(start + way).up().go();
+    EXPECT_EQ(block.Left(), 450);
+    EXPECT_EQ(log(), "") << "released somewhere else";
+    Mouse().to(place("Movable", {8, 8})).click().to(start).down().to(start + way / 3).to(start + way).go();
+    EXPECT_NEAR(block.Left(), 450 + 202 * pixel, 1);
+    EXPECT_NEAR(block.Top(), 600 + 502 * pixel, 1);
+    Mouse().to(start - QPointF(1, 1)).up().go();
+    EXPECT_NEAR(block.Left(), 435, 1);
+    EXPECT_NEAR(block.Top(), 585, 1);
+    EXPECT_EQ(log(), "Bild|");
+}
+
+TEST_F(RealMouse, DragsAnArticleToAFieldAndTheListCloses) {
+    open_articles();
+    Mouse().to(centre("Service")).click().go();
+    Mouse().to(row(0)).down().to(centre("Service")).up().go();
+    EXPECT_EQ(bench.form().Service.Text(), "") << "a heading stays";
+    log();
+    Mouse().to(row(1)).down().to(centre("Remark")).to(centre("Remark") + QPointF(2, 0)).up().go();
+    EXPECT_EQ(bench.form().Remark.Text(), "Nagel 4 mm");
+    EXPECT_EQ(log(), "gewählt Nagel 4 mm|");
+    Mouse().to(row(2)).down().to(centre("Service")).to(centre("Service") + QPointF(2, 0)).up().go();
+    EXPECT_EQ(bench.form().Service.Text(), "Nagel 6 mm");
+    EXPECT_EQ(log(), "gewählt Nagel 6 mm|genommen (Nägel)|Artikel zerstört|");
+    EXPECT_EQ(bench.articles(), nullptr);
+}
+
+TEST_F(RealMouse, AnUnsteadyHandClicksADoubleClickTakesAndAButtonCloses) {
+    open_articles();
+    Mouse().to(row(1)).down().to(row(1) + QPointF(2, 1)).up().go();
+    EXPECT_EQ(log(), "gewählt Nagel 4 mm|");
+    Mouse().to(row(2)).click().click().go();
+    EXPECT_EQ(bench.form().Service.Text(), "Nagel 6 mm");
+    EXPECT_EQ(log(), "gewählt Nagel 6 mm|genommen (Nägel)|Artikel zerstört|");
+    open_articles();
+    Mouse().to(part(*bench.articles(), "Done").mapToGlobal(QPointF(20, 10))).click().go();
+    EXPECT_EQ(log(), "Artikel zerstört|");
+}
+
+TEST_F(RealMouse, TurnsPagesAndEndsTheEntry) {
+    Mouse().to(tab(1)).click().to(centre("Service")).click().to(tab(2)).click().to(tab(0)).click().go();
+    EXPECT_EQ(log(), "Blatt 1|Feld verlassen|Blatt 2|Blatt 0|");
+}
+
+TEST_F(RealMouse, EachValueOfASliderComesOnce) {
+    Mouse().to(tab(1)).click().to(place("Red", {200, 12})).wheel_up().go();
+    EXPECT_EQ(bench.form().Red.Value(), 0) << "passed by";
+    log();
+    std::vector<int> values;
+    bench.form().Red.Change = [&] { values.push_back(bench.form().Red.Value()); };
+    Mouse way;
+    way.to(place("Red", {6, 12})).down();
+    for (const double part_of_way : {0.2, 0.4, 0.6, 0.8, 1.0}) {
+        const double x = part_of_way * part(bench.form(), "Red").width();
+        way.to(place("Red", {x, 12})).to(place("Red", {x, 14}));
+    }
+    way.up().go();
+    ASSERT_EQ(values.size(), 5U);
+    EXPECT_TRUE(std::is_sorted(values.begin(), values.end()));
+    EXPECT_EQ(values.back(), 255);
+    EXPECT_EQ(bench.form().Patch.BackColor(), 255) << "a click each";
+}
+
+TEST_F(RealMouse, AbortsLongWork) {
+    QTimer look;
+    QObject::connect(&look, &QTimer::timeout, [&look] {
+        for (QWidget* window : QApplication::topLevelWidgets()) {
+            const auto* button = window->findChild<QPushButton*>("Abbrechen");
+            if (button != nullptr && button->isVisible()) {
+                look.stop();
+                Mouse().to(button->mapToGlobal(QPointF(button->rect().center()))).click().start();
+            }
+        }
+    });
+    look.start(20);
+    Mouse().to(tab(2)).click().to(centre("Work")).click().go();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !bench.form().Result.Caption().empty(); }));
+    EXPECT_EQ(bench.form().Result.Caption(), "abgebrochen");
+}
+
+} // namespace
+
+} // namespace quittika::test
+
+int main(int argc, char** argv) {
+    qputenv("QT_QPA_PLATFORM", "xcb");
+    ::testing::InitGoogleTest(&argc, argv);
+    const quittika::QtApplication application(argc, argv);
+    return RUN_ALL_TESTS();
+}

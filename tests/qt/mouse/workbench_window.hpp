@@ -1,0 +1,13 @@
+#pragma once
+
+#include <QWidget>
+
+#include <memory>
+#include <string_view>
+
+namespace quittika::test {
+
+/// The window of one of the forms of workbench.hpp, from its design.
+std::unique_ptr<QWidget> workbench_window(std::string_view form);
+
+} // namespace quittika::test
