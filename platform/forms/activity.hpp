@@ -7,7 +7,8 @@
 namespace quittika {
 
 /// Counts what runs on behalf of a window: its handlers, and a toolkit's code around them. Whoever destroys
-/// the window waits for the end of all of it.
+/// the window waits for the end of all of it. A platform that waits for the user inside the toolkit (while
+/// something is dragged, say) holds the window meanwhile.
 class Activity {
 public:
     Activity() = default;
