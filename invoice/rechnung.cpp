@@ -1,6 +1,7 @@
 #include "invoice/rechnung.hpp"
 
 #include "invoice/compressor.hpp"
+#include "invoice/zahleneingabe.hpp"
 #include "platform/datum.hpp"
 #include "platform/text.hpp"
 #include "platform/zahlen.hpp"
@@ -29,7 +30,7 @@ std::string Darstellungszeile(const Form1& form1, int zeile) {
 } // namespace
 
 void SatzAuswahlZeigen(Form1& form1, const PROGRAMMEINSTELLUNG& einstellung) {
-    const auto wert = [](const std::string& satz) { return double_versuch(ZEICHENERSETZEN(satz, ".", ",")); };
+    const auto wert = [](const std::string& satz) { return double_versuch(MIT_KOMMA(satz)); };
     const auto satz = wert(form1.Text_MwSt.Text());
     form1.Option_Satz1.Value = satz && satz == wert(einstellung.MWST_SATZ1);
     form1.Option_Satz2.Value = !form1.Option_Satz1.Value() && satz && satz == wert(einstellung.MWST_SATZ2);

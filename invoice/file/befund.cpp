@@ -1,7 +1,5 @@
 #include "invoice/file/befund.hpp"
 
-#include "platform/datum.hpp"
-#include "platform/text.hpp"
 #include "platform/textdatei.hpp"
 #include "platform/zahlen.hpp"
 
@@ -11,34 +9,12 @@ namespace quittika {
 
 namespace {
 
-constexpr int kDatum = 2;
-constexpr int kZahlen[] = {dateizeile::kMwStText,
-                           52,
-                           53,
-                           54,
-                           dateizeile::kMahnung,
-                           dateizeile::kMwStSatz,
-                           dateizeile::kRabattprozent,
-                           dateizeile::kRabattbetrag,
-                           dateizeile::kNachRabatt,
-                           dateizeile::kVersandEingabe,
-                           dateizeile::kVersandMwSt,
-                           dateizeile::kVersandNetto};
-
-bool zahl(const std::string& text) {
-    return ist_numerisch(text) || ist_numerisch(ZEICHENERSETZEN(text, ".", ","));
-}
+// Numbers that no control shows as they stand in the file.
+constexpr int kWeitereZahlen[] = {dateizeile::kMahnung, dateizeile::kMwStSatz, dateizeile::kVersandMwSt,
+                                  dateizeile::kVersandNetto};
 
 bool gesetzt(const std::string& text) {
     return !text.empty() && text != kNichtGesetzt;
-}
-
-bool verstanden(const Dateifeld& feld, const std::string& text) {
-    if (dynamic_cast<const CheckBox*>(feld.steuerelement) != nullptr) {
-        const auto wert = double_versuch(text);
-        return wert && (*wert == 0 || *wert == 1 || *wert == 2);
-    }
-    return dynamic_cast<const OptionButton*>(feld.steuerelement) == nullptr || wahrheitswert(text);
 }
 
 std::string anzahl(int n, const std::string& eines, const std::string& mehrere) {
@@ -84,12 +60,12 @@ int UNVERSTANDENE_WERTE(const Dateizeilen& zeilen, const std::vector<Dateifeld>&
     int anzahl = 0;
     for (const Dateifeld& feld : felder) {
         const std::string& text = zeilen[feld.zeile];
-        anzahl += feld.lesart != Lesart::Nie && gesetzt(text) && !verstanden(feld, text) ? 1 : 0;
+        anzahl += feld.lesart != Lesart::Nie && gesetzt(text) && !FELD_VERSTANDEN(feld, text) ? 1 : 0;
     }
-    for (const int zeile : kZahlen) {
-        anzahl += gesetzt(zeilen[zeile]) && !zahl(zeilen[zeile]) ? 1 : 0;
+    for (const int zeile : kWeitereZahlen) {
+        anzahl += gesetzt(zeilen[zeile]) && !IST_DATEIZAHL(zeilen[zeile]) ? 1 : 0;
     }
-    return anzahl + (gesetzt(zeilen[kDatum]) && !datum_lesen(zeilen[kDatum]) ? 1 : 0);
+    return anzahl;
 }
 
 } // namespace quittika

@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <variant>
 #include <vector>
 
 namespace quittika {
@@ -13,13 +14,9 @@ namespace quittika {
 /// Numbers of the lines in an invoice file that are not simply one control's text.
 namespace dateizeile {
 constexpr int kKennung = 0;
-constexpr int kMwStText = 38;
-constexpr int kAbgemahnt = 58;
 constexpr int kMahnung = 59;
 constexpr int kMwStSatz = 60;
 constexpr int kSchrift = 61;
-constexpr int kDreistellig = 62;
-constexpr int kRabatt = 72;
 constexpr int kRabattprozent = 73;
 constexpr int kRabattbetrag = 74;
 constexpr int kNachRabatt = 75;
@@ -32,8 +29,6 @@ constexpr int kVersandInklusive = 217;
 constexpr int kNotiz = 218;
 constexpr int kVersandMwSt = 219;
 constexpr int kVersandNetto = 220;
-constexpr int kLieferdatumText = 230;
-constexpr int kLieferdatum = 231;
 constexpr int kLetzteFeste = 1000; ///< last of the scalar lines
 constexpr int kGespeichert = 1001;
 constexpr int kGrenze = 32000; ///< last index of the line arrays
@@ -44,25 +39,38 @@ inline constexpr const char* kNichtGesetzt = "#**#";
 inline constexpr const char* kListenmarke = "#qk8LIST#";
 
 enum class Lesart : std::uint8_t {
-    Nie,            ///< written only
-    Immer,          ///< taken as it stands
-    Wenn_Gesetzt,   ///< unless the line is "#**#"
-    Wenn_Numerisch, ///< only a numeric line counts
-    Von_Hand,       ///< has a rule of its own
+    Nie,          ///< written only
+    Immer,        ///< taken as it stands
+    Wenn_Gesetzt, ///< unless the line is "#**#"
+    Von_Hand,     ///< has a rule of its own
 };
 
-/// One line of the file and the control that it belongs to: a text field, check box, option button or label.
+/// What the text of a field ought to be.
+enum class Inhalt : std::uint8_t { Beliebig, Zahl, Datum };
+
+/// One line of the file and the control that it belongs to.
 struct Dateifeld {
     int zeile;
-    Control* steuerelement;
+    std::variant<TextBox*, CheckBox*, OptionButton*, Label*> steuerelement;
     Lesart lesart;
+    Inhalt inhalt = Inhalt::Beliebig; ///< of a text field
 };
 
 /// All lines that stand for a control, in the order of the file.
 std::vector<Dateifeld> DATEIFELDER(Form1& form1);
 
 /// Text that a control contributes to the file.
-std::string Feldtext(const Control& steuerelement);
+std::string FELDTEXT(const Dateifeld& feld);
+/// Gives the control the text of its line.
+void FELD_SETZEN(const Dateifeld& feld, const std::string& text);
+/// Whether the text of a line is what its control ought to hold.
+bool FELD_VERSTANDEN(const Dateifeld& feld, const std::string& text);
+
+/// Sets a check box to 0, 1 or 2; another text leaves it.
+void HAEKCHEN_SETZEN(CheckBox& haekchen, const std::string& text);
+
+/// Whether the text is a number, with a comma or a point.
+bool IST_DATEIZAHL(const std::string& text);
 
 /// Lines of an invoice file by number, 0 to 32000; a line never set is empty.
 /// Every access outside throws `Laufzeitfehler` 9.

@@ -1,5 +1,6 @@
 #include "invoice/file/rechnungsleser.hpp"
 
+#include "invoice/zahleneingabe.hpp"
 #include "platform/datei.hpp"
 #include "platform/laufzeitfehler.hpp"
 #include "platform/text.hpp"
@@ -16,23 +17,9 @@ namespace {
 constexpr int kHoechstzeilen = 32001;
 constexpr std::size_t kHoechstbytes = 50U << 20U;
 
-std::string mit_komma(const std::string& text) {
-    return ZEICHENERSETZEN(text, ".", ",");
-}
-
 /// Text to number and back; what is no number becomes 0.
 std::string normalisiert(const std::string& text) {
-    return zahl_text(double_versuch(mit_komma(text)).value_or(0));
-}
-
-void text_uebernehmen(Control& steuerelement, const std::string& text) {
-    if (auto* feld = dynamic_cast<TextBox*>(&steuerelement)) {
-        feld->Text = text;
-    } else if (auto* option = dynamic_cast<OptionButton*>(&steuerelement)) {
-        option->Value = wahrheitswert(text).value_or(false);
-    } else {
-        steuerelement.Caption = text;
-    }
+    return zahl_text(double_versuch(MIT_KOMMA(text)).value_or(0));
 }
 
 } // namespace
@@ -133,37 +120,27 @@ void Rechnungsleser::FeldUebernehmen(const Dateifeld& feld) {
     case Lesart::Nie:
     case Lesart::Von_Hand:
         break;
-    case Lesart::Wenn_Numerisch:
-        HaekchenUebernehmen(dynamic_cast<CheckBox&>(*feld.steuerelement), text);
-        break;
     case Lesart::Wenn_Gesetzt:
         if (text != kNichtGesetzt) {
-            text_uebernehmen(*feld.steuerelement, text);
+            FELD_SETZEN(feld, text);
         }
         break;
     case Lesart::Immer:
-        text_uebernehmen(*feld.steuerelement, text);
+        FELD_SETZEN(feld, text);
         break;
-    }
-}
-
-void Rechnungsleser::HaekchenUebernehmen(CheckBox& haekchen, const std::string& text) {
-    const auto wert = double_versuch(text);
-    if (wert && (*wert == 0 || *wert == 1 || *wert == 2)) {
-        haekchen.Value = static_cast<int>(*wert);
     }
 }
 
 void Rechnungsleser::VersandUebernehmen() {
     const bool vorhanden = ist_numerisch(DatenLesen[dateizeile::kVersand]);
     if (vorhanden) {
-        HaekchenUebernehmen(form1_.Check_Versandkosten, DatenLesen[dateizeile::kVersand]);
+        HAEKCHEN_SETZEN(form1_.Check_Versandkosten, DatenLesen[dateizeile::kVersand]);
         form1_.Text_Versandk.Text = DatenLesen[dateizeile::kVersandText];
         const std::string& eingabe = DatenLesen[dateizeile::kVersandEingabe];
         form1_.Text_PreisVersankostenEingabe.Text =
-            ist_numerisch(mit_komma(eingabe)) ? eingabe : vorgabe::kBetrag;
-        HaekchenUebernehmen(form1_.Check_VersandMwStEXTRA, DatenLesen[dateizeile::kVersandExtra]);
-        HaekchenUebernehmen(form1_.Check_VersandINKL_MwSt, DatenLesen[dateizeile::kVersandInklusive]);
+            ist_numerisch(MIT_KOMMA(eingabe)) ? eingabe : vorgabe::kBetrag;
+        HAEKCHEN_SETZEN(form1_.Check_VersandMwStEXTRA, DatenLesen[dateizeile::kVersandExtra]);
+        HAEKCHEN_SETZEN(form1_.Check_VersandINKL_MwSt, DatenLesen[dateizeile::kVersandInklusive]);
     } else {
         form1_.Check_Versandkosten.Value = 0;
         form1_.Text_Versandk.Text = vorgabe::kVersandtext;
@@ -181,17 +158,17 @@ void Rechnungsleser::BetraegeUebernehmen() {
     form1_.Text_Rabatt.Text = normalisiert(DatenLesen[dateizeile::kRabattprozent]);
     form1_.Text_summeRabatt.Text = normalisiert(DatenLesen[dateizeile::kRabattbetrag]);
     form1_.Text_summeNACHRABATT.Text = normalisiert(DatenLesen[dateizeile::kNachRabatt]);
-    if (ist_numerisch(mit_komma(DatenLesen[dateizeile::kMwStSatz]))) {
+    if (ist_numerisch(MIT_KOMMA(DatenLesen[dateizeile::kMwStSatz]))) {
         form1_.Text_MwSt.Text = normalisiert(DatenLesen[dateizeile::kMwStSatz]);
-    } else if (!ist_numerisch(mit_komma(form1_.Text_MwSt.Text()))) {
+    } else if (!ist_numerisch(MIT_KOMMA(form1_.Text_MwSt.Text()))) {
         form1_.Text_MwSt.Text = einstellung_.MWST_SATZ1;
     }
     SatzAuswahlZeigen(form1_, einstellung_);
 }
 
 Versandaufteilung Rechnungsleser::VersandGelesen() const {
-    return {double_versuch(mit_komma(DatenLesen[dateizeile::kVersandNetto])).value_or(0),
-            double_versuch(mit_komma(DatenLesen[dateizeile::kVersandMwSt])).value_or(0)};
+    return {double_versuch(MIT_KOMMA(DatenLesen[dateizeile::kVersandNetto])).value_or(0),
+            double_versuch(MIT_KOMMA(DatenLesen[dateizeile::kVersandMwSt])).value_or(0)};
 }
 
 void Rechnungsleser::UebrigesUebernehmen() {

@@ -46,7 +46,6 @@ private:
     void VersandUebernehmen();
     void BetraegeUebernehmen();
     void UebrigesUebernehmen();
-    void HaekchenUebernehmen(CheckBox& haekchen, const std::string& text);
 
     Form1& form1_;
     PROGRAMMEINSTELLUNG& einstellung_;

@@ -1,6 +1,7 @@
 #include "invoice/file/rechnungsschreiber.hpp"
 
 #include "invoice/file/hindernis.hpp"
+#include "invoice/zahleneingabe.hpp"
 #include "invoice/zeichenersatz.hpp"
 #include "platform/datum.hpp"
 #include "platform/text.hpp"
@@ -57,13 +58,13 @@ void Rechnungsschreiber::DateiDatenSammeln() {
         DatenSchreiben.setzen(zeile, kNichtGesetzt);
     }
     for (const Dateifeld& feld : felder_) {
-        DatenSchreiben.setzen(feld.zeile, feldzeile(Feldtext(*feld.steuerelement)));
+        DatenSchreiben.setzen(feld.zeile, feldzeile(FELDTEXT(feld)));
     }
     BesondereZeilen();
 }
 
 void Rechnungsschreiber::BesondereZeilen() {
-    const double satz = double_versuch(ZEICHENERSETZEN(form1_.Text_MwSt.Text(), ".", ",")).value_or(0);
+    const double satz = double_versuch(MIT_KOMMA(form1_.Text_MwSt.Text())).value_or(0);
     const std::pair<int, std::string> zeilen[] = {
         {dateizeile::kKennung, kDateikennung},
         {dateizeile::kMahnung, std::to_string(form1_.Combo1_mahnung.ListIndex())},

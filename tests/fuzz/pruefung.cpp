@@ -93,11 +93,10 @@ std::string Unterschied(Form1& gespeichert, Form1& gelesen) {
     const auto felder = DATEIFELDER(gespeichert);
     const auto gelesene = DATEIFELDER(gelesen);
     for (std::size_t i = 0; i < felder.size(); ++i) {
-        const std::string befund =
-            felder[i].lesart == Lesart::Nie
-                ? ""
-                : verschieden(felder[i].steuerelement->name(), Feldtext(*felder[i].steuerelement),
-                              Feldtext(*gelesene[i].steuerelement));
+        const std::string befund = felder[i].lesart == Lesart::Nie
+                                       ? ""
+                                       : verschieden("Zeile " + std::to_string(felder[i].zeile),
+                                                     FELDTEXT(felder[i]), FELDTEXT(gelesene[i]));
         if (!befund.empty()) {
             return befund;
         }
