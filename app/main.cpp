@@ -1,17 +1,17 @@
 #include "app/programm.hpp"
 #include "app/programmordner.hpp"
 #include "invoice/programmname.hpp"
+#include "platform/datei.hpp"
 #include "platform/qt/application.hpp"
 #include "platform/qt/qt_platform.hpp"
 
 #include <QStandardPaths>
 
-#include <csignal>
 #include <filesystem>
 
 int main(int argc, char** argv) {
     using namespace quittika;
-    std::signal(SIGXFSZ, SIG_IGN); // a file that grows too big is an error of its own, not the end
+    dateigroesse_als_fehler();
     const QtApplication anwendung(argc, argv);
     QtPlatform plattform;
     const std::filesystem::path daten =

@@ -1,5 +1,5 @@
 #include "app/programm.hpp"
-#include "platform/laufzeitfehler.hpp"
+#include "platform/datei.hpp"
 #include "platform/qt/print_metrics.hpp"
 #include "platform/qt/print_pdf.hpp"
 #include "platform/script/runner.hpp"
@@ -7,7 +7,6 @@
 #include <QGuiApplication>
 #include <QImageReader>
 
-#include <csignal>
 #include <iostream>
 
 namespace {
@@ -27,7 +26,7 @@ bool bild_lesbar(const std::string& pfad) {
 } // namespace
 
 int main(int argc, char** argv) {
-    std::signal(SIGXFSZ, SIG_IGN); // a file that grows too big is an error of its own, not the end
+    dateigroesse_als_fehler();
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QGuiApplication anwendung(argc, argv);
     const QtFontMetrics schriften;

@@ -4,6 +4,7 @@
 #include "platform/verzeichnis.hpp"
 
 #include <cerrno>
+#include <csignal>
 
 #include <fcntl.h>
 #include <unistd.h>
@@ -26,6 +27,10 @@ void zuruecknehmen(const std::string& ort, off_t laenge, bool neu) {
 }
 
 } // namespace
+
+void dateigroesse_als_fehler() {
+    std::signal(SIGXFSZ, SIG_IGN);
+}
 
 std::string bytes_lesen(const std::string& pfad, std::size_t hoechstens) {
     const std::string ort = ort_von(pfad);

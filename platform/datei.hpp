@@ -17,6 +17,9 @@ namespace quittika {
 
 inline constexpr std::size_t kUnbegrenzt = std::numeric_limits<std::size_t>::max() / 2;
 
+/// Makes a file that outgrows the system's limit an error of its own, where the system would end the program.
+void dateigroesse_als_fehler();
+
 /// The bytes of a file. Throws 7 for more than `hoechstens`, before they are read.
 std::string bytes_lesen(const std::string& pfad, std::size_t hoechstens = kUnbegrenzt);
 

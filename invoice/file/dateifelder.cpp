@@ -156,7 +156,7 @@ std::string FELDTEXT(const Dateifeld& feld) {
 }
 
 void FELD_SETZEN(const Dateifeld& feld, const std::string& text) {
-    std::visit(Je{[&](TextBox* feld) { feld->Text = text; },
+    std::visit(Je{[&](TextBox* textfeld) { textfeld->Text = text; },
                   [&](CheckBox* haekchen) { HAEKCHEN_SETZEN(*haekchen, text); },
                   [&](OptionButton* option) { option->Value = wahrheitswert(text).value_or(false); },
                   [&](Label* beschriftung) { beschriftung->Caption = text; }},

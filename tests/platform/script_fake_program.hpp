@@ -85,7 +85,7 @@ private:
             }
             log("zurück: " + notiz_.Text.Text());
             if (notiz_.Text.Text() == "krach") {
-                throw Laufzeitfehler(13);
+                throw Laufzeitfehler(fehler::kFalscherTyp);
             }
         };
         notiz_.Schliessen.Click = [this] { notiz_.Hide(); };

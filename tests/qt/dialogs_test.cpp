@@ -138,7 +138,10 @@ TEST_F(DialogsTest, SavingProposesANameAddsTheEndingAndRemembersTheFolder) {
         EXPECT_EQ(window.directory(), QDir(folder.path()));
         window.reject();
     });
-    EXPECT_EQ(error_of([&] { dialogs.open_file({"Rechnungen (*.rn)|*.rn", "", ""}); }), 32755);
+    EXPECT_EQ(error_of([&] {
+                  dialogs.open_file({"Rechnungen (*.rn)|*.rn", "", ""});
+              }),
+              fehler::kDialogAbgebrochen);
 }
 
 TEST_F(DialogsTest, OpeningTakesANewNameWhereItMay) {
@@ -158,12 +161,12 @@ TEST_F(DialogsTest, OpeningTakesANewNameWhereItMay) {
         return dialogs.open_file({"Texte (*.txt)|*.txt", "5/08.txt", "", must_exist});
     };
     EXPECT_EQ(QString::fromStdString(choose(false)), folder.filePath("neu.txt"));
-    EXPECT_EQ(error_of([&] { choose(true); }), 32755);
+    EXPECT_EQ(error_of([&] { choose(true); }), fehler::kDialogAbgebrochen);
 }
 
 TEST_F(DialogsTest, CancelledColourIsAnErrorAndAChosenOneIsNot) {
     on_dialog<QColorDialog>([](QColorDialog& window) { window.reject(); });
-    EXPECT_EQ(error_of([&] { dialogs.choose_color(color::kYellow); }), 32755);
+    EXPECT_EQ(error_of([&] { dialogs.choose_color(color::kYellow); }), fehler::kDialogAbgebrochen);
     on_dialog<QColorDialog>([](QColorDialog& window) {
         EXPECT_EQ(window.currentColor(), QColor(255, 255, 0));
         window.setCurrentColor(QColor(1, 2, 3));
@@ -209,7 +212,7 @@ TEST_F(DialogsTest, PrintingIntoAFileProposesANameAndAsksBeforeItReplacesOne) {
         EXPECT_EQ(field(window)->text(), folder.filePath("RECHNUNG 8.pdf")) << "never an earlier name";
         window.reject();
     });
-    EXPECT_EQ(error_of([&] { dialogs.choose_printer({1, "RECHNUNG 8.pdf"}); }), 32755);
+    EXPECT_EQ(error_of([&] { dialogs.choose_printer({1, "RECHNUNG 8.pdf"}); }), fehler::kDialogAbgebrochen);
 }
 
 TEST(PdfPath, IsWhatTheUserMeans) {

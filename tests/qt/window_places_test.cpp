@@ -72,25 +72,25 @@ TEST(WindowPlaces, WindowsComeBackWhereTheyWere) {
     const QRect room = QGuiApplication::primaryScreen()->availableGeometry();
     session(file, [&](Form& form1, Form& about) {
         EXPECT_FALSE(std::filesystem::exists(file)) << "written at the end only";
-        form1.Height = 450 * 15;
+        form1.Height = twips(450);
         about.Left = 150;
         about.Top = 300;
-        about.Width = 500 * 15;
+        about.Width = twips(500);
     });
     EXPECT_NE(folder.lesen("fenster.cfg").find("Form_ueber_QUITTIKA;500;"), std::string::npos);
     session(file, [&](Form& form1, Form& about) {
-        EXPECT_EQ(form1.Height(), 450 * 15);
+        EXPECT_EQ(form1.Height(), twips(450));
         EXPECT_EQ(about.Left(), 150);
         EXPECT_EQ(about.Top(), 300);
-        EXPECT_EQ(about.Width(), 500 * 15);
+        EXPECT_EQ(about.Width(), twips(500));
         std::filesystem::remove(file);
     });
     EXPECT_FALSE(std::filesystem::exists(file)) << "nothing was changed";
     folder.schreiben("fenster.cfg", "form1;9000;9000\r\nForm_ueber_QUITTIKA;500;300;-4000;9000\r\n");
     session(file, [&](Form& form1, Form& about) {
-        EXPECT_LE(form1.Height(), room.height() * 15);
+        EXPECT_LE(form1.Height(), twips(room.height()));
         EXPECT_EQ(about.Left(), 0);
-        EXPECT_LE(about.Top() + about.Height(), room.height() * 15);
+        EXPECT_LE(about.Top() + about.Height(), twips(room.height()));
     });
     session("/gibt/es/nicht/fenster.cfg", [](Form&, Form&) {}); // nobody is bothered
 }
