@@ -1,5 +1,6 @@
 #include "app/form_ueber_quittika.hpp"
 #include "invoice/form1.hpp"
+#include "platform/forms/twips.hpp"
 #include "platform/qt/qt_desktop.hpp"
 #include "platform/qt/window_places.hpp"
 #include "tests/pruefstand.hpp"
