@@ -1,11 +1,12 @@
 #include "app/programm.hpp"
 #include "platform/datei.hpp"
-#include "platform/qt/print_metrics.hpp"
+#include "platform/qt/paint_tools.hpp"
+#include "platform/qt/print_page.hpp"
 #include "platform/qt/print_pdf.hpp"
+#include "platform/qt/qt_text.hpp"
 #include "platform/script/runner.hpp"
 
 #include <QGuiApplication>
-#include <QImageReader>
 
 #include <iostream>
 
@@ -19,8 +20,15 @@ std::shared_ptr<void> programm_starten(Platform platform, const std::string& ord
     return programm;
 }
 
-bool bild_lesbar(const std::string& pfad) {
-    return QImageReader(QString::fromStdString(pfad)).canRead();
+void pdf_schreiben(PaintTools& werkzeug, const std::string& pfad, const RecordedJobs& auftraege) {
+    QtPdfDevice geraet(werkzeug, path_to_qt(pfad), auftraege.front()->document);
+    for (const auto& auftrag : auftraege) {
+        if (auftrag != auftraege.front()) {
+            geraet.new_page(auftrag->document.paper);
+        }
+        replay(*auftrag, geraet);
+    }
+    geraet.end_document();
 }
 
 } // namespace
@@ -29,13 +37,13 @@ int main(int argc, char** argv) {
     dateigroesse_als_fehler();
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QGuiApplication anwendung(argc, argv);
-    const QtFontMetrics schriften;
-    Runner runner(
-        {programm_starten, schriften,
-         [&schriften](const std::string& pfad, const std::string& titel) -> std::unique_ptr<PrintDevice> {
-             return std::make_unique<QtPdfDevice>(schriften, QString::fromStdString(pfad), titel);
-         },
-         bild_lesbar},
-        std::cin, std::cout);
+    PaintTools werkzeug;
+    const RealPrinting ausgabe{[&werkzeug](const std::string& pfad, const RecordedJobs& auftraege) {
+                                   pdf_schreiben(werkzeug, pfad, auftraege);
+                               },
+                               [&werkzeug](const DrawnPage& seite, const std::string& pfad, int dpi) {
+                                   save_page(seite, pfad, dpi, werkzeug);
+                               }};
+    Runner runner({programm_starten, werkzeug.metrics, ausgabe, &werkzeug.pictures}, std::cin, std::cout);
     return runner.run();
 }

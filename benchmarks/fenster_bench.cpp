@@ -71,7 +71,7 @@ public:
 struct Druckprobe {
     Pruefstand p;
     Rechnungsdruck druck{p.form1, p.einstellungen, p.werte};
-    QtFontMetrics schriften;
+    PaintTools werkzeug;
     Druckprobe() {
         for (int i = 0; i < 15; ++i) {
             p.zeile("2", "Posten mit einer Bezeichnung", "12,50");
@@ -83,8 +83,8 @@ void pdf_seite(benchmark::State& state) {
     Druckprobe probe;
     const QString pfad = QStringLiteral("/dev/shm/quittika-bench.pdf");
     for (auto _ : state) {
-        QtPdfDevice geraet(probe.schriften, pfad, "Probe");
-        PrintSurface flaeche(geraet, probe.schriften);
+        QtPdfDevice geraet(probe.werkzeug, pfad, {"Probe"});
+        PrintSurface flaeche(geraet, probe.werkzeug.metrics);
         probe.druck.DRUCKE_RECHNUNG(flaeche, {});
     }
     QFile::remove(pfad);
@@ -94,7 +94,7 @@ BENCHMARK(pdf_seite)->Unit(benchmark::kMillisecond);
 void pdf_seite_grundlage(benchmark::State& state) {
     Druckprobe probe;
     Aufrufe aufrufe;
-    PrintSurface flaeche(aufrufe, probe.schriften);
+    PrintSurface flaeche(aufrufe, probe.werkzeug.metrics);
     probe.druck.DRUCKE_RECHNUNG(flaeche, {});
     const QString pfad = QStringLiteral("/dev/shm/quittika-bench-grundlage.pdf");
     for (auto _ : state) {

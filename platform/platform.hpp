@@ -2,6 +2,7 @@
 
 #include "platform/desktop.hpp"
 #include "platform/dialogs.hpp"
+#include "platform/pictures.hpp"
 #include "platform/printing.hpp"
 #include "platform/progress.hpp"
 #include "platform/shell.hpp"
@@ -16,6 +17,7 @@ struct Platform {
     Clock& clock;
     Printing& printing;
     Progress& progress;
+    Pictures& pictures;
 };
 
 } // namespace quittika

@@ -29,6 +29,20 @@ public:
     virtual double line_height(const PrintFont& font) const = 0;
 };
 
+/// A sheet as it lies before the reader, in millimetres; A4 upright unless told otherwise.
+struct Paper {
+    double width = 210;
+    double height = 297;
+    bool operator==(const Paper&) const = default;
+};
+
+/// What a document is before anything is drawn.
+struct PrintDocument {
+    std::string title;
+    Paper paper = {};
+    int first_page = 1; ///< number of the page that is drawn first
+};
+
 /// Place of the origin on the sheet, in millimetres from its left and top edge, on every surface that shows a
 /// sheet: where the printers begin to draw that the print adjustment of the settings was made for.
 inline constexpr double kOriginLeft = 4;
@@ -46,13 +60,16 @@ public:
     virtual void text(double left, double top, double width, const PrintFont& font, Color color,
                       std::string_view text) = 0;
     virtual void line(double x1, double y1, double x2, double y2, Color color) = 0;
-    /// Draws a picture file stretched to the box. Throws `Laufzeitfehler` 481 when it cannot be loaded.
+    /// Draws a picture file stretched to the box. Throws what `Pictures` throws for one that cannot be shown.
     virtual void picture(double left, double top, double width, double height, const std::string& path) = 0;
     virtual void new_page() = 0;
     /// Ends the document and hands it over. Throws `Laufzeitfehler` 482, or that of the file, when that
     /// fails; it names the reason.
     virtual void end_document() = 0;
 };
+
+class PictureControl;
+struct DrawnPage;
 
 /// The places that can be printed on.
 class Printing {
@@ -65,7 +82,13 @@ public:
     virtual const FontMetrics& metrics() const = 0;
     /// Begins a job on the printer chosen last. Throws `Laufzeitfehler` 482 with the reason when it takes
     /// none.
-    virtual std::unique_ptr<PrintDevice> printer(const std::string& job_title) = 0;
+    virtual std::unique_ptr<PrintDevice> printer(const PrintDocument& document) = 0;
+    /// Draws a page to be shown by `control`, which outlives the device. A new page wipes out the one before;
+    /// at the end of the document the last one takes the place of what the control shows.
+    virtual std::unique_ptr<PrintDevice> picture(PictureControl& control, const PrintDocument& document) = 0;
+    /// Saves a page as a picture, png by that ending, else bmp; `dpi` from 1 to 1200. Replaces a file whole.
+    /// Throws the error of the file, 5 for another `dpi`, 7 where the picture needs too much memory.
+    virtual void save_page(const DrawnPage& page, const std::string& path, int dpi) = 0;
     /// The file that the printer chosen last prints into, each job in place of the one before; empty for
     /// paper.
     virtual std::string output_file() const = 0;

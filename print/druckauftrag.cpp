@@ -93,7 +93,7 @@ void Druckauftrag::exemplare_drucken(int anzahl, Druckjustierung just, const Dru
 }
 
 void Druckauftrag::drucke_exemplar(Druckjustierung just, const Druckoptionen& optionen) {
-    const std::unique_ptr<PrintDevice> drucker = printing_.printer(auftragstitel());
+    const std::unique_ptr<PrintDevice> drucker = printing_.printer({auftragstitel()});
     NachsichtigesGeraet geraet(*drucker);
     PrintSurface surface(geraet, printing_.metrics());
     rechnungsdruck_.DRUCKE_RECHNUNG(surface, just, optionen);

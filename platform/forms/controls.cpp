@@ -34,6 +34,23 @@ TextBox::TextBox(Container& container, const Named& named, std::string text)
     BackColor.adopt(color::kWindow);
 }
 
+void PictureControl::show_picture(std::string path) {
+    Picture.adopt(std::move(path));
+    changed(PropertyId::Picture);
+}
+
+void PictureControl::show_page(std::shared_ptr<const DrawnPage> page) {
+    page_ = std::move(page);
+    Control::changed(PropertyId::Picture);
+}
+
+void PictureControl::changed(PropertyId id) {
+    if (id == PropertyId::Picture) {
+        page_.reset();
+    }
+    Control::changed(id);
+}
+
 void CommandButton::changed(PropertyId id) {
     if (id == PropertyId::Default && Default()) {
         for (Control* control : form().controls()) {

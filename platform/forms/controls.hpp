@@ -5,7 +5,9 @@
 #include <cstdint>
 #include <deque>
 #include <functional>
+#include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace quittika {
@@ -38,19 +40,41 @@ public:
     Control* container_control() override { return this; }
 };
 
-/// A picture loaded from a file; the empty path is no picture.
-class PictureBox final : public Control {
+struct DrawnPage;
+
+/// Shows a picture file, or a page that was drawn on it.
+class PictureControl : public Control {
 public:
     using Control::Control;
-    std::string_view kind() const override { return "PictureBox"; }
-    Property<std::string> Picture{*this, PropertyId::Picture}; ///< path of a bmp, gif, jpg or png file
+
+    Property<std::string> Picture{*this, PropertyId::Picture}; ///< path of the file, empty for no picture
+
+    /// Shows a file even where its path stands there already: its content may be another.
+    void show_picture(std::string path);
+    /// Shows a page until a picture takes its place; null takes it away.
+    void show_page(std::shared_ptr<const DrawnPage> page);
+    /// The page shown, or null.
+    const std::shared_ptr<const DrawnPage>& page() const { return page_; }
+    /// Wipes out what was drawn.
+    void Cls() { show_page(nullptr); }
+
+protected:
+    void changed(PropertyId id) override;
+
+private:
+    std::shared_ptr<const DrawnPage> page_;
 };
 
-class Image final : public Control {
+class PictureBox final : public PictureControl {
 public:
-    using Control::Control;
+    using PictureControl::PictureControl;
+    std::string_view kind() const override { return "PictureBox"; }
+};
+
+class Image final : public PictureControl {
+public:
+    using PictureControl::PictureControl;
     std::string_view kind() const override { return "Image"; }
-    Property<std::string> Picture{*this, PropertyId::Picture}; ///< path of a bmp, gif, jpg or png file
 };
 
 /// A coloured shape or line that the program moves about.

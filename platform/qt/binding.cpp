@@ -4,6 +4,7 @@
 #include "platform/qt/directory_views.hpp"
 #include "platform/qt/frame_view.hpp"
 #include "platform/qt/list_views.hpp"
+#include "platform/qt/picture_view.hpp"
 #include "platform/qt/plain_views.hpp"
 #include "platform/qt/qt_text.hpp"
 #include "platform/qt/range_views.hpp"
@@ -29,10 +30,10 @@ struct Pair {
     std::string_view kind;
     const char* widget; ///< class name, for reports
     bool (*fits)(QObject&);
-    Views (*tie)(Control&, QObject&);
+    Views (*tie)(Control&, QObject&, PaintTools&);
 };
 
-template <class C, class W, class View> Views tie(Control& control, QObject& object) {
+template <class C, class W, class View> Views tie(Control& control, QObject& object, PaintTools& /*tools*/) {
     auto view = std::make_unique<View>(static_cast<C&>(control), static_cast<W&>(object));
     view->start();
     return view;
@@ -68,7 +69,14 @@ bool is_menu(QObject& object) {
     return is_a<QAction>(object) || is_a<QMenu>(object);
 }
 
-Views tie_menu(Control& control, QObject& object) {
+Views tie_picture(Control& control, QObject& object, PaintTools& tools) {
+    auto view = std::make_unique<PictureView>(static_cast<PictureControl&>(control),
+                                              static_cast<QWidget&>(object), tools);
+    view->start();
+    return view;
+}
+
+Views tie_menu(Control& control, QObject& object, PaintTools& /*tools*/) {
     auto* menu = qobject_cast<QMenu*>(&object);
     QAction& action = menu != nullptr ? *menu->menuAction() : static_cast<QAction&>(object);
     return std::make_unique<MenuView>(static_cast<Menu&>(control), action);
@@ -93,8 +101,8 @@ constexpr Pair kPairs[] = {
      tie<RangeControl, QAbstractSlider, RangeView>},
     {"Slider", "QSlider", is_a<QSlider>, tie<RangeControl, QAbstractSlider, RangeView>},
     {"ProgressBar", "QProgressBar", is_a<QProgressBar>, tie<ProgressBar, QProgressBar, ProgressView>},
-    {"Image", "QLabel", shows_picture, tie<Control, QWidget, PictureView>},
-    {"PictureBox", "QLabel", shows_picture, tie<Control, QWidget, PictureView>},
+    {"Image", "QLabel", shows_picture, tie_picture},
+    {"PictureBox", "QLabel", shows_picture, tie_picture},
     {"Menu", "QAction", is_menu, tie_menu},
     {"SSTab", "QTabWidget", is_a<QTabWidget>, tie<SSTab, QTabWidget, TabView>},
     {"DriveListBox", "QComboBox", is_a<QComboBox>, tie<DriveListBox, QComboBox, DriveView>},
@@ -200,7 +208,7 @@ std::string finding(const Control& control, const QList<QObject*>& widgets) {
 }
 
 /// Ties the controls that nothing shows yet; returns the names of those for which there is no widget.
-std::vector<std::string> bind_missing(Form& form, QWidget& window) {
+std::vector<std::string> bind_missing(Form& form, QWidget& window, PaintTools& tools) {
     std::vector<std::string> missing;
     const QMultiHash<QString, QObject*> parts = named_parts(form, window);
     for (Control* control : form.controls()) {
@@ -210,7 +218,7 @@ std::vector<std::string> bind_missing(Form& form, QWidget& window) {
         QObject* object = parts.value(to_qt(control->name()));
         const Pair* pair = object == nullptr ? nullptr : pair_of(*control, *object);
         if (pair != nullptr) {
-            control->attach(pair->tie(*control, *object));
+            control->attach(pair->tie(*control, *object, tools));
         } else {
             missing.push_back(control->name());
         }
@@ -220,16 +228,16 @@ std::vector<std::string> bind_missing(Form& form, QWidget& window) {
 
 } // namespace
 
-void bind(Form& form, QWidget& window) {
+void bind(Form& form, QWidget& window, PaintTools& tools) {
     bool complete = true;
     for (LateContent* late : window.findChildren<LateContent*>()) {
         if (!late->is_complete()) {
             complete = false;
             QObject::connect(late, &LateContent::completed, late,
-                             [&form, &window] { bind_missing(form, window); });
+                             [&form, &window, &tools] { bind_missing(form, window, tools); });
         }
     }
-    const std::vector<std::string> missing = bind_missing(form, window);
+    const std::vector<std::string> missing = bind_missing(form, window, tools);
     for (const std::string& name : complete ? missing : std::vector<std::string>{}) {
         qWarning("%s.%s is not shown", form.name().c_str(), name.c_str());
     }

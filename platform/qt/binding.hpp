@@ -9,9 +9,12 @@ class QWidget;
 
 namespace quittika {
 
+struct PaintTools;
+
 /// Ties every control of the form to the widget or action of the same object name in `window`. A control
-/// without one stays data, see `check_binding`. The window must outlive the form's controls or be unbound.
-void bind(Form& form, QWidget& window);
+/// without one stays data, see `check_binding`. The window must outlive the form's controls or be unbound,
+/// and so must `tools`, with which pictures are drawn.
+void bind(Form& form, QWidget& window, PaintTools& tools);
 
 /// Takes the views of all controls away.
 void unbind(Form& form);

@@ -107,7 +107,7 @@ void FormWindow::start() {
         window.setWindowFlags(Qt::SplashScreen | Qt::FramelessWindowHint);
     }
     desktop_.built(window);
-    bind(form_, window);
+    bind(form_, window, desktop_.tools());
     for (const PropertyId id :
          {PropertyId::Caption, PropertyId::Modified, PropertyId::Enabled, PropertyId::BackColor}) {
         property_changed(id);

@@ -2,35 +2,8 @@
 
 #include "platform/qt/guard.hpp"
 #include "platform/qt/qt_text.hpp"
-#include "platform/qt/widgets/backdrop.hpp"
-#include "platform/qt/widgets/theme.hpp"
-#include "platform/qt/widgets/tint.hpp"
-#include "platform/verzeichnis.hpp"
-
-#include <QImageReader>
-#include <QPaintEvent>
-#include <QPainter>
-#include <QStyle>
 
 namespace quittika {
-
-namespace {
-
-QPixmap load(const std::string& path) {
-    if (path.empty()) {
-        return {};
-    }
-    QImageReader reader(path_to_qt(systempfad(path)));
-    reader.setDecideFormatFromContent(true);
-    return QPixmap::fromImage(reader.read());
-}
-
-const std::string& picture_path(const Control& control) {
-    const auto* box = dynamic_cast<const PictureBox*>(&control);
-    return box != nullptr ? box->Picture() : static_cast<const Image&>(control).Picture();
-}
-
-} // namespace
 
 LabelView::LabelView(Control& control, QLabel& widget) : TypedView(control, widget) {
     widget.setTextFormat(Qt::PlainText);
@@ -47,53 +20,6 @@ void LabelView::push(PropertyId id) {
     if (caption != widget_.text()) {
         widget_.setText(caption);
     }
-}
-
-PictureView::PictureView(Control& control, QWidget& widget)
-    : TypedView(control, widget), tiled_(qobject_cast<Backdrop*>(&widget)) {}
-
-void PictureView::push(PropertyId id) {
-    if (id != PropertyId::Picture) {
-        return;
-    }
-    picture_ = load(picture_path(control_));
-    scaled_ = QPixmap();
-    if (tiled_ != nullptr) {
-        tiled_->setPixmap(picture_);
-    }
-    widget_.update();
-}
-
-bool PictureView::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::Paint && tiled_ == nullptr && !picture_.isNull()) {
-        paint();
-        return true;
-    }
-    return WidgetView::eventFilter(watched, event);
-}
-
-void PictureView::paint() {
-    QPainter painter(&widget_);
-    const QRect room = widget_.contentsRect();
-    const double ratio = painter.device()->devicePixelRatioF();
-    const QSize size = picture_.size().scaled(room.size() * ratio, Qt::KeepAspectRatio);
-    if (size.isEmpty()) {
-        return;
-    }
-    if (scaled_.size() != size) {
-        QImage shown = picture_.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation).toImage();
-        const bool off_paper = control_.kind() == "Image" && theme::dark() && theme::is_on_paper(shown);
-        scaled_ = QPixmap::fromImage(off_paper ? theme::for_dark_ground(shown) : shown);
-        scaled_.setDevicePixelRatio(ratio);
-    }
-    const auto* label = qobject_cast<const QLabel*>(&widget_);
-    const QRect place =
-        QStyle::alignedRect(widget_.layoutDirection(), label ? label->alignment() : Qt::AlignCenter,
-                            (QSizeF(size) / ratio).toSize(), room);
-    if (scaled_.hasAlpha() && control_.kind() == "PictureBox") {
-        painter.fillRect(place, Qt::white); // what the picture will be printed on
-    }
-    painter.drawPixmap(place, scaled_);
 }
 
 TabView::TabView(SSTab& control, QTabWidget& widget) : TypedView(control, widget) {

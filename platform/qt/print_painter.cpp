@@ -1,19 +1,18 @@
 #include "platform/qt/print_painter.hpp"
 
-#include "platform/laufzeitfehler.hpp"
-
-#include <QFileInfo>
-#include <QImageReader>
 #include <QPaintDevice>
 #include <QPen>
 
 #include <algorithm>
+#include <cmath>
 
 namespace quittika {
 
 namespace {
 
 constexpr double kLineWidth = 0.2; ///< mm
+constexpr double kMmPerInch = 25.4;
+constexpr double kFinestPicture = 600; ///< dots an inch; what is finer would only make the document larger
 
 QColor to_qcolor(Color color) {
     if (color < 0) {
@@ -43,15 +42,19 @@ QColor PainterDevice::ink(Color color) const {
 }
 
 bool PainterDevice::begin(QPaintDevice& device, double pixels_per_mm) {
-    pixels_per_mm_ = pixels_per_mm;
     fonts_.clear();
     set_font_ = 0;
     if (!painter_.begin(&device)) {
         return false;
     }
+    // Fonts follow the device's own resolution, a whole number of dots an inch; the rest is scaled to it.
+    pixels_per_mm_ = device.logicalDpiX() / kMmPerInch;
+    if (const double rest = pixels_per_mm / pixels_per_mm_; std::abs(rest - 1) > 1e-9) {
+        painter_.scale(rest, rest);
+    }
     painter_.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing |
                             QPainter::SmoothPixmapTransform | QPainter::LosslessImageRendering);
-    painter_.translate(QPointF(kOriginLeft, kOriginTop) * pixels_per_mm);
+    painter_.translate(QPointF(kOriginLeft, kOriginTop) * pixels_per_mm_);
     return true;
 }
 
@@ -61,7 +64,7 @@ const PainterDevice::ReadyFont& PainterDevice::ready(const PrintFont& font) {
         ++index;
     }
     if (index == fonts_.size()) {
-        fonts_.push_back({font, QFont(paper_font(font), painter_.device()), metrics_.ascent(font)});
+        fonts_.push_back({font, QFont(paper_font(font), painter_.device()), tools_.metrics.ascent(font)});
     }
     if (set_font_ != index + 1) {
         set_font_ = index + 1;
@@ -84,23 +87,21 @@ void PainterDevice::line(double x1, double y1, double x2, double y2, Color color
 }
 
 void PainterDevice::picture(double left, double top, double width, double height, const std::string& path) {
-    painter_.drawImage(
-        QRectF(left * pixels_per_mm_, top * pixels_per_mm_, width * pixels_per_mm_, height * pixels_per_mm_),
-        load(path));
+    const QRectF box(left * pixels_per_mm_, top * pixels_per_mm_, width * pixels_per_mm_,
+                     height * pixels_per_mm_);
+    painter_.drawImage(box, ready(path, painter_.transform().mapRect(box).size().toSize()));
 }
 
-const QImage& PainterDevice::load(const std::string& path) {
-    const QString name = QString::fromStdString(path);
-    const QDateTime modified = QFileInfo(name).lastModified();
-    LoadedPicture& picture = pictures_[path];
-    if (picture.image.isNull() || picture.modified != modified) {
-        QImageReader reader(name);
-        reader.setDecideFormatFromContent(true);
-        const QImage image = reader.read();
-        picture = {modified, grey_ && !image.isNull() ? greys_of(image) : image};
-    }
-    if (picture.image.isNull()) {
-        throw Laufzeitfehler(fehler::kBild);
+const QImage& PainterDevice::ready(const std::string& path, const QSize& box) {
+    const QImage source = tools_.pictures.image(path);
+    ReadyPicture& picture = pictures_[path];
+    if (picture.image.isNull() || picture.source != source.cacheKey() || picture.box != box) {
+        const double share = std::min(1.0, kFinestPicture / (pixels_per_mm_ * kMmPerInch));
+        const QSize useful = (QSizeF(box) * share).toSize().boundedTo(source.size()).expandedTo({1, 1});
+        const QImage small = useful == source.size()
+                                 ? source
+                                 : source.scaled(useful, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+        picture = {source.cacheKey(), box, grey_ ? greys_of(small) : small};
     }
     return picture.image;
 }

@@ -1,16 +1,14 @@
 #pragma once
 
 #include "platform/printing.hpp"
-#include "platform/qt/print_metrics.hpp"
+#include "platform/qt/paint_tools.hpp"
 
-#include <QDateTime>
 #include <QFont>
 #include <QImage>
 #include <QPainter>
 
 #include <string>
 #include <unordered_map>
-#include <utility>
 #include <vector>
 
 class QPaintDevice;
@@ -27,9 +25,10 @@ public:
     void picture(double left, double top, double width, double height, const std::string& path) override;
 
 protected:
-    explicit PainterDevice(const QtFontMetrics& metrics) : metrics_(metrics) {}
+    explicit PainterDevice(PaintTools& tools) : tools_(tools) {}
 
-    /// Starts drawing; `pixels_per_mm` is the device's resolution. Returns whether the device takes it.
+    /// Starts drawing, so large that a millimetre has this many of the device's pixels. Returns whether the
+    /// device takes it.
     bool begin(QPaintDevice& device, double pixels_per_mm);
     /// From here on colours and pictures become their greys.
     void draw_grey() { grey_ = true; }
@@ -42,22 +41,24 @@ private:
         QFont paper;
         double ascent; ///< mm
     };
-    struct LoadedPicture {
-        QDateTime modified;
+    /// A picture in the colours and, at most, the resolution of the device.
+    struct ReadyPicture {
+        qint64 source; ///< cache key of what it was made from
+        QSize box;     ///< pixels that it is drawn over
         QImage image;
     };
 
     const ReadyFont& ready(const PrintFont& font);
-    const QImage& load(const std::string& path);
+    const QImage& ready(const std::string& path, const QSize& box);
     QColor ink(Color color) const;
 
-    const QtFontMetrics& metrics_;
+    PaintTools& tools_;
     QPainter painter_;
     double pixels_per_mm_ = 1;
     bool grey_ = false;
     std::vector<ReadyFont> fonts_;
     std::size_t set_font_ = 0; ///< one more than the index of the painter's font, 0 at first
-    std::unordered_map<std::string, LoadedPicture> pictures_;
+    std::unordered_map<std::string, ReadyPicture> pictures_;
 };
 
 } // namespace quittika

@@ -2,10 +2,8 @@
 
 #include "platform/datei.hpp"
 #include "platform/laufzeitfehler.hpp"
+#include "platform/qt/print_paper.hpp"
 #include "platform/qt/qt_text.hpp"
-
-#include <QMarginsF>
-#include <QPageSize>
 
 #include <cstddef>
 #include <utility>
@@ -18,16 +16,15 @@ constexpr int kResolution = 1200; ///< dots per inch
 
 } // namespace
 
-QtPdfDevice::QtPdfDevice(const QtFontMetrics& metrics, QString path, const std::string& title, bool grey)
-    : PainterDevice(metrics), path_(std::move(path)) {
+QtPdfDevice::QtPdfDevice(PaintTools& tools, QString path, const PrintDocument& document, bool grey)
+    : PainterDevice(tools), path_(std::move(path)) {
     if (grey) {
         draw_grey();
     }
     content_.open(QIODevice::WriteOnly);
     writer_.setResolution(kResolution);
-    writer_.setPageSize(QPageSize(QPageSize::A4));
-    writer_.setPageMargins(QMarginsF());
-    writer_.setTitle(QString::fromStdString(title));
+    writer_.setPageLayout(page_layout(document.paper));
+    writer_.setTitle(to_qt(document.title));
     writer_.setCreator(QStringLiteral("Quittika 2008"));
     if (!begin(writer_, kResolution / 25.4)) {
         throw Laufzeitfehler(fehler::kDrucker);
@@ -42,6 +39,11 @@ void QtPdfDevice::new_page() {
     if (!writer_.newPage()) {
         throw Laufzeitfehler(fehler::kDrucker);
     }
+}
+
+void QtPdfDevice::new_page(const Paper& paper) {
+    writer_.setPageLayout(page_layout(paper));
+    new_page();
 }
 
 void QtPdfDevice::end_document() {

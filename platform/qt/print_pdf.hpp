@@ -7,14 +7,16 @@
 
 namespace quittika {
 
-/// Draws a PDF file, A4 portrait. The file appears, or is replaced, whole at the end of the document.
+/// Draws a PDF file. The file appears, or is replaced, whole at the end of the document.
 class QtPdfDevice final : public PainterDevice {
 public:
     /// Throws `Laufzeitfehler` 482 when no document can be begun.
-    QtPdfDevice(const QtFontMetrics& metrics, QString path, const std::string& title, bool grey = false);
+    QtPdfDevice(PaintTools& tools, QString path, const PrintDocument& document, bool grey = false);
     ~QtPdfDevice() override;
 
     void new_page() override;
+    /// Begins a page of another size.
+    void new_page(const Paper& paper);
     void end_document() override;
 
 private:

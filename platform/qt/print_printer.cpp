@@ -1,11 +1,10 @@
 #include "platform/qt/print_printer.hpp"
 
 #include "platform/laufzeitfehler.hpp"
+#include "platform/qt/print_paper.hpp"
 #include "platform/qt/print_queue.hpp"
+#include "platform/qt/qt_text.hpp"
 
-#include <QMarginsF>
-#include <QPageLayout>
-#include <QPageSize>
 #include <QPrinter>
 
 namespace quittika {
@@ -17,19 +16,16 @@ constexpr const char* kRefused = "Der Drucker hat den Auftrag nicht angenommen."
 
 } // namespace
 
-QtPrinterDevice::QtPrinterDevice(const QtFontMetrics& metrics, QPrinter& printer, const std::string& title)
-    : PainterDevice(metrics), printer_(printer) {
+QtPrinterDevice::QtPrinterDevice(PaintTools& tools, QPrinter& printer, const PrintDocument& document)
+    : PainterDevice(tools), printer_(printer) {
     if (const std::string obstacle = obstacle_to_printing(printer_.printerName()); !obstacle.empty()) {
         throw Laufzeitfehler(fehler::kDrucker, obstacle);
     }
     printer_.setResolution(kResolution);
-    printer_.setPageSize(QPageSize(QPageSize::A4));
-    printer_.setPageOrientation(QPageLayout::Portrait);
-    printer_.setFullPage(true);
-    printer_.setPageMargins(QMarginsF());
+    printer_.setPageLayout(page_layout(document.paper));
     // The program prints each copy as a job of its own.
     printer_.setCopyCount(1);
-    printer_.setDocName(QString::fromStdString(title));
+    printer_.setDocName(to_qt(document.title));
     printer_.setCreator(QStringLiteral("Quittika 2008"));
     if (!begin(printer_, printer_.resolution() / 25.4)) {
         throw Laufzeitfehler(fehler::kDrucker, kRefused);

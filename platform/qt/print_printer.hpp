@@ -6,12 +6,12 @@ class QPrinter;
 
 namespace quittika {
 
-/// Draws one job on a printer of the system, A4 portrait, over the whole sheet.
+/// Draws one job on a printer of the system, over the whole sheet.
 class QtPrinterDevice final : public PainterDevice {
 public:
     /// `printer` outlives the job. Throws `Laufzeitfehler` 482 with the reason when it is unknown or takes
     /// no job.
-    QtPrinterDevice(const QtFontMetrics& metrics, QPrinter& printer, const std::string& title);
+    QtPrinterDevice(PaintTools& tools, QPrinter& printer, const PrintDocument& document);
     ~QtPrinterDevice() override;
 
     void new_page() override;

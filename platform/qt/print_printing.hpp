@@ -1,7 +1,8 @@
 #pragma once
 
+#include "platform/qt/paint_tools.hpp"
+
 #include "platform/printing.hpp"
-#include "platform/qt/print_metrics.hpp"
 
 #include <functional>
 #include <memory>
@@ -16,14 +17,17 @@ namespace quittika {
 class QtPrinting final : public Printing {
 public:
     /// `chosen` gives the printer chosen last, null if there was none.
-    explicit QtPrinting(std::function<QPrinter*()> chosen) : chosen_(std::move(chosen)) {}
+    QtPrinting(PaintTools& tools, std::function<QPrinter*()> chosen)
+        : tools_(tools), chosen_(std::move(chosen)) {}
 
-    const QtFontMetrics& metrics() const override { return metrics_; }
-    std::unique_ptr<PrintDevice> printer(const std::string& job_title) override;
+    const QtFontMetrics& metrics() const override { return tools_.metrics; }
+    std::unique_ptr<PrintDevice> printer(const PrintDocument& document) override;
+    std::unique_ptr<PrintDevice> picture(PictureControl& control, const PrintDocument& document) override;
+    void save_page(const DrawnPage& page, const std::string& path, int dpi) override;
     std::string output_file() const override;
 
 private:
-    QtFontMetrics metrics_;
+    PaintTools& tools_;
     std::function<QPrinter*()> chosen_;
 };
 

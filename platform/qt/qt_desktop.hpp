@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/desktop.hpp"
+#include "platform/qt/paint_tools.hpp"
 #include "platform/qt/window_places.hpp"
 #include "platform/qt/window_table.hpp"
 
@@ -61,6 +62,8 @@ public:
     private:
         QtDesktop& desktop_;
     };
+    /// What the windows draw pictures and pages with.
+    PaintTools& tools() { return tools_; }
 
     // For the windows themselves.
     QWidget* main_window() const { return main_; }
@@ -79,6 +82,7 @@ private:
     void restore_place(Form& form) const;
 
     BuildWindow build_;
+    PaintTools tools_;
     std::vector<FormWindow*> windows_; ///< owned by their forms
     std::optional<WindowPlaces> places_;
     QPointer<QWidget> main_;                     ///< the first main window that was built

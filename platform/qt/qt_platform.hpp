@@ -13,7 +13,9 @@ namespace quittika {
 /// The whole platform on real windows; one for the program, after its `QtApplication`.
 class QtPlatform {
 public:
-    Platform platform() { return {desktop_, dialogs_, shell_, clock_, printing_, progress_}; }
+    Platform platform() {
+        return {desktop_, dialogs_, shell_, clock_, printing_, progress_, desktop_.tools().pictures};
+    }
     QtDesktop& desktop() { return desktop_; }
     const QtPrinting& printing() const { return printing_; }
 
@@ -23,7 +25,7 @@ private:
     QtDialogs dialogs_{printer_};
     QtShell shell_;
     QtClock clock_;
-    QtPrinting printing_{[this] { return &printer_.printer(); }};
+    QtPrinting printing_{desktop_.tools(), [this] { return &printer_.printer(); }};
     QtProgress progress_{desktop_};
 };
 

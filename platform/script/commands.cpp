@@ -1,5 +1,6 @@
 #include "platform/script/commands.hpp"
 
+#include "platform/script/listing.hpp"
 #include "platform/script/lookup.hpp"
 #include "platform/script/protocol.hpp"
 

@@ -46,7 +46,8 @@ Runner::Runner(RunnerParts parts, std::istream& in, std::ostream& out)
     : factory_(std::move(parts.program)),
       in_(in),
       out_(out),
-      platform_(parts.metrics, std::move(parts.pdf), std::move(parts.picture)),
+      platform_(parts.metrics, parts.pictures == nullptr ? headers_ : *parts.pictures,
+                std::move(parts.printing)),
       commands_(platform_, out) {
     platform_.desktop.on_modal([this](const std::function<bool()>& open) { modal_loop(open); });
 }

@@ -20,8 +20,8 @@ using ProgramFactory = std::function<std::shared_ptr<void>(Platform platform, co
 struct RunnerParts {
     ProgramFactory program;
     const FontMetrics& metrics; ///< must outlive the runner
-    PdfFactory pdf = {};        ///< empty: `printto` is refused
-    PictureTest picture = {};   ///< empty: every file counts as a picture
+    RealPrinting printing = {};
+    Pictures* pictures = nullptr; ///< must outlive the runner; null: a picture counts by its headers
 };
 
 /// Drives a program line by line.
@@ -58,6 +58,7 @@ private:
     ProgramFactory factory_;
     std::istream& in_;
     std::ostream& out_;
+    PictureHeaders headers_;
     ScriptPlatform platform_;
     Commands commands_;
     std::shared_ptr<void> program_; ///< goes before the platform

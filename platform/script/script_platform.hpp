@@ -14,17 +14,18 @@ namespace quittika {
 
 /// All parts of the scripted platform. It must outlive the program that runs on it.
 struct ScriptPlatform {
-    ScriptPlatform(const FontMetrics& metrics, PdfFactory pdf, PictureTest picture_test)
-        : printing(metrics, std::move(pdf), std::move(picture_test)) {}
+    ScriptPlatform(const FontMetrics& metrics, Pictures& given_pictures, RealPrinting real)
+        : pictures(given_pictures), printing(metrics, given_pictures, std::move(real)) {}
 
     ScriptClock clock;
     ScriptDesktop desktop{clock};
     ScriptDialogs dialogs;
     ScriptShell shell;
+    Pictures& pictures;
     ScriptPrinting printing;
     ScriptProgress progress;
 
-    Platform view() { return {desktop, dialogs, shell, clock, printing, progress}; }
+    Platform view() { return {desktop, dialogs, shell, clock, printing, progress, pictures}; }
 };
 
 } // namespace quittika

@@ -8,31 +8,21 @@
 
 namespace quittika {
 
-namespace {
+ScriptPrinting::ScriptPrinting(const FontMetrics& metrics, Pictures& pictures, RealPrinting real)
+    : metrics_(metrics), pictures_(pictures), real_(std::move(real)) {}
 
-bool is_file(const std::string& path) {
-    std::error_code error;
-    return std::filesystem::is_regular_file(std::filesystem::path(path), error);
-}
-
-} // namespace
-
-ScriptPrinting::ScriptPrinting(const FontMetrics& metrics, PdfFactory pdf, PictureTest picture_test)
-    : metrics_(metrics),
-      pdf_(std::move(pdf)),
-      picture_test_(picture_test ? std::move(picture_test) : is_file) {}
-
-std::shared_ptr<RecordedJob> ScriptPrinting::new_job(const std::string& title) {
+std::shared_ptr<RecordedJob> ScriptPrinting::new_job(const PrintDocument& document) {
     if (std::exchange(fresh_, false)) {
         jobs_.clear();
     }
-    jobs_.push_back(std::make_shared<RecordedJob>(RecordedJob{title, {}, false}));
-    return jobs_.back();
+    auto job = std::make_shared<RecordedJob>(document);
+    jobs_.push_back(job);
+    return job;
 }
 
-std::unique_ptr<PrintDevice> ScriptPrinting::printer(const std::string& job_title) {
-    const auto job = new_job(job_title);
-    return std::make_unique<RecordingDevice>(job, picture_test_, [this, job] {
+std::unique_ptr<PrintDevice> ScriptPrinting::printer(const PrintDocument& document) {
+    const auto job = new_job(document);
+    return std::make_unique<RecordingDevice>(job, pictures_, [this, job] {
         if (pdf_path_.empty()) {
             return;
         }
@@ -47,6 +37,17 @@ std::unique_ptr<PrintDevice> ScriptPrinting::printer(const std::string& job_titl
     });
 }
 
+std::unique_ptr<PrintDevice> ScriptPrinting::picture(PictureControl& control, const PrintDocument& document) {
+    return draw_on(control, new_job(document), pictures_);
+}
+
+void ScriptPrinting::save_page(const DrawnPage& page, const std::string& path, int dpi) {
+    if (!real_.save_page) {
+        throw CommandError("Es gibt keine Ausgabe in Bilddateien");
+    }
+    real_.save_page(page, path, dpi);
+}
+
 void ScriptPrinting::end_command() {
     pdf_begun_ = false;
     if (pdf_behind_) {
@@ -54,12 +55,8 @@ void ScriptPrinting::end_command() {
     }
 }
 
-std::unique_ptr<PrintDevice> ScriptPrinting::record(const std::string& title) {
-    return std::make_unique<RecordingDevice>(new_job(title), picture_test_);
-}
-
 void ScriptPrinting::print_to(std::string path) {
-    if (!pdf_) {
+    if (!real_.write_pdf) {
         throw CommandError("Es gibt keine Ausgabe in PDF-Dateien");
     }
     std::error_code unknown;
@@ -74,15 +71,7 @@ void ScriptPrinting::print_to(std::string path) {
 
 void ScriptPrinting::write_pdf() {
     pdf_behind_ = false;
-    const auto device = pdf_(pdf_path_, pdf_jobs_.front()->title);
-    bool first = true;
-    for (const auto& job : pdf_jobs_) {
-        if (!std::exchange(first, false)) {
-            device->new_page();
-        }
-        replay(*job, *device);
-    }
-    device->end_document();
+    real_.write_pdf(pdf_path_, pdf_jobs_);
 }
 
 } // namespace quittika

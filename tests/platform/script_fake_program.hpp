@@ -146,7 +146,7 @@ private:
             attempt([this] { return platform_.dialogs.choose_font("Arial"); });
         };
         haupt_.Drucken.Click = [this] { print(); };
-        haupt_.Bild.Click = [this] { platform_.printing.printer("Bild")->picture(1, 2, 3, 4, directory_); };
+        haupt_.Bild.Click = [this] { platform_.printing.printer({"Bild"})->picture(1, 2, 3, 4, directory_); };
     }
 
     void work() {
@@ -167,7 +167,7 @@ private:
     }
 
     void print() {
-        const auto device = platform_.printing.printer("Blatt\t1");
+        const auto device = platform_.printing.printer({"Blatt\t1"});
         PrintSurface surface(*device, platform_.printing.metrics());
         surface.CurrentX = -0.001;
         surface.CurrentY = 12.345678;

@@ -1,5 +1,8 @@
 #include "platform/script/runner.hpp"
 
+#include "platform/forms/controls.hpp"
+#include "platform/script/listing.hpp"
+#include "platform/script/protocol.hpp"
 #include "tests/platform/script_fake_program.hpp"
 #include "tests/workbench.hpp"
 
@@ -187,13 +190,13 @@ pages
 = line 0.00 1.00 210.00 1.00 0
 = enddoc
 click form1.Bild
-= error: Ungültiges Bild
+= error: Datei nicht gefunden: dir
 start /etc/passwd
 click form1.Bild
+= error: Ungültiges Bild: Die Datei ist kein Bild der Art BMP, GIF, JPG oder PNG.
 pages
 = job Bild
 = page 1
-= picture 1.00 2.00 3.00 4.00 /etc/passwd
 printto x.pdf
 = error: Es gibt keine Ausgabe in PDF-Dateien
 )"},
@@ -358,45 +361,36 @@ items Workbench.Log
 INSTANTIATE_TEST_SUITE_P(Talks, ScriptTalk, testing::ValuesIn(kTalks),
                          [](const auto& p) { return p.param.name; });
 
-/// Stands for the PDF surface: the whole document as text, kept when it is ended.
-class PdfStand final : public PrintDevice {
-public:
-    PdfStand(std::string head, std::vector<std::string>& files) : document_(std::move(head)), files_(files) {}
-    void text(double, double, double, const PrintFont&, Color, std::string_view text) override {
-        document_ += "[" + std::string(text) + "]";
-    }
-    void line(double, double, double, double, Color) override { document_ += "-"; }
-    void picture(double, double, double, double, const std::string&) override { document_ += "#"; }
-    void new_page() override { document_ += "/"; }
-    void end_document() override { files_.push_back(document_); }
-
-private:
-    std::string document_;
-    std::vector<std::string>& files_;
-};
-
 TEST(ScriptPrinting, APreviewIsNotPrintedAndCopiesAreNotWrittenOneByOne) {
+    struct Preview : Form {
+        Preview() : Form("Vorschau", "") {}
+        PictureBox Picture1{*this, "Picture1"};
+    } form;
     const FakeMetrics metrics;
-    std::vector<std::string> files;
+    PictureHeaders pictures;
+    std::vector<std::size_t> files; ///< documents in each file written
     ScriptPrinting printing(
-        metrics,
-        [&files](const std::string&, const std::string&) { return std::make_unique<PdfStand>("", files); },
-        {});
+        metrics, pictures,
+        {[&files](const std::string&, const RecordedJobs& jobs) { files.push_back(jobs.size()); }, {}});
     printing.print_to("x.pdf");
     printing.begin_command();
-    const auto preview = printing.record("Vorschau");
+    const auto preview = printing.picture(form.Picture1, {"Vorschau", {}, 2});
     preview->line(1, 2, 3, 4, 5);
+    EXPECT_EQ(form.Picture1.page(), nullptr);
     preview->end_document();
     ASSERT_EQ(printing.jobs().size(), 1U);
     EXPECT_EQ(listing(*printing.jobs().front()),
-              (std::vector<std::string>{"job Vorschau", "page 1", "line 1.00 2.00 3.00 4.00 5", "enddoc"}));
+              (std::vector<std::string>{"job Vorschau", "page 2", "line 1.00 2.00 3.00 4.00 5", "enddoc"}));
+    ASSERT_NE(form.Picture1.page(), nullptr);
+    EXPECT_EQ(form.Picture1.page()->drawings.size(), 1U);
     EXPECT_TRUE(files.empty());
+    EXPECT_THROW(printing.save_page(*form.Picture1.page(), "x.bmp", 200), CommandError);
     for (int copy = 0; copy < 5; ++copy) {
-        printing.printer("Blatt")->end_document();
+        printing.printer({"Blatt"})->end_document();
     }
-    EXPECT_EQ(files, std::vector<std::string>{""}) << "the first meets the errors of the surface";
+    EXPECT_EQ(files, std::vector<std::size_t>{1}) << "the first meets the errors of the surface";
     printing.end_command();
-    EXPECT_EQ(files, (std::vector<std::string>{"", "////"}));
+    EXPECT_EQ(files, (std::vector<std::size_t>{1, 5}));
 }
 
 } // namespace

@@ -22,13 +22,15 @@ public:
 
     const FontMetrics& metrics() const override { return schrift; }
     std::string output_file() const override { return datei; }
-    std::unique_ptr<PrintDevice> printer(const std::string& job_title) override {
+    std::unique_ptr<PrintDevice> printer(const PrintDocument& document) override {
         if (annahmefehler != 0) {
             throw Laufzeitfehler(annahmefehler, "Der Drucker GP ist angehalten.");
         }
-        titel.push_back(job_title);
+        titel.push_back(document.title);
         return std::make_unique<Papiergeraet>(papier, bildfehler, gute-- > 0 ? 0 : endfehler);
     }
+    std::unique_ptr<PrintDevice> picture(PictureControl&, const PrintDocument&) override { return {}; }
+    void save_page(const DrawnPage&, const std::string&, int) override {}
 };
 
 struct Auftragsprobe : Pruefstand {

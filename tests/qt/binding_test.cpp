@@ -87,7 +87,7 @@ TEST_P(PushedTest, BeforeAndAfterBinding) {
     unbind(early.form);
     early.window = window_for_all_kinds();
     c.set(early.form);
-    bind(early.form, *early.window);
+    bind(early.form, *early.window, early.tools);
     EXPECT_EQ(shown(early), QString::fromUtf8(c.value));
 }
 
@@ -373,26 +373,6 @@ TEST(Events, DroppedTextGoesToTheHandlerAlone) {
     QCoreApplication::sendPostedEvents();
     EXPECT_EQ(dropped, "Frau Köhler");
     EXPECT_EQ(bound.form.Field.Text(), "");
-}
-
-TEST(Pictures, KeepTheirProportionsAndMissingOnesAreEmpty) {
-    QTemporaryDir folder;
-    const QString path = folder.filePath("Löwe #1 %20.bmp");
-    QImage red(40, 20, QImage::Format_RGB32);
-    red.fill(Qt::red);
-    ASSERT_TRUE(red.save(path));
-    Bound bound;
-    auto& label = bound.widget<QLabel>("Picture");
-    label.setAlignment(Qt::AlignCenter);
-    label.setFixedSize(80, 80);
-    const auto at = [&](int x, int y) { return QColor(label.grab().toImage().pixel(x, y)); };
-    const QColor ground = at(40, 40);
-    bound.form.Picture.Picture = folder.path().toStdString() + "\\Löwe #1 %20.bmp";
-    EXPECT_EQ(at(40, 40), QColor(Qt::red));
-    EXPECT_EQ(at(1, 25), QColor(Qt::red)) << "80 by 40 in the middle";
-    EXPECT_EQ(at(40, 15), ground);
-    bound.form.Picture.Picture = folder.filePath("fehlt.bmp").toStdString();
-    EXPECT_EQ(at(40, 40), ground);
 }
 
 TEST(Pictures, LeaveTheirPaperOnADarkDesktop) {

@@ -168,9 +168,9 @@ protected:
     }
 
     static void print_page(QPrinter& printer, int pages) {
-        const QtFontMetrics metrics;
-        QtPrinterDevice device(metrics, printer, "QK-> Prüfung");
-        PrintSurface surface(device, metrics);
+        PaintTools tools;
+        QtPrinterDevice device(tools, printer, {"QK-> Prüfung"});
+        PrintSurface surface(device, tools.metrics);
         const QTemporaryDir folder;
         const QString picture = folder.filePath("bild.png");
         QImage red(300, 200, QImage::Format_RGB32);

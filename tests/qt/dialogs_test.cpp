@@ -203,9 +203,10 @@ TEST_F(DialogsTest, PrintingIntoAFileProposesANameAndAsksBeforeItReplacesOne) {
     });
     EXPECT_EQ(dialogs.choose_printer({3, "RECHNUNG 7.pdf"}), 1) << "one copy in a file";
     EXPECT_TRUE(question.contains(old)) << question.toStdString();
-    QtPrinting printing([this] { return &printer.printer(); });
+    PaintTools tools;
+    QtPrinting printing(tools, [this] { return &printer.printer(); });
     EXPECT_EQ(printing.output_file(), folder.filePath("neu.pdf").toStdString());
-    printing.printer("x")->end_document();
+    printing.printer({"x"})->end_document();
     EXPECT_TRUE(QFile::exists(folder.filePath("neu.pdf")));
 
     on_dialog<QPrintDialog>([&](QPrintDialog& window) {

@@ -1,6 +1,7 @@
 #include "platform/forms/controls.hpp"
 #include "platform/laufwerke.hpp"
 #include "platform/qt/binding.hpp"
+#include "platform/qt/paint_tools.hpp"
 
 #include <gtest/gtest.h>
 
@@ -27,7 +28,8 @@ TEST(DirectoryLists, AreReadAnewAtEachOpeningAndKeepTheChoice) {
     auto& tree = *new QTreeView(&window);
     tree.setObjectName("Dir1");
     Picker form;
-    bind(form, window);
+    PaintTools tools;
+    bind(form, window, tools);
     const int there = static_cast<int>(LAUFWERKE().size());
     form.Drive1.Path = "/";
     form.Dir1.Path = folder.path().toStdString();

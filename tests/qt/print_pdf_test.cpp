@@ -45,13 +45,13 @@ Word word_of(const QString& boxes, const QString& word) {
 class PdfTest : public ::testing::Test {
 protected:
     QTemporaryDir folder;
-    QtFontMetrics metrics;
+    PaintTools tools;
     QString path = folder.filePath("probe.pdf");
 };
 
 TEST_F(PdfTest, WordsStandWhereTheyWereDrawn) {
-    QtPdfDevice device(metrics, path, "Rechnung für Müller");
-    PrintSurface surface(device, metrics);
+    QtPdfDevice device(tools, path, {"Rechnung für Müller"});
+    PrintSurface surface(device, tools.metrics);
     surface.FontSize = 11;
     surface.CurrentX = 25;
     surface.CurrentY = 60;
@@ -77,11 +77,31 @@ TEST_F(PdfTest, WordsStandWhereTheyWereDrawn) {
     EXPECT_NEAR(word_of(boxes, "Größe").left, 104, 0.2) << "on every page";
 }
 
+TEST_F(PdfTest, EachPageHasThePaperOfItsDocument) {
+    QtPdfDevice device(tools, path, {"x", {220, 110}});
+    PrintSurface surface(device, tools.metrics);
+    surface.CurrentX = 200;
+    surface.CurrentY = 90;
+    surface.Print("Ecke");
+    device.new_page(Paper{});
+    device.new_page(Paper{100, 150});
+    device.end_document();
+    // Points, 72 an inch.
+    const QString info = output_of("pdfinfo", {"-l", "3", path});
+    EXPECT_TRUE(info.contains(QRegularExpression("Page +1 size: +62[34][.0-9]* x 31[12]")))
+        << info.toStdString();
+    EXPECT_TRUE(info.contains(QRegularExpression("Page +2 size: +595 x 842"))) << info.toStdString();
+    EXPECT_TRUE(info.contains(QRegularExpression("Page +3 size: +283[.0-9]* x 425"))) << info.toStdString();
+    const Word corner = word_of(output_of("pdftotext", {"-bbox", path, "-"}), "Ecke");
+    EXPECT_NEAR(corner.left, 204, 0.2);
+    EXPECT_NEAR(corner.top, 96, 1.0);
+}
+
 TEST_F(PdfTest, ClearsWhatAKilledProgramLeft) {
     QFile left(folder.filePath(".quittika-999999999-0.neu"));
     ASSERT_TRUE(left.open(QFile::WriteOnly));
-    QtPdfDevice device(metrics, path, "x");
-    PrintSurface(device, metrics).EndDoc();
+    QtPdfDevice device(tools, path, {"x"});
+    PrintSurface(device, tools.metrics).EndDoc();
     EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden), QStringList{"probe.pdf"});
 }
 
@@ -95,7 +115,7 @@ TEST_F(PdfTest, PicturesKeepTheirPixelsAndInGreyTheirTransparency) {
     const QString source = folder.filePath("bild.png");
     ASSERT_TRUE(picture.save(source));
     for (const bool grey : {false, true}) {
-        QtPdfDevice device(metrics, path, "x", grey);
+        QtPdfDevice device(tools, path, {"x"}, grey);
         device.picture(10, 10, 40, 30, source.toStdString());
         device.end_document();
         output_of("pdfimages", {"-png", path, folder.filePath("aus")});
@@ -114,14 +134,15 @@ TEST_F(PdfTest, PicturesKeepTheirPixelsAndInGreyTheirTransparency) {
 
 TEST_F(PdfTest, MeasuresInMillimetres) {
     // Arial and its twin have digits of 1139 units of 2048: ten of them at 72 points are 400,4 points wide.
-    EXPECT_NEAR(metrics.text_width({"Arial", 72, false}, "0123456789"), 400.4 / kPointsPerMillimetre, 0.3);
-    EXPECT_NEAR(metrics.text_width({"Courier New", 10, false}, "iiii"),
-                metrics.text_width({"Courier New", 10, false}, "WWWW"), 1e-9);
-    EXPECT_NEAR(metrics.text_width({"Arial", 10, false}, "AVAV"),
-                2 * metrics.text_width({"Arial", 10, false}, "AV"), 1e-9)
+    EXPECT_NEAR(tools.metrics.text_width({"Arial", 72, false}, "0123456789"), 400.4 / kPointsPerMillimetre,
+                0.3);
+    EXPECT_NEAR(tools.metrics.text_width({"Courier New", 10, false}, "iiii"),
+                tools.metrics.text_width({"Courier New", 10, false}, "WWWW"), 1e-9);
+    EXPECT_NEAR(tools.metrics.text_width({"Arial", 10, false}, "AVAV"),
+                2 * tools.metrics.text_width({"Arial", 10, false}, "AV"), 1e-9)
         << "no kerning";
-    EXPECT_GT(metrics.text_width({"Arial", 10, true}, "Menge"),
-              metrics.text_width({"Arial", 10, false}, "Menge"));
+    EXPECT_GT(tools.metrics.text_width({"Arial", 10, true}, "Menge"),
+              tools.metrics.text_width({"Arial", 10, false}, "Menge"));
 }
 
 } // namespace

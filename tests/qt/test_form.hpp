@@ -2,6 +2,7 @@
 
 #include "platform/forms/controls.hpp"
 #include "platform/qt/binding.hpp"
+#include "platform/qt/paint_tools.hpp"
 
 #include <QWidget>
 
@@ -54,7 +55,7 @@ std::unique_ptr<QWidget> window_for_all_kinds();
 
 /// Form and window, tied together.
 struct Bound {
-    Bound() { bind(form, *window); }
+    Bound() { bind(form, *window, tools); }
     template <class W = QWidget> W& widget(const char* name) {
         auto* found = window->findChild<W*>(QString::fromUtf8(name));
         if (found == nullptr) {
@@ -63,6 +64,7 @@ struct Bound {
         return *found;
     }
 
+    PaintTools tools;
     std::unique_ptr<QWidget> window = window_for_all_kinds();
     AllKinds form; ///< goes before its window
 };

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/pictures.hpp"
 #include "platform/printing.hpp"
 
 #include <functional>
@@ -10,7 +11,7 @@
 
 namespace quittika {
 
-/// What was drawn; all lengths in millimetres from the page's left and top edge.
+/// What was drawn; all lengths in millimetres from the origin.
 namespace drawn {
 struct Text {
     double left;
@@ -34,32 +35,34 @@ struct Picture {
     double height;
     std::string path;
 };
-struct PageBreak {};
 } // namespace drawn
-using Drawing = std::variant<drawn::Text, drawn::Line, drawn::Picture, drawn::PageBreak>;
+using Drawing = std::variant<drawn::Text, drawn::Line, drawn::Picture>;
+
+/// One page in the order in which it was drawn.
+struct DrawnPage {
+    Paper paper;
+    std::vector<Drawing> drawings;
+};
 
 /// One document as it reached its surface.
 struct RecordedJob {
-    std::string title;
-    std::vector<Drawing> drawings;
+    explicit RecordedJob(PrintDocument d) : document(std::move(d)), pages(1, DrawnPage{document.paper, {}}) {}
+
+    PrintDocument document;
+    std::vector<DrawnPage> pages; ///< at least one
     bool ended = false;
 };
 
-/// The job as lines of the protocol.
-std::vector<std::string> listing(const RecordedJob& job);
-
-/// Draws the pages of a job once more, without ending the document.
+/// Draws a page once more.
+void replay(const DrawnPage& page, PrintDevice& device);
+/// Draws the pages of a document once more, without ending it.
 void replay(const RecordedJob& job, PrintDevice& device);
-
-/// Tells whether a picture file can be drawn.
-using PictureTest = std::function<bool(const std::string& path)>;
 
 /// Writes down what is drawn on it.
 class RecordingDevice final : public PrintDevice {
 public:
-    /// `at_end` runs when the document has been ended.
-    RecordingDevice(std::shared_ptr<RecordedJob> job, PictureTest picture_test,
-                    std::function<void()> at_end = {});
+    /// `at_end` runs once, when the document has been ended.
+    RecordingDevice(std::shared_ptr<RecordedJob> job, Pictures& pictures, std::function<void()> at_end = {});
 
     void text(double left, double top, double width, const PrintFont& font, Color color,
               std::string_view text) override;
@@ -69,9 +72,15 @@ public:
     void end_document() override;
 
 private:
+    void keep(Drawing drawing);
+
     std::shared_ptr<RecordedJob> job_;
-    PictureTest picture_test_;
+    Pictures& pictures_;
     std::function<void()> at_end_;
 };
+
+/// Records a document of which `control` shows the last page from its end on. Both outlive the device.
+std::unique_ptr<PrintDevice> draw_on(PictureControl& control, std::shared_ptr<RecordedJob> job,
+                                     Pictures& pictures);
 
 } // namespace quittika
