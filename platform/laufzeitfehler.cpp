@@ -12,7 +12,7 @@ struct Text {
     const char* text;
 };
 
-constexpr std::array<Text, 21> kTexte{{
+constexpr std::array<Text, 19> kTexte{{
     {fehler::kUngueltigerAufruf, "Ungültiger Aufruf"},
     {fehler::kUeberlauf, "Überlauf"},
     {fehler::kSpeicher, "Nicht genügend Speicher"},
@@ -21,11 +21,9 @@ constexpr std::array<Text, 21> kTexte{{
     {fehler::kFalscherTyp, "Typen unverträglich"},
     {fehler::kDateiname, "Dateiname ungültig"},
     {fehler::kDateiFehlt, "Datei nicht gefunden"},
-    {fehler::kDateiOffen, "Datei ist bereits geöffnet"},
     {fehler::kGeraet, "Fehler beim Lesen oder Schreiben"},
     {fehler::kDateiVorhanden, "Datei existiert bereits"},
     {fehler::kDatentraegerVoll, "Datenträger voll"},
-    {fehler::kDateiende, "Eingabe hinter dem Dateiende"},
     {fehler::kZugriffVerweigert, "Zugriff verweigert"},
     {fehler::kDatentraegerFehlt, "Datenträger nicht bereit"},
     {fehler::kPfadZugriff, "Fehler beim Zugriff auf Pfad oder Datei"},

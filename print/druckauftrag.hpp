@@ -27,9 +27,6 @@ public:
     /// throws only what the recalculation throws.
     void Command_printform_Click();
 
-    /// The page loop that the preview shares.
-    const Rechnungsdruck& rechnungsdruck() const { return rechnungsdruck_; }
-
 private:
     void status(const std::string& text) { form1_.StatusBar1[2].Caption = text; }
     void drucke(Druckjustierung just, const Druckoptionen& optionen);

@@ -24,9 +24,6 @@ const std::string& item(const std::vector<std::string>& items, int index) {
                                                                 : kNothing;
 }
 
-constexpr int kInvalidCall = 5;
-constexpr int kInvalidProperty = 380;
-
 } // namespace
 
 TextBox::TextBox(Container& container, const Named& named, std::string text)
@@ -77,7 +74,7 @@ void TextBox::fire_for(PropertyId id) {
 
 void CheckBox::check(PropertyId id, std::int64_t value) const {
     Control::check(id, value);
-    require(id != PropertyId::Value || (value >= 0 && value <= 2), kInvalidProperty);
+    require(id != PropertyId::Value || (value >= 0 && value <= 2), fehler::kEigenschaft);
 }
 
 void CheckBox::fire_for(PropertyId id) {
@@ -123,7 +120,7 @@ void ListBox::AddItem(std::string text) {
 }
 
 void ListBox::AddItem(std::string text, int index) {
-    require(index >= 0 && index <= ListCount(), kInvalidCall);
+    require(index >= 0 && index <= ListCount(), fehler::kUngueltigerAufruf);
     items_.insert(items_.begin() + index, std::move(text));
     if (index <= ListIndex()) {
         ListIndex.adopt(ListIndex() + 1);
@@ -132,7 +129,7 @@ void ListBox::AddItem(std::string text, int index) {
 }
 
 void ListBox::RemoveItem(int index) {
-    require(index >= 0 && index < ListCount(), kInvalidCall);
+    require(index >= 0 && index < ListCount(), fehler::kUngueltigerAufruf);
     items_.erase(items_.begin() + index);
     if (index == ListIndex()) {
         ListIndex.adopt(-1);
@@ -149,7 +146,7 @@ void ListBox::Clear() {
 }
 
 void ListBox::assign(std::vector<std::string> items, int first) {
-    require(first >= 0 && first <= ListCount(), kInvalidCall);
+    require(first >= 0 && first <= ListCount(), fehler::kUngueltigerAufruf);
     items_.resize(static_cast<std::size_t>(first));
     std::move(items.begin(), items.end(), std::back_inserter(items_));
     if (ListIndex() >= ListCount()) {
@@ -174,7 +171,7 @@ void ListBox::user_select(int index) {
 
 void ListBox::check(PropertyId id, std::int64_t value) const {
     Control::check(id, value);
-    require(id != PropertyId::ListIndex || (value >= -1 && value < ListCount()), kInvalidProperty);
+    require(id != PropertyId::ListIndex || (value >= -1 && value < ListCount()), fehler::kEigenschaft);
 }
 
 void ListBox::fire_for(PropertyId id) {
@@ -215,7 +212,7 @@ void ComboBox::user_select(int index) {
 
 void ComboBox::check(PropertyId id, std::int64_t value) const {
     Control::check(id, value);
-    require(id != PropertyId::ListIndex || (value >= -1 && value < ListCount()), kInvalidProperty);
+    require(id != PropertyId::ListIndex || (value >= -1 && value < ListCount()), fehler::kEigenschaft);
 }
 
 void ComboBox::fire_for(PropertyId id) {
@@ -235,7 +232,7 @@ RangeControl::RangeControl(Container& container, const Named& named, int min, in
 
 void RangeControl::check(PropertyId id, std::int64_t value) const {
     Control::check(id, value);
-    require(id != PropertyId::Value || (value >= Min() && value <= Max()), kInvalidProperty);
+    require(id != PropertyId::Value || (value >= Min() && value <= Max()), fehler::kEigenschaft);
 }
 
 void RangeControl::changed(PropertyId id) {
@@ -282,7 +279,7 @@ int SSTab::index_of(const Container& page) const {
 void SSTab::check(PropertyId id, std::int64_t value) const {
     Control::check(id, value);
     require(id != PropertyId::Tab || (value >= 0 && value < static_cast<int>(captions_.size())),
-            kInvalidProperty);
+            fehler::kEigenschaft);
 }
 
 void SSTab::fire_for(PropertyId id) {

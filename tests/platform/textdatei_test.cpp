@@ -2,6 +2,7 @@
 
 #include "platform/datei.hpp"
 #include "platform/verzeichnis.hpp"
+#include "tests/fehlernummer.hpp"
 #include "tests/pruefstand.hpp"
 
 #include <gtest/gtest.h>
@@ -12,15 +13,6 @@
 namespace quittika {
 namespace {
 
-/// Number of the error that `tun` raises, 0 for none.
-template <class Tun> int fehlernummer(Tun tun) {
-    try {
-        tun();
-    } catch (const Laufzeitfehler& f) {
-        return f.nummer();
-    }
-    return 0;
-}
 int lesefehler(const std::string& pfad) {
     return fehlernummer([&] { zeilen_lesen(pfad); });
 }

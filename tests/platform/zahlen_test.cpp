@@ -1,6 +1,6 @@
 #include "platform/zahlen.hpp"
 
-#include "platform/laufzeitfehler.hpp"
+#include "tests/fehlernummer.hpp"
 
 #include <gtest/gtest.h>
 
@@ -9,16 +9,6 @@
 
 namespace quittika {
 namespace {
-
-/// Number of the error that `tun` raises, 0 for none.
-template <class Tun> int fehlernummer(Tun tun) {
-    try {
-        tun();
-    } catch (const Laufzeitfehler& f) {
-        return f.nummer();
-    }
-    return 0;
-}
 
 std::string nullen(std::size_t anzahl) {
     return std::string(anzahl, '0');
