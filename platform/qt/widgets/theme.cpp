@@ -43,7 +43,8 @@ constexpr RoleColor kLightDisabled[] = {
 };
 
 /// Entries of a menu bar in the text colour of the window that they stand on, whatever its colour; ticks and
-/// icons as large as the text asks for; the focus to be seen on lists and long texts.
+/// icons as large as the text asks for; the focus to be seen on lists, long texts,
+/// scroll bars and sliders.
 class ProgramStyle : public QProxyStyle {
 public:
     /// `scale`: of ticks and icons.
@@ -81,6 +82,14 @@ public:
             outline(*painter, option->rect, focus_color(), 0);
         } else if (dark()) {
             draw_dark_outline(element, *option, *painter);
+        }
+    }
+
+    void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
+                            const QWidget* widget) const override {
+        QProxyStyle::drawComplexControl(control, option, painter, widget);
+        if ((control == CC_ScrollBar || control == CC_Slider) && option->state.testFlag(State_HasFocus)) {
+            outline(*painter, option->rect, focus_color(), 0);
         }
     }
 
