@@ -87,7 +87,7 @@ public:
     /// Enabled itself, and all frames around it too.
     bool effectively_enabled() const;
 
-    /// Moves the keyboard focus here.
+    /// Moves the keyboard focus here, if the control can be seen.
     void SetFocus();
 
     void attach(std::unique_ptr<ControlView> view);

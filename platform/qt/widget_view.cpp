@@ -148,7 +148,10 @@ void WidgetView::property_changed(PropertyId id) {
 }
 
 void WidgetView::focus() {
-    widget_.setFocus(Qt::OtherFocusReason);
+    const bool unseen = widget_.window()->isVisible() && !widget_.isVisible(); // on a page behind another one
+    if (!unseen) {
+        widget_.setFocus(Qt::OtherFocusReason);
+    }
 }
 
 void WidgetView::push_enabled() {

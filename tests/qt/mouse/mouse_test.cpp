@@ -114,8 +114,12 @@ TEST_F(RealMouse, AnUnsteadyHandClicksADoubleClickTakesAndAButtonCloses) {
 }
 
 TEST_F(RealMouse, TurnsPagesAndEndsTheEntry) {
+    TextBox& field = bench.form().Service;
+    field.GotFocus = [this] { bench.form().Log.AddItem("Feld betreten"); };
+    field.SetFocus();
+    expect_log(""); // nobody sees it
     Mouse().to(tab(1)).click().to(centre("Service")).click().to(tab(2)).click().to(tab(0)).click().go();
-    expect_log("Blatt 1|Feld verlassen|Blatt 2|Blatt 0|");
+    expect_log("Blatt 1|Feld betreten|Feld verlassen|Blatt 2|Blatt 0|");
 }
 
 TEST_F(RealMouse, EachValueOfASliderComesOnce) {
