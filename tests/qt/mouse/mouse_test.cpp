@@ -9,10 +9,12 @@
 #include "tests/qt/mouse/mouse.hpp"
 #include "tests/qt/mouse/workbench_window.hpp"
 
+#include <QImage>
 #include <QListView>
 #include <QPushButton>
 #include <QSlider>
 #include <QTabWidget>
+#include <QTemporaryDir>
 #include <QThread>
 #include <QTimer>
 
@@ -73,6 +75,11 @@ TEST_F(RealMouse, MovesAPictureInItsFrameAndBeyondOnceThatIsAllowed) {
         })) << block.Left()
             << " " << block.Top();
     };
+    const QTemporaryDir folder;
+    QImage red(30, 18, QImage::Format_RGB32);
+    red.fill(Qt::red);
+    ASSERT_TRUE(red.save(folder.filePath("rot.bmp")));
+    bench.form().Block.Picture = folder.filePath("rot.bmp").toStdString();
     const double pixel = 15 / qGuiApp->devicePixelRatio(); // of the screen, in twips
     const QPointF start = place("Block", {10, 10});
     const QPointF way = QPointF(202, 502) / qGuiApp->devicePixelRatio(); // beyond the frame and the window
@@ -84,6 +91,9 @@ TEST_F(RealMouse, MovesAPictureInItsFrameAndBeyondOnceThatIsAllowed) {
     Mouse().to(start - QPointF(1, 1)).up().go();
     expect_at(435, 585);
     expect_log("Bild|");
+    QWidget& window = *desktop.window(bench.form());
+    const QPoint shown = (window.mapFromGlobal(start) * qGuiApp->devicePixelRatio()).toPoint();
+    EXPECT_EQ(window.grab().toImage().pixelColor(shown), QColor(Qt::red));
 }
 
 TEST_F(RealMouse, DragsAnArticleToAFieldAndTheListCloses) {
