@@ -42,22 +42,18 @@ RecordingDevice::RecordingDevice(std::shared_ptr<RecordedJob> job, Pictures& pic
                                  std::function<void()> at_end)
     : job_(std::move(job)), pictures_(pictures), at_end_(std::move(at_end)) {}
 
-void RecordingDevice::keep(Drawing drawing) {
-    job_->pages.back().drawings.push_back(std::move(drawing));
-}
-
 void RecordingDevice::text(double left, double top, double width, const PrintFont& font, Color color,
                            std::string_view text) {
-    keep(drawn::Text{left, top, width, font, color, std::string(text)});
+    drawings().emplace_back(drawn::Text{left, top, width, font, color, std::string(text)});
 }
 
 void RecordingDevice::line(double x1, double y1, double x2, double y2, Color color) {
-    keep(drawn::Line{x1, y1, x2, y2, color});
+    drawings().emplace_back(drawn::Line{x1, y1, x2, y2, color});
 }
 
 void RecordingDevice::picture(double left, double top, double width, double height, const std::string& path) {
     pictures_.check(path);
-    keep(drawn::Picture{left, top, width, height, path});
+    drawings().emplace_back(drawn::Picture{left, top, width, height, path});
 }
 
 void RecordingDevice::new_page() {

@@ -72,7 +72,7 @@ public:
     void end_document() override;
 
 private:
-    void keep(Drawing drawing);
+    std::vector<Drawing>& drawings() { return job_->pages.back().drawings; }
 
     std::shared_ptr<RecordedJob> job_;
     Pictures& pictures_;
