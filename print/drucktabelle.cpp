@@ -1,7 +1,6 @@
 #include "print/drucktabelle.hpp"
 
 #include "invoice/belegtexte.hpp"
-#include "platform/laufzeitfehler.hpp"
 #include "platform/zahlen.hpp"
 
 #include <cmath>
@@ -103,33 +102,9 @@ void Drucktabelle::DRUCKE_UEBERTRAG(Blatt& blatt, const std::string& uebertrag) 
     linie(blatt, kLinks, kRechts, programm_.FARBE_LINIEN);
 }
 
-std::string Drucktabelle::DRUCKE_ZWISCHENSUMME(Blatt& blatt, Zeilenbereich zeilen,
-                                               const std::string& uebertrag) const {
-    std::string summe = ZWISCHENSUMME(zeilen, uebertrag);
-    SUMMENZEILE(blatt, "Zwischensumme:    " + summe, spalten_.X_Gesamt);
+void Drucktabelle::DRUCKE_ZWISCHENSUMME(Blatt& blatt, const std::string& zwischensumme) const {
+    SUMMENZEILE(blatt, "Zwischensumme:    " + zwischensumme, spalten_.X_Gesamt);
     linie(blatt, kLinksZwischensumme, kRechts, programm_.FARBE_LINIEN);
-    return summe;
-}
-
-std::string Drucktabelle::SUMME_SEITE(Zeilenbereich zeilen) const {
-    double summe = 0;
-    for (int index = zeilen.von; index <= zeilen.bis; ++index) {
-        summe += double_versuch(form1_.List_Gesamtp.List(index)).value_or(0);
-    }
-    return betrag(summe);
-}
-
-std::string Drucktabelle::ZWISCHENSUMME(Zeilenbereich zeilen, const std::string& uebertrag) const {
-    try {
-        return betrag(double_versuch(SUMME_SEITE(zeilen)).value_or(0) +
-                      double_versuch(uebertrag).value_or(0));
-    } catch (const Laufzeitfehler&) {
-        return uebertrag; // a sum beyond all bounds must not cost the rest of the document
-    }
-}
-
-std::string Drucktabelle::betrag(double wert) const {
-    return format_zahl(wert, form1_.Check_000.ticked() ? "0.000" : "0.00");
 }
 
 } // namespace quittika

@@ -36,19 +36,13 @@ public:
     void DRUCKE_POSITIONEN(Blatt& blatt, Zeilenbereich zeilen) const;
     /// Prints the amount carried from the pages before.
     void DRUCKE_UEBERTRAG(Blatt& blatt, const std::string& uebertrag) const;
-    /// Prints the sum so far and returns it: the carry of the next page.
-    std::string DRUCKE_ZWISCHENSUMME(Blatt& blatt, Zeilenbereich zeilen, const std::string& uebertrag) const;
-
-    /// Sum of the line totals as text, with the decimals that are printed. What is not numeric adds nothing.
-    std::string SUMME_SEITE(Zeilenbereich zeilen) const;
-    /// `SUMME_SEITE` and the carry, as text.
-    std::string ZWISCHENSUMME(Zeilenbereich zeilen, const std::string& uebertrag) const;
+    /// Prints the sum so far.
+    void DRUCKE_ZWISCHENSUMME(Blatt& blatt, const std::string& zwischensumme) const;
 
 private:
     void ueberschriften(Blatt& blatt) const;
     void zeile(Blatt& blatt, int index) const;
     void position(Blatt& blatt, int index) const;
-    std::string betrag(double wert) const;
 
     const Form1& form1_;
     const frm_einstellungen& einstellungen_;

@@ -1,11 +1,7 @@
 #include "print/rechnungsdruck.hpp"
 
 #include "invoice/belegtexte.hpp"
-#include "print/seitenumbruch.hpp"
 #include "print/summenblock.hpp"
-
-#include <string>
-#include <vector>
 
 namespace quittika {
 
@@ -24,38 +20,35 @@ bool Rechnungsdruck::mit_bemerkungen(bool letzte_seite, const Lieferscheinangabe
            (angaben.bemerkungen || !IST_LIEFERSCHEIN(form1_));
 }
 
-void Rechnungsdruck::DRUCKE_RECHNUNG(PrintSurface& surface, Druckjustierung just,
-                                     const Druckoptionen& optionen) const {
-    Blatt blatt{surface, just};
-    const Drucktabelle tabelle(form1_, einstellungen_, programm_, optionen);
-    const std::vector<Zeilenbereich> seiten =
-        Seitenumbruch(form1_.List_K.items(), ZEILENPROSEITE(einstellungen_));
-    const int anzahl = static_cast<int>(seiten.size());
-    std::string uebertrag = "0";
-    for (int seite = 1; seite <= anzahl; ++seite) {
-        const Zeilenbereich zeilen = seiten[static_cast<std::size_t>(seite - 1)];
-        const bool letzte = seite == anzahl;
-        if (seite > 1) {
-            surface.NewPage();
-        }
-        kopf(blatt, seite == 1, optionen.lieferschein);
-        tabelle.DRUCKE_POSITIONEN(blatt, zeilen);
-        if (tabelle.zeigt_preise()) {
-            if (seite > 1) {
-                tabelle.DRUCKE_UEBERTRAG(blatt, uebertrag);
-            }
-            if (letzte) {
-                DRUCKE_SUMMENBLOCK(blatt, form1_, programm_.FARBE_LINIEN, tabelle.spalten().X_Gesamt);
-            } else {
-                uebertrag = tabelle.DRUCKE_ZWISCHENSUMME(blatt, zeilen, uebertrag);
-            }
-        }
-        if (mit_bemerkungen(letzte, optionen.lieferschein)) {
-            fuss_.DRUCKE_BEMERKUNGEN(blatt);
-        }
-        fuss_.DRUCKE_FUSSZEILE(blatt, seite, anzahl);
+void Rechnungsdruck::betraege(Blatt& blatt, const Druckseite& seite, const Drucktabelle& tabelle) const {
+    if (!seite.erste()) {
+        tabelle.DRUCKE_UEBERTRAG(blatt, seite.uebertrag);
     }
-    surface.EndDoc();
+    if (seite.letzte()) {
+        DRUCKE_SUMMENBLOCK(blatt, form1_, programm_.FARBE_LINIEN, tabelle.spalten().X_Gesamt);
+    } else {
+        tabelle.DRUCKE_ZWISCHENSUMME(blatt, seite.zwischensumme);
+    }
+}
+
+void Rechnungsdruck::seite_drucken(Blatt& blatt, const Druckseite& seite,
+                                   const Druckoptionen& optionen) const {
+    const Drucktabelle tabelle(form1_, einstellungen_, programm_, optionen);
+    kopf(blatt, seite.erste(), optionen.lieferschein);
+    tabelle.DRUCKE_POSITIONEN(blatt, seite.zeilen);
+    if (tabelle.zeigt_preise()) {
+        betraege(blatt, seite, tabelle);
+    }
+    if (mit_bemerkungen(seite.letzte(), optionen.lieferschein)) {
+        fuss_.DRUCKE_BEMERKUNGEN(blatt);
+    }
+    fuss_.DRUCKE_FUSSZEILE(blatt, seite.nummer, seite.anzahl);
+}
+
+Druckvorlage Rechnungsdruck::vorbereiten(const Druckoptionen& optionen) const {
+    return {DRUCKSEITEN(form1_, einstellungen_), [this, optionen](Blatt& blatt, const Druckseite& seite) {
+                seite_drucken(blatt, seite, optionen);
+            }};
 }
 
 } // namespace quittika

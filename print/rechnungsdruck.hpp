@@ -6,6 +6,7 @@
 #include "print/druckkopf.hpp"
 #include "print/druckoptionen.hpp"
 #include "print/drucktabelle.hpp"
+#include "print/druckvorlage.hpp"
 #include "settings/frm_einstellungen.hpp"
 #include "settings/programmeinstellung.hpp"
 
@@ -22,12 +23,18 @@ public:
           kopf_(form1, einstellungen, programm),
           fuss_(form1, einstellungen, programm) {}
 
+    /// Cuts the pages and calculates their carries; drawing them needs this object.
+    Druckvorlage vorbereiten(const Druckoptionen& optionen = {}) const;
     /// Draws all pages and ends the document. Throws what the surface throws.
     void DRUCKE_RECHNUNG(PrintSurface& surface, Druckjustierung just,
-                         const Druckoptionen& optionen = {}) const;
+                         const Druckoptionen& optionen = {}) const {
+        vorbereiten(optionen).DRUCKEN(surface, just);
+    }
 
 private:
     void kopf(Blatt& blatt, bool erste_seite, const Lieferscheinangaben& angaben) const;
+    void betraege(Blatt& blatt, const Druckseite& seite, const Drucktabelle& tabelle) const;
+    void seite_drucken(Blatt& blatt, const Druckseite& seite, const Druckoptionen& optionen) const;
     bool mit_bemerkungen(bool letzte_seite, const Lieferscheinangaben& angaben) const;
 
     const Form1& form1_;

@@ -285,6 +285,28 @@ TEST(Druck, DreiNachkommastellenGeltenAuchFuerDenUebertrag) {
     EXPECT_EQ(papier.finden("Übertrag", 2)->text, "Übertrag:   2,125");
 }
 
+TEST(Druck, EineSeiteAlleinIstDieDesGanzenBelegs) {
+    Druckprobe p;
+    p.zeilen(60);
+    const Papier ganz = p.drucken();
+    ASSERT_EQ(ganz.seite, 3);
+    for (int nummer = 1; nummer <= 3; ++nummer) {
+        Papier allein;
+        Papiergeraet geraet(allein);
+        PrintSurface flaeche(geraet, p.schrift);
+        Blatt blatt{flaeche, {0, 0}};
+        p.druck.vorbereiten().SEITE_DRUCKEN(blatt, nummer);
+        std::string texte[2];
+        for (const GezeichneterText& t : ganz.texte) {
+            texte[0] += t.seite == nummer ? t.text + "|" + std::to_string(t.oben) + "\n" : "";
+        }
+        for (const GezeichneterText& t : allein.texte) {
+            texte[1] += t.text + "|" + std::to_string(t.oben) + "\n";
+        }
+        EXPECT_EQ(texte[1], texte[0]);
+    }
+}
+
 TEST(Druck, LeereSeiteUndUebertragVonNull) {
     Druckprobe p;
     Papier papier = p.drucken();
