@@ -3,7 +3,7 @@
 #include "invoice/form1.hpp"
 #include "platform/dialogs.hpp"
 #include "platform/printing.hpp"
-#include "print/blatt.hpp"
+#include "print/exemplardruck.hpp"
 #include "print/lieferscheinoptionen.hpp"
 #include "print/rechnungsdruck.hpp"
 #include "settings/frm_einstellungen.hpp"
@@ -30,17 +30,14 @@ public:
 private:
     void status(const std::string& text) { form1_.StatusBar1[2].Caption = text; }
     void drucke(Druckjustierung just, const Druckoptionen& optionen);
-    void exemplare_drucken(int anzahl, Druckjustierung just, const Druckoptionen& optionen);
-    void drucke_exemplar(Druckjustierung just, const Druckoptionen& optionen);
     std::string auftragstitel() const;
 
     Form1& form1_;
     const frm_einstellungen& einstellungen_;
-    Dialogs& dialogs_;
-    Printing& printing_;
     const Lieferscheinoptionen& lieferscheinoptionen_;
     std::function<void()> jetztberechnen_List_;
     Rechnungsdruck rechnungsdruck_;
+    Exemplardruck exemplare_;
 };
 
 } // namespace quittika

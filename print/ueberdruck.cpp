@@ -24,7 +24,7 @@ std::string zitat(const std::string& text) {
 } // namespace
 
 void Ueberdruck::text(double left, double top, double width, const PrintFont& font, std::string_view text) {
-    if (!hinweis_.empty()) {
+    if (!befund_.empty()) {
         return;
     }
     const double hoehe = font.size * kMmJePunkt;
@@ -43,8 +43,11 @@ void Ueberdruck::text(double left, double top, double width, const PrintFont& fo
 }
 
 void Ueberdruck::melden(const std::string& was) {
-    hinweis_ = "Auf Seite " + std::to_string(seite_) + " " + was +
-               ": bitte Text kürzen, kleinere Schrift wählen oder eine Seite früher umbrechen.";
+    befund_ = "Auf Seite " + std::to_string(seite_) + " " + was;
+}
+
+std::string Ueberdruck::hinweis(std::string_view ausweg) const {
+    return befund_.empty() ? std::string() : befund_ + ": " + std::string(ausweg);
 }
 
 void Ueberdruck::neue_seite() {

@@ -16,8 +16,8 @@ public:
     void text(double left, double top, double width, const PrintFont& font, std::string_view text);
     void neue_seite();
 
-    /// For the status bar: the first such text and the way out; empty if there is none.
-    const std::string& hinweis() const { return hinweis_; }
+    /// For the status bar: the first such text and what helps; empty if there is none.
+    std::string hinweis(std::string_view ausweg) const;
 
 private:
     void melden(const std::string& was);
@@ -32,7 +32,7 @@ private:
 
     std::vector<Druckbild> bilder_; ///< of the present page
     int seite_ = 1;
-    std::string hinweis_;
+    std::string befund_;
 };
 
 } // namespace quittika
