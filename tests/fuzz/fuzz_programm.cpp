@@ -4,6 +4,7 @@
 #include "app/programm.hpp"
 #include "platform/script/runner.hpp"
 #include "platform/text.hpp"
+#include "tests/feste_schrift.hpp"
 #include "tests/fuzz/pruefung.hpp"
 #include "tests/fuzz/zufallsnutzer.hpp"
 #include "tests/pruefstand.hpp"
@@ -24,14 +25,6 @@ using Zeilen = std::vector<std::string>;
 constexpr int kZeilenProLauf = 250;
 constexpr std::size_t kArt = 9;        ///< findings that begin alike are of one kind
 constexpr unsigned kHoechstdauer = 60; ///< seconds for one line; beyond it the program hangs
-
-class FesteBreite final : public FontMetrics {
-public:
-    double text_width(const PrintFont&, std::string_view text) const override {
-        return 2.0 * static_cast<double>(text.size());
-    }
-    double line_height(const PrintFont&) const override { return 4; }
-};
 
 /// The runner refuses what a user could not do either; everything else has left a handler of the program.
 bool nur_abgelehnt(const std::string& antwort) {
@@ -70,7 +63,7 @@ struct Lauf {
     Eingabe eingabe;
     std::istream ein{&eingabe};
     std::ostringstream aus;
-    FesteBreite schrift;
+    FesteSchrift schrift;
     Runner runner{{[](Platform platform, const std::string& ordner) {
                        auto programm = std::make_shared<Programm>(platform, ordner);
                        programm->starten();

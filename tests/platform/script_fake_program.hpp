@@ -11,15 +11,6 @@
 
 namespace quittika::script_test {
 
-/// Every byte is two millimetres wide, every line five high.
-class FakeMetrics final : public FontMetrics {
-public:
-    double text_width(const PrintFont&, std::string_view text) const override {
-        return 2.0 * static_cast<double>(text.size());
-    }
-    double line_height(const PrintFont&) const override { return 5; }
-};
-
 struct Notiz : Form {
     Notiz() : Form("Form_Notiz", "Notiz") {}
     TextBox Text{*this, "Text"};
@@ -42,7 +33,6 @@ struct Haupt : Form {
     ListBox Liste{*this, "Liste"};
     ComboBox Offen{*this, "Offen", {"a"}, true};
     HScrollBar Rolle{*this, "Rolle", 1, 9, 5};
-    ProgressBar Balken{*this, "Balken", 0, 100, 40};
     Label Ziel{*this, "Ziel", "hierher"};
     CommandButton Modal{*this, "Modal"};
     CommandButton Dialoge{*this, "Dialoge"};
@@ -153,7 +143,6 @@ private:
         platform_.progress.begin("nichts zu tun");
         const auto progress = platform_.progress.begin("a|b");
         for (int step = 1; step <= 3 && !progress->aborted(); ++step) {
-            log("Schritt " + std::to_string(step));
             progress->update(static_cast<std::size_t>(step), 3);
         }
     }

@@ -4,21 +4,13 @@
 #include "platform/text.hpp"
 #include "platform/zahlen.hpp"
 #include "print/rechnungsdruck.hpp"
+#include "tests/feste_schrift.hpp"
 #include "tests/pruefstand.hpp"
 
 #include <string>
 #include <vector>
 
 namespace quittika {
-
-/// Every character is 2 mm wide and every line 4 mm high, whatever the font.
-class FesteSchrift : public FontMetrics {
-public:
-    double text_width(const PrintFont&, std::string_view text) const override {
-        return 2.0 * static_cast<double>(zeichenzahl(text));
-    }
-    double line_height(const PrintFont&) const override { return 4; }
-};
 
 struct GezeichneterText {
     int seite;

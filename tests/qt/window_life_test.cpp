@@ -1,18 +1,44 @@
-#include "tests/platform/window_life_cases.hpp"
-
 #include "app/form_ueber_quittika.hpp"
+#include "platform/forms/opened_window.hpp"
 #include "platform/qt/qt_desktop.hpp"
 #include "platform/qt/widget_view.hpp"
+#include "print/form_lieferschein_opt.hpp"
+
+#include <gtest/gtest.h>
 
 #include <QApplication>
 #include <QTest>
 #include <QTimer>
 
+#include <functional>
+#include <stdexcept>
+#include <string>
+
 namespace quittika::test {
 
 namespace {
 
-/// Real windows.
+/// A window with a few controls, whatever they are called elsewhere.
+struct Note : Form_Lieferschein_opt {
+    CommandButton& Button = CMD_weiter;
+    CheckBox& Tick = Check_LIEFERSCH_PREISE;
+    Timer Clock{*this, "Clock", 1, false};
+};
+
+/// Works on a note; what a test does in its handlers comes from outside.
+struct NoteModule {
+    NoteModule(Note& form, int& count) : form_(form), count_(count) { ++count_; }
+    NoteModule(const NoteModule&) = delete;
+    NoteModule& operator=(const NoteModule&) = delete;
+    ~NoteModule() { --count_; }
+    void work() { text += form_.Button.Caption(); } ///< touches what would be gone too early
+
+    Note& form_;
+    int& count_;
+    std::string text = "long enough to stand on the heap: ";
+};
+
+/// The desktop, and a user who plays acts one by one while a modal window is open.
 class QtStage {
 public:
     QtStage() {
@@ -76,8 +102,166 @@ private:
     int played_ = 0;
 };
 
-} // namespace
+class WindowLife : public ::testing::Test {
+protected:
+    Note& opened() {
+        note.open();
+        return note.module()->form_;
+    }
 
-INSTANTIATE_TYPED_TEST_SUITE_P(Qt, WindowLife, QtStage);
+    QtStage stage;
+    int count = 0; ///< of the modules that live
+    std::function<void(Note&, NoteModule&)> wire = [](Note&, NoteModule&) {};
+    OpenedWindow<Note, NoteModule> note{stage.desktop(), [this](Note& form) {
+                                            auto module = std::make_unique<NoteModule>(form, count);
+                                            wire(form, *module);
+                                            return module;
+                                        }};
+    Form_Lieferschein_opt modal; ///< a window to wait for
+};
+
+TEST_F(WindowLife, OneWindowFromOpeningToClosing) {
+    EXPECT_EQ(note.module(), nullptr);
+    Note& first = opened();
+    EXPECT_TRUE(stage.is_open(first));
+    first.Tick.Value = 1;
+    first.Hide();
+    EXPECT_EQ(&opened(), &first) << "hidden is not closed";
+    EXPECT_TRUE(stage.is_open(first));
+    EXPECT_EQ(count, 1);
+    stage.close(first);
+    EXPECT_EQ(note.module(), nullptr);
+    stage.settle();
+    EXPECT_EQ(count, 0);
+    EXPECT_EQ(opened().Tick.Value(), 0) << "a new one";
+    EXPECT_EQ(count, 1); // and the fixture goes with the window open
+}
+
+TEST_F(WindowLife, HandlerClosesItsWindowAndOpensItAgain) {
+    wire = [this](Note& form, NoteModule& module) {
+        form.Button.Click = [this, &form, &module] {
+            form.Close();
+            note.open();
+            EXPECT_EQ(count, 2);
+            EXPECT_NE(&note.module()->form_, &form);
+            module.work();
+        };
+    };
+    Note& first = opened();
+    stage.click(first.Button);
+    stage.settle();
+    EXPECT_EQ(count, 1);
+    EXPECT_TRUE(stage.is_open(note.module()->form_));
+}
+
+TEST_F(WindowLife, HandlersWaitingForAModalWindowKeepTheirs) {
+    stage.desktop().adopt(modal);
+    int back = 0;
+    wire = [&](Note& form, NoteModule& module) {
+        form.Tick.Click = [&] { // within the click that sets the button's caption
+            modal.Show(Modality::Modal);
+            module.work();
+            ++back;
+        };
+        form.Button.Click = [&] {
+            form.Close();
+            form.Tick.Value = 1;
+            module.work();
+        };
+    };
+    Note& first = opened();
+    stage.while_modal([&] { EXPECT_EQ(count, 1) << "destroyed under its handlers"; });
+    stage.while_modal([&] { modal.Hide(); });
+    stage.click(first.Button);
+    stage.settle();
+    EXPECT_EQ(back, 1);
+    EXPECT_EQ(count, 0);
+}
+
+TEST_F(WindowLife, TimerClosesTheWindowOfAWaitingHandler) {
+    stage.desktop().adopt(modal);
+    wire = [&](Note& form, NoteModule& module) {
+        form.Clock.Tick = [&] { form.Close(); };
+        form.Button.Click = [&] {
+            form.Clock.Enabled = true;
+            modal.Show(Modality::Modal);
+            module.work();
+        };
+    };
+    Note& first = opened();
+    stage.while_modal([&] { stage.tick(first.Clock); });
+    stage.while_modal([&] {
+        EXPECT_FALSE(first.loaded());
+        modal.Hide();
+    });
+    stage.click(first.Button);
+    stage.settle();
+    EXPECT_EQ(count, 0);
+}
+
+TEST_F(WindowLife, LoadingMayCloseOrFail) {
+    wire = [](Note& form, NoteModule& module) {
+        form.Load = [&] {
+            form.Close();
+            module.work();
+        };
+    };
+    note.open();
+    EXPECT_EQ(note.module(), nullptr);
+    stage.settle();
+    EXPECT_EQ(count, 0);
+    wire = [](Note& form, NoteModule&) { form.Load = [] { throw std::runtime_error("no"); }; };
+    EXPECT_THROW(note.open(), std::runtime_error);
+    EXPECT_EQ(count, 0);
+    wire = [](Note&, NoteModule&) { throw std::runtime_error("no"); };
+    EXPECT_THROW(note.open(), std::runtime_error);
+    EXPECT_EQ(count, 0);
+}
+
+TEST_F(WindowLife, UnloadMayFailAndQueryRefuse) {
+    bool refuse = true;
+    wire = [&](Note& form, NoteModule& module) {
+        form.QueryUnload = [&](bool& cancel) { cancel = refuse; };
+        form.Unload = [&] {
+            module.work();
+            throw std::runtime_error("no");
+        };
+    };
+    Note& first = opened();
+    stage.close(first);
+    stage.settle();
+    EXPECT_TRUE(stage.is_open(first));
+    refuse = false;
+    stage.when_reported([&] { EXPECT_EQ(count, 1) << "destroyed under the report"; });
+    stage.close(first);
+    stage.settle();
+    EXPECT_EQ(count, 0);
+}
+
+TEST_F(WindowLife, WorkPutOffAndTheEndOfTheProgram) {
+    std::string order;
+    wire = [&](Note& form, NoteModule& module) {
+        form.Button.Click = [&] {
+            form.Close();
+            stage.desktop().later([&] {
+                module.work();
+                order += "later ";
+            });
+        };
+        form.Tick.Click = [&] {
+            stage.desktop().end();
+            form.Close();
+            module.work();
+        };
+    };
+    stage.click(opened().Button);
+    stage.settle();
+    EXPECT_EQ(order, "later ");
+    EXPECT_EQ(count, 0);
+    stage.click(opened().Tick);
+    EXPECT_EQ(count, 1) << "goes with the program";
+}
+
+} // namespace
 
 } // namespace quittika::test

@@ -1,60 +1,12 @@
-#include "tests/platform/window_life_cases.hpp"
-
 #include "platform/script/script_desktop.hpp"
 #include "platform/script/user.hpp"
 #include "tests/sample_forms.hpp"
 
-#include <algorithm>
-#include <deque>
+#include <gtest/gtest.h>
 
 namespace quittika::test {
 
 namespace {
-
-/// Windows without a screen.
-class ScriptStage {
-public:
-    ScriptStage() {
-        desktop_.on_modal([this](const std::function<bool()>& open) {
-            settle();
-            while (open()) {
-                const auto act = acts_.at(0);
-                acts_.pop_front();
-                act();
-                settle();
-            }
-        });
-    }
-
-    Desktop& desktop() { return desktop_; }
-    void click(Control& control) { User(desktop_).click(control); }
-    void tick(Timer& timer) { desktop_.timers().tick(timer); }
-    void close(Form& form) {
-        try {
-            form.Close();
-        } catch (const std::runtime_error&) {
-            settle();
-        }
-    }
-    void settle() {
-        while (const auto work = desktop_.take_work()) {
-            work();
-        }
-    }
-    void while_modal(std::function<void()> act) { acts_.push_back(std::move(act)); }
-    void when_reported(const std::function<void()>& /*act*/) {} // nobody has to close the report
-    bool is_open(const Form& form) const {
-        const std::vector<Form*> open = desktop_.windows();
-        return std::find(open.begin(), open.end(), &form) != open.end();
-    }
-
-private:
-    ScriptClock clock_;
-    ScriptDesktop desktop_{clock_};
-    std::deque<std::function<void()>> acts_;
-};
-
-} // namespace
 
 TEST(ScriptWindows, ComeToTheFrontAsFarAsNoModalOneIsThere) {
     ScriptClock clock;
@@ -93,6 +45,6 @@ TEST(ScriptWindows, PlacesAreThoseOfTheForm) {
     EXPECT_THROW(user.select(form.Data, -1), std::runtime_error) << "nobody sees it";
 }
 
-INSTANTIATE_TYPED_TEST_SUITE_P(Script, WindowLife, ScriptStage);
+} // namespace
 
 } // namespace quittika::test
