@@ -107,27 +107,14 @@ TEST(Datum, WirdGelesenWieManEsTippt) {
         ASSERT_TRUE(datum) << text;
         EXPECT_EQ(datum_zeit_text(*datum), erwartet);
     }
-    for (const char* keines : {"29.02.1900",
-                               "29.02.2007",
-                               "31.04.2008",
-                               "0.1.2008",
-                               "1.13.2008",
-                               "2008-13-01",
-                               "99999999999.1.2008",
-                               "5.3.20080",
-                               "5.3-2008",
-                               "5- 3-2008",
-                               "1. Quark 2008",
-                               "5.3.",
-                               "5. 10:20",
-                               "5.3.2008 25:00",
-                               "5.3.2008 10:60",
-                               "5.3.2008 10:",
-                               "5.3.2008x",
-                               "morgen",
-                               "5.   ",
-                               ".",
-                               ""}) {
+    const char* const keine[] = {"29.02.1900",   "29.02.2007", "31.04.2008",      "0.1.2008",
+                                 "1.13.2008",    "2008-13-01", "5.3.20080",       "5.3-2008",
+                                 "5- 3-2008",    "5.3.2008x",  "5.3.2008 25:00",  "5.3.2008 10:60",
+                                 "5.3.2008 10:", "5. 10:20",   "99999999999.1.8", "1. Quark 2008"};
+    for (const char* keines : keine) {
+        EXPECT_FALSE(datum_lesen(keines)) << keines;
+    }
+    for (const char* keines : {"5.3.", "morgen", "5.   ", ".", ""}) {
         EXPECT_FALSE(datum_lesen(keines)) << keines;
     }
     EXPECT_EQ(datum_text(*datum_lesen("5.3.2008")), "05.03.2008");

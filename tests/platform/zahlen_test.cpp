@@ -71,13 +71,6 @@ TEST(Zahlen, GroesseEntscheidetNichtDieSchreibweise) {
     }
 }
 
-TEST(Zahlen, BereinigenLaeuftUeberStattNullZuWerden) {
-    EXPECT_THROW(dezimal_bereinigt(std::numeric_limits<double>::max()), Laufzeitfehler);
-    EXPECT_THROW(dezimal_bereinigt(-std::numeric_limits<double>::max()), Laufzeitfehler);
-    EXPECT_EQ(dezimal_bereinigt(1.7e308), 1.7e308);
-    EXPECT_EQ(dezimal_bereinigt(5e-324), 5e-324);
-}
-
 TEST(Zahlen, GanzzahlenRundenZurGeraden) {
     const std::pair<double, int> gut[] = {{2.5, 2},         {3.5, 4},         {-2.5, -2},        {0.5, 0},
                                           {32767.4, 32767}, {32766.5, 32766}, {-32768.5, -32768}};
@@ -115,6 +108,7 @@ TEST(Zahlen, ZahlWirdTextMitFuenfzehnStellen) {
     EXPECT_EQ(fehlernummer([] { zahl_text(std::numeric_limits<double>::infinity()); }), fehler::kUeberlauf);
     EXPECT_EQ(dezimal_bereinigt(0.1 + 0.2), 0.3);
     EXPECT_EQ(dezimal_bereinigt(1.7e308), 1.7e308);
+    EXPECT_EQ(dezimal_bereinigt(5e-324), 5e-324);
     EXPECT_EQ(fehlernummer([] { dezimal_bereinigt(-std::numeric_limits<double>::max()); }),
               fehler::kUeberlauf);
 }

@@ -7,11 +7,9 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
-#include <QDropEvent>
 #include <QImage>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMimeData>
 #include <QPlainTextEdit>
 #include <QRadioButton>
 #include <QScrollBar>
@@ -355,24 +353,6 @@ TEST(Events, MouseInTwips) {
     QTest::mouseRelease(&bound.widget("Picture"), Qt::RightButton, {}, QPoint(3, 1));
     EXPECT_EQ(seen, "down2,30,15 up2,45,15 ");
     EXPECT_EQ(bound.form.take_log(), "") << "the right button clicks nothing";
-}
-
-TEST(Events, DroppedTextGoesToTheHandlerAlone) {
-    Bound bound;
-    std::string dropped;
-    bound.form.Field.OLEDragDrop = [&](const std::string& text) { dropped = text; };
-    QMimeData data;
-    data.setText("Frau Köhler");
-    QDragEnterEvent enter({1, 1}, Qt::CopyAction, &data, Qt::LeftButton, {});
-    QApplication::sendEvent(&bound.widget("Field"), &enter);
-    EXPECT_TRUE(enter.isAccepted());
-    QDropEvent drop({1, 1}, Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, Qt::ShiftModifier);
-    ASSERT_EQ(drop.proposedAction(), Qt::MoveAction);
-    QApplication::sendEvent(&bound.widget("Field"), &drop);
-    EXPECT_EQ(drop.dropAction(), Qt::CopyAction);
-    QCoreApplication::sendPostedEvents();
-    EXPECT_EQ(dropped, "Frau Köhler");
-    EXPECT_EQ(bound.form.Field.Text(), "");
 }
 
 TEST(Pictures, LeaveTheirPaperOnADarkDesktop) {

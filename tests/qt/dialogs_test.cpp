@@ -1,8 +1,8 @@
-#include "platform/laufzeitfehler.hpp"
 #include "platform/qt/print_dialog.hpp"
 #include "platform/qt/print_printing.hpp"
 #include "platform/qt/qt_dialogs.hpp"
 #include "platform/qt/qt_shell.hpp"
+#include "tests/fehlernummer.hpp"
 
 #include <gtest/gtest.h>
 
@@ -31,15 +31,6 @@ template <class D> void on_dialog(std::function<void(D&)> work) {
         auto* dialog = qobject_cast<D*>(QApplication::activeModalWidget());
         dialog != nullptr ? work(*dialog) : on_dialog<D>(work);
     });
-}
-
-int error_of(const std::function<void()>& work) {
-    try {
-        work();
-        return 0;
-    } catch (const Laufzeitfehler& error) {
-        return error.nummer();
-    }
 }
 
 class DialogsTest : public ::testing::Test {
@@ -138,7 +129,7 @@ TEST_F(DialogsTest, SavingProposesANameAddsTheEndingAndRemembersTheFolder) {
         EXPECT_EQ(window.directory(), QDir(folder.path()));
         window.reject();
     });
-    EXPECT_EQ(error_of([&] {
+    EXPECT_EQ(fehlernummer([&] {
                   dialogs.open_file({"Rechnungen (*.rn)|*.rn", "", ""});
               }),
               fehler::kDialogAbgebrochen);
@@ -161,12 +152,12 @@ TEST_F(DialogsTest, OpeningTakesANewNameWhereItMay) {
         return dialogs.open_file({"Texte (*.txt)|*.txt", "5/08.txt", "", must_exist});
     };
     EXPECT_EQ(QString::fromStdString(choose(false)), folder.filePath("neu.txt"));
-    EXPECT_EQ(error_of([&] { choose(true); }), fehler::kDialogAbgebrochen);
+    EXPECT_EQ(fehlernummer([&] { choose(true); }), fehler::kDialogAbgebrochen);
 }
 
 TEST_F(DialogsTest, CancelledColourIsAnErrorAndAChosenOneIsNot) {
     on_dialog<QColorDialog>([](QColorDialog& window) { window.reject(); });
-    EXPECT_EQ(error_of([&] { dialogs.choose_color(color::kYellow); }), fehler::kDialogAbgebrochen);
+    EXPECT_EQ(fehlernummer([&] { dialogs.choose_color(color::kYellow); }), fehler::kDialogAbgebrochen);
     on_dialog<QColorDialog>([](QColorDialog& window) {
         EXPECT_EQ(window.currentColor(), QColor(255, 255, 0));
         window.setCurrentColor(QColor(1, 2, 3));
@@ -213,7 +204,10 @@ TEST_F(DialogsTest, PrintingIntoAFileProposesANameAndAsksBeforeItReplacesOne) {
         EXPECT_EQ(field(window)->text(), folder.filePath("RECHNUNG 8.pdf")) << "never an earlier name";
         window.reject();
     });
-    EXPECT_EQ(error_of([&] { dialogs.choose_printer({1, "RECHNUNG 8.pdf"}); }), fehler::kDialogAbgebrochen);
+    EXPECT_EQ(fehlernummer([&] {
+                  dialogs.choose_printer({1, "RECHNUNG 8.pdf"});
+              }),
+              fehler::kDialogAbgebrochen);
 }
 
 TEST(PdfPath, IsWhatTheUserMeans) {
@@ -267,7 +261,7 @@ TEST(ShellTest, TellsFilesFromAddresses) {
     const QList<QUrl> expected{local, local, QUrl("http://www.firma.example/a?b=c"),
                                QUrl("http://www.firma.example"), QUrl("mailto:info@firma.example")};
     EXPECT_EQ(opener.opened, expected);
-    EXPECT_EQ(error_of([&] { shell.open(folder.filePath("fehlt.txt").toStdString()); }), 53);
+    EXPECT_EQ(fehlernummer([&] { shell.open(folder.filePath("fehlt.txt").toStdString()); }), 53);
 }
 
 } // namespace
