@@ -35,7 +35,7 @@ struct Programm::Teile {
         platform.desktop.adopt(programm);
         platform.desktop.adopt(form_start);
         MENUE_LISTEN(form1, ereignisse, platform.dialogs);
-        MENUE_DRUCKEN(form1);
+        MENUE_DRUCKEN(form1, etiketten);
         MENUE_EINSTELLUNGEN(form1);
         MENUE_EXTRAS(form1, eingabezeile);
     }
@@ -72,6 +72,7 @@ struct Programm::Teile {
         form1, einstellungen, werte, platform.dialogs, platform.printing, lieferscheinoptionen, [this] {
             summen.jetztberechnen_List();
         }};
+    Etiketten etiketten{form1, einstellungen, werte, platform.desktop, platform.dialogs, platform.printing};
     KundeAufnehmen kunde_aufnehmen{form1, verzeichnis, platform.dialogs};
     Einstellungsstart einstellungsstart{einstellungen, programm, werte, verzeichnis};
     ErsteRechnung erste_rechnung{form1, einstellungen, vorgaben, rechnung, nummern, zuletzt, platform.clock};

@@ -3,6 +3,7 @@
 #include "app/form_start.hpp"
 #include "app/form_ueber_quittika.hpp"
 #include "invoice/form1.hpp"
+#include "print/form2_etiketten.hpp"
 #include "print/form_lieferschein_opt.hpp"
 
 #include <memory>
@@ -17,7 +18,13 @@ template <class F> std::unique_ptr<Form> make() {
 }
 
 /// Every form that has a window; the settings are forms without one.
-inline const std::vector<MakeForm> kForms{make<Form1>, make<Form_START>, make<Form_ueber_QUITTIKA>,
-                                          make<Form_Lieferschein_opt>};
+inline const std::vector<MakeForm> kForms{make<Form1>,
+                                          make<Form_START>,
+                                          make<Form_ueber_QUITTIKA>,
+                                          make<Form_Lieferschein_opt>,
+                                          make<Form2_PAKET_ETIKETT>,
+                                          make<Form2_PAKETHRMS_ETIKETT>,
+                                          make<Form2_PAECKCHEN_ETIKETT>,
+                                          make<Form2_Breiter_Brief>};
 
 } // namespace quittika::test
