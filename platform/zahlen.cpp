@@ -146,6 +146,16 @@ Gelesen zahl_lesen(std::string_view text, const Locale& locale) {
     return {negativ ? -wert : wert, 0};
 }
 
+/// Digits with at most one decimal mark, as almost all numbers are, and few enough for every double: no
+/// value needs to be calculated to know that this is one.
+bool schlichte_zahl(std::string_view text, const Locale& locale) {
+    constexpr std::ptrdiff_t kImmerDarstellbar = 300;
+    const auto ziffern = std::count_if(text.begin(), text.end(), ziffer);
+    const auto marken = std::count(text.begin(), text.end(), locale.decimal_mark);
+    return ziffern > 0 && ziffern <= kImmerDarstellbar && marken <= 1 &&
+           static_cast<std::size_t>(ziffern + marken) == text.size();
+}
+
 /// Decimal digits of a value and the place of the decimal point: 0.d1d2d3... x 10^exponent.
 struct Dezimal {
     std::array<char, kStellen + 1> ziffern{};
@@ -277,7 +287,7 @@ std::optional<double> double_versuch(std::string_view text, const Locale& locale
 }
 
 bool ist_numerisch(std::string_view text, const Locale& locale) {
-    return double_versuch(text, locale).has_value();
+    return schlichte_zahl(text, locale) || double_versuch(text, locale).has_value();
 }
 
 double nach_double(std::string_view text, const Locale& locale) {

@@ -1,9 +1,6 @@
 #include "invoice/file/befund.hpp"
 
-#include "platform/textdatei.hpp"
 #include "platform/zahlen.hpp"
-
-#include <algorithm>
 
 namespace quittika {
 
@@ -45,15 +42,12 @@ std::string BEFUND_MELDUNG(const Befund& befund) {
                            : "Achtung, Datei beschädigt: " + schaden + ". Bitte vor dem Speichern prüfen.";
 }
 
-bool POSITION_HEIL(std::string_view zeile) {
-    constexpr int kWerte = 6;
-    if (std::count(zeile.begin(), zeile.end(), ';') != kWerte) {
-        return false;
-    }
-    const auto wert = [zeile](int n) { return FELD_AUS_ZEILE(zeile, ";", n); };
-    const std::string art = wert(2);
-    return art == "K" || art == "T" ||
-           (art == "-" && ist_numerisch(wert(3)) && ist_numerisch(wert(5)) && ist_numerisch(wert(6)));
+bool POSITION_HEIL(const Positionszeile& zeile) {
+    const auto& [nummer, art, menge, leistung, preis, gesamtpreis] = zeile.werte;
+    const bool heil =
+        art == "K" || art == "T" ||
+        (art == "-" && ist_numerisch(menge) && ist_numerisch(preis) && ist_numerisch(gesamtpreis));
+    return zeile.vollzaehlig && heil;
 }
 
 int UNVERSTANDENE_WERTE(const Dateizeilen& zeilen, const std::vector<Dateifeld>& felder) {

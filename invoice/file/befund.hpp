@@ -3,7 +3,6 @@
 #include "invoice/file/dateifelder.hpp"
 
 #include <string>
-#include <string_view>
 #include <vector>
 
 namespace quittika {
@@ -20,7 +19,7 @@ struct Befund {
 std::string BEFUND_MELDUNG(const Befund& befund);
 
 /// Whether a position line has its six values, and those of an amount are numbers.
-bool POSITION_HEIL(std::string_view zeile);
+bool POSITION_HEIL(const Positionszeile& zeile);
 
 /// How many lines hold something that is not of their control's kind. Lines that are empty or not set do not
 /// count.

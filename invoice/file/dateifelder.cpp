@@ -188,6 +188,23 @@ bool IST_DATEIZAHL(const std::string& text) {
     return ist_numerisch(text) || ist_numerisch(MIT_KOMMA(text));
 }
 
+Positionszeile POSITION_TEILEN(std::string_view zeile) {
+    Positionszeile position{};
+    std::size_t trenner = zeile.find(';');
+    for (std::string_view& wert : position.werte) {
+        position.vollzaehlig = trenner != std::string_view::npos;
+        if (!position.vollzaehlig) {
+            wert = "ERROR";
+            continue;
+        }
+        zeile.remove_prefix(trenner + 1);
+        trenner = zeile.find(';');
+        wert = zeile.substr(0, trenner);
+    }
+    position.vollzaehlig = position.vollzaehlig && trenner == std::string_view::npos;
+    return position;
+}
+
 const std::string& Dateizeilen::operator[](int zeile) const {
     static const std::string leer;
     if (zeile < 0 || zeile > dateizeile::kGrenze) {

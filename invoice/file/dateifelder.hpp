@@ -72,6 +72,15 @@ void HAEKCHEN_SETZEN(CheckBox& haekchen, const std::string& text);
 /// Whether the text is a number, with a comma or a point.
 bool IST_DATEIZAHL(const std::string& text);
 
+/// A position line split at its ";", as views of it.
+struct Positionszeile {
+    /// Number, kind, quantity, text, price and total; "ERROR" for what is missing.
+    std::array<std::string_view, 6> werte;
+    bool vollzaehlig; ///< neither fewer nor more values
+};
+
+Positionszeile POSITION_TEILEN(std::string_view zeile);
+
 /// Lines of an invoice file by number, 0 to 32000; a line never set is empty.
 /// Every access outside throws `Laufzeitfehler` 9.
 class Dateizeilen {

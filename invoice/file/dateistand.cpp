@@ -29,6 +29,11 @@ void Dateistand::vormerken(std::string_view bytes) {
     vorgemerkt_ = kInhalt(bytes);
 }
 
+void Dateistand::geschrieben(const std::string& pfad) {
+    ort_ = pfad;
+    inhalt_ = vorgemerkt_;
+}
+
 bool Dateistand::AnderswoGeaendert(const std::string& pfad) const {
     if (ort_.empty() || !dieselbe_datei(pfad, ort_)) {
         return false;

@@ -56,8 +56,7 @@ void Rechnungsleser::InhaltUebernehmen(std::string_view bytes) {
             Dateiformat = zeile;
         }
         if (beginnt_mit(zeile, kListenmarke)) {
-            befund_.positionen += POSITION_HEIL(zeile) ? 0 : 1;
-            PositionUebernehmen(zeile);
+            PositionUebernehmen(POSITION_TEILEN(zeile));
         } else if (Dateiformat == kDateikennung) {
             DatenLesen.setzen(nummer++, std::string(zeile));
         }
@@ -67,19 +66,12 @@ void Rechnungsleser::InhaltUebernehmen(std::string_view bytes) {
     befund_.werte = UNVERSTANDENE_WERTE(DatenLesen, felder_);
 }
 
-void Rechnungsleser::PositionUebernehmen(std::string_view zeile) {
+void Rechnungsleser::PositionUebernehmen(const Positionszeile& zeile) {
+    befund_.positionen += POSITION_HEIL(zeile) ? 0 : 1;
     const std::array<ListBox*, 6> ziele{&form1_.List_pos,      &form1_.List_K,     &form1_.List_Menge,
                                         &form1_.List_Leistung, &form1_.List_Preis, &form1_.List_Gesamtp};
-    std::size_t ende = zeile.find(';');
-    for (ListBox* ziel : ziele) {
-        if (ende == std::string_view::npos) {
-            ziel->AddItem("ERROR");
-            continue;
-        }
-        const std::size_t anfang = ende + 1;
-        ende = zeile.find(';', anfang);
-        ziel->AddItem(
-            std::string(zeile.substr(anfang, ende == std::string_view::npos ? ende : ende - anfang)));
+    for (std::size_t i = 0; i < ziele.size(); ++i) {
+        ziele.at(i)->AddItem(std::string(zeile.werte.at(i)));
     }
 }
 

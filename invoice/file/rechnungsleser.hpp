@@ -40,7 +40,7 @@ public:
     bool DateiDatenAnzeigen();
 
 private:
-    void PositionUebernehmen(std::string_view zeile);
+    void PositionUebernehmen(const Positionszeile& zeile);
     void FelderUebernehmen();
     void FeldUebernehmen(const Dateifeld& feld);
     void VersandUebernehmen();

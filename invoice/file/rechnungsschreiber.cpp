@@ -18,7 +18,8 @@ namespace {
 
 /// A line of the file holds no line end of its own.
 std::string einzeilig(std::string text) {
-    if (text.find_first_of("\r\n") != std::string::npos) {
+    // Two searches for a single character are many times faster than one for either of two.
+    if (text.find('\r') != std::string::npos || text.find('\n') != std::string::npos) {
         text = ersetzen(text, "\r\n", " ");
         std::replace(text.begin(), text.end(), '\r', ' ');
         std::replace(text.begin(), text.end(), '\n', ' ');
@@ -105,7 +106,7 @@ bool Rechnungsschreiber::DateiSchreiben(const std::string& pfad) {
     stand_.vormerken(datei.bytes());
     try {
         const std::string beiseite = datei_ersetzen(pfad, datei.bytes(), verzeichnis_.ordner());
-        stand_.merken(pfad, datei.bytes());
+        stand_.geschrieben(pfad);
         meldung_.clear();
         Melden(ZEICHENERSATZ_MELDUNG(datei.ersetzt()));
         if (!beiseite.empty()) {

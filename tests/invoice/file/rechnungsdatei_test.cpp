@@ -65,6 +65,26 @@ TEST(Rechnungsdatei, AlteUndUngewoehnlicheDateien) {
     EXPECT_FALSE(laden({}));
 }
 
+TEST(Rechnungsdatei, PositionszeilenTeilenSichAmStrichpunkt) {
+    struct Fall {
+        const char* zeile;
+        const char* letzter;
+        bool heil;
+    };
+    const Fall faelle[] = {
+        {"#qk8LIST#;1;-;2;Griff;5,00;10,00", "10,00", true},
+        {"#qk8LIST#; ;K; ;Text; ;", "", true},
+        {"#qk8LIST#;1;-;2;Griff;5,00;", "", false},
+        {"#qk8LIST#;1;K;2;Griff;5,00", "ERROR", false},
+        {"#qk8LIST#; ;T; ;a;b; ;c", " ", false},
+        {"#qk8LIST#", "ERROR", false},
+    };
+    for (const Fall& f : faelle) {
+        EXPECT_EQ(POSITION_TEILEN(f.zeile).werte.back(), f.letzter) << f.zeile;
+        EXPECT_EQ(POSITION_HEIL(POSITION_TEILEN(f.zeile)), f.heil) << f.zeile;
+    }
+}
+
 TEST(Rechnungsdatei, EineZeileVonZehnMegabyteKostetNichts) {
     Pruefstand p;
     p.ordner.schreiben("x.qk8", "qk8\r\n" + std::string(10U << 20U, 'x') + "\r\n#qk8LIST#;1;-;1;" +
