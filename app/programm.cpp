@@ -68,8 +68,10 @@ struct Programm::Teile {
     Dateibefehle dateibefehle{form1,     zustand, rechnung, vorgaben, summen, stand, platform.dialogs,
                               schreiber, leser,   nummern,  zuletzt};
     Lieferscheinoptionen lieferscheinoptionen{form1, einstellungen, platform.desktop};
+    Designdatei designdatei{verzeichnis, platform.dialogs, form1.Hinweise};
+    Belegdruck belegdruck{form1, einstellungen, werte, designdatei};
     Druckauftrag druckauftrag{
-        form1, einstellungen, werte, platform.dialogs, platform.printing, lieferscheinoptionen, [this] {
+        form1, einstellungen, belegdruck, platform.dialogs, platform.printing, lieferscheinoptionen, [this] {
             summen.jetztberechnen_List();
         }};
     Etiketten etiketten{form1, einstellungen, werte, platform.desktop, platform.dialogs, platform.printing};

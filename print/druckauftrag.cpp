@@ -14,15 +14,15 @@ constexpr Druckworte kWorte{"BERECHNEN...DRUCKEN...BLATT: ", "DRUCKEN ABGEBROCHE
 
 } // namespace
 
-Druckauftrag::Druckauftrag(Form1& form1, const frm_einstellungen& einstellungen,
-                           const PROGRAMMEINSTELLUNG& programm, Dialogs& dialogs, Printing& printing,
+Druckauftrag::Druckauftrag(Form1& form1, const frm_einstellungen& einstellungen, Belegdruck& belegdruck,
+                           Dialogs& dialogs, Printing& printing,
                            const Lieferscheinoptionen& lieferscheinoptionen,
                            std::function<void()> jetztberechnen_List)
     : form1_(form1),
       einstellungen_(einstellungen),
+      belegdruck_(belegdruck),
       lieferscheinoptionen_(lieferscheinoptionen),
       jetztberechnen_List_(std::move(jetztberechnen_List)),
-      rechnungsdruck_(form1, einstellungen, programm),
       exemplare_(form1, dialogs, printing, kWorte) {}
 
 std::string Druckauftrag::auftragstitel() const {
@@ -51,9 +51,9 @@ void Druckauftrag::drucke(Druckjustierung just, const Druckoptionen& optionen) {
         form1_.Hinweise.melden("Es ist kein Layout gewählt, deshalb wurde nichts gedruckt.");
         return;
     }
-    exemplare_.drucken(anzahl, auftragstitel(), [this, just, &optionen](PrintSurface& surface) {
-        rechnungsdruck_.DRUCKE_RECHNUNG(surface, just, optionen);
-    });
+    const Druckvorlage vorlage = belegdruck_.vorbereiten(optionen);
+    exemplare_.drucken(anzahl, auftragstitel(),
+                       [just, &vorlage](PrintSurface& surface) { vorlage.DRUCKEN(surface, just); });
 }
 
 } // namespace quittika

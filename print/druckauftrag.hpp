@@ -3,11 +3,10 @@
 #include "invoice/form1.hpp"
 #include "platform/dialogs.hpp"
 #include "platform/printing.hpp"
+#include "print/belegdruck.hpp"
 #include "print/exemplardruck.hpp"
 #include "print/lieferscheinoptionen.hpp"
-#include "print/rechnungsdruck.hpp"
 #include "settings/frm_einstellungen.hpp"
-#include "settings/programmeinstellung.hpp"
 
 #include <functional>
 #include <string>
@@ -18,7 +17,7 @@ namespace quittika {
 class Druckauftrag {
 public:
     /// `jetztberechnen_List` brings the result fields of the main window up to date.
-    Druckauftrag(Form1& form1, const frm_einstellungen& einstellungen, const PROGRAMMEINSTELLUNG& programm,
+    Druckauftrag(Form1& form1, const frm_einstellungen& einstellungen, Belegdruck& belegdruck,
                  Dialogs& dialogs, Printing& printing, const Lieferscheinoptionen& lieferscheinoptionen,
                  std::function<void()> jetztberechnen_List);
 
@@ -34,9 +33,9 @@ private:
 
     Form1& form1_;
     const frm_einstellungen& einstellungen_;
+    Belegdruck& belegdruck_;
     const Lieferscheinoptionen& lieferscheinoptionen_;
     std::function<void()> jetztberechnen_List_;
-    Rechnungsdruck rechnungsdruck_;
     Exemplardruck exemplare_;
 };
 

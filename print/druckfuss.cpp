@@ -1,7 +1,5 @@
 #include "print/druckfuss.hpp"
 
-#include <string>
-
 namespace quittika {
 
 namespace {
@@ -9,9 +7,23 @@ namespace {
 constexpr double kGrundlinie = 272; ///< mm, with one line below the rule
 constexpr double kJeWeitereZeile = 5;
 constexpr double kBlattbreite = 297; ///< the rule runs over the sheet's right edge
-constexpr double kSchriftFuss = 8;
 
 } // namespace
+
+std::vector<Bankfeld> BANKFELDER(const frm_einstellungen& e) {
+    if (e.Check_mit_IBAN_BIC_Drucken.ticked()) {
+        return {{e.Text_Institut.Text(), 10},
+                {e.Text_BLZ.Text(), 45},
+                {e.Text_KTO.Text(), 70},
+                {e.Text_IBAN.Text(), 99},
+                {e.Text_BIC.Text(), 150}};
+    }
+    return {{e.Text_Institut.Text(), 21}, {e.Text_BLZ.Text(), 88}, {e.Text_KTO.Text(), 149}};
+}
+
+std::string SEITENZAHL(int seite, int seiten) {
+    return "Seite " + std::to_string(seite) + "/" + std::to_string(seiten);
+}
 
 void Druckfuss::DRUCKE_BEMERKUNGEN(Blatt& blatt) const {
     const bool versand = form1_.Check_Versandkosten.ticked();
@@ -40,23 +52,6 @@ double Druckfuss::grundlinie() const {
     return kGrundlinie - weitere * kJeWeitereZeile;
 }
 
-void Druckfuss::bankvorlage(Blatt& blatt, double y) const {
-    struct Feld {
-        const TextBox& text;
-        double x;
-        double x_mit_iban;
-    };
-    const frm_einstellungen& e = einstellungen_;
-    const bool iban = e.Check_mit_IBAN_BIC_Drucken.ticked();
-    for (const Feld& feld : {Feld{e.Text_Institut, 21, 10}, {e.Text_BLZ, 88, 45}, {e.Text_KTO, 149, 70}}) {
-        DRUCKTEXT_LINKS(blatt, feld.text.Text(), iban ? feld.x_mit_iban : feld.x, y + 7);
-    }
-    if (iban) {
-        DRUCKTEXT_LINKS(blatt, e.Text_IBAN.Text(), 99, y + 7);
-        DRUCKTEXT_LINKS(blatt, e.Text_BIC.Text(), 150, y + 7);
-    }
-}
-
 void Druckfuss::freie_zeilen(Blatt& blatt, double y) const {
     DRUCKTEXT_LINKS(blatt, einstellungen_.Text_Bankverb1.Text(), 10, y + 7);
     if (einstellungen_.Check_Bankverb_Zeile2.ticked()) {
@@ -70,7 +65,7 @@ void Druckfuss::freie_zeilen(Blatt& blatt, double y) const {
 void Druckfuss::DRUCKE_FUSSZEILE(Blatt& blatt, int seite, int seiten) const {
     const double y = grundlinie();
     if (einstellungen_.Check_SEITENZAHLDRUCKEN.ticked()) {
-        DRUCKTEXT_MITTE(blatt, "Seite " + std::to_string(seite) + "/" + std::to_string(seiten), 100, y);
+        DRUCKTEXT_MITTE(blatt, SEITENZAHL(seite, seiten), 100, y);
     }
     if (einstellungen_.Check_BANKLINIE.ticked()) {
         blatt.surface.Line(blatt.X(0), blatt.Y(y + 5), blatt.X(kBlattbreite), blatt.Y(y + 5),
@@ -80,7 +75,9 @@ void Druckfuss::DRUCKE_FUSSZEILE(Blatt& blatt, int seite, int seiten) const {
     blatt.surface.ForeColor = programm_.FARBE_BANKDATEN;
     const bool vorlage = einstellungen_.Option_BankVerb_Vorgabe.Value();
     if (vorlage) {
-        bankvorlage(blatt, y);
+        for (const Bankfeld& feld : BANKFELDER(einstellungen_)) {
+            DRUCKTEXT_LINKS(blatt, feld.text, feld.x, y + 7);
+        }
     }
     blatt.surface.ForeColor = color::kBlack;
     if (!vorlage) {

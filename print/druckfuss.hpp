@@ -5,7 +5,23 @@
 #include "settings/frm_einstellungen.hpp"
 #include "settings/programmeinstellung.hpp"
 
+#include <string>
+#include <vector>
+
 namespace quittika {
+
+inline constexpr double kSchriftFuss = 8; ///< points, of the bank lines
+
+/// A field of the bank template.
+struct Bankfeld {
+    std::string text;
+    double x; ///< mm, not adjusted
+};
+/// The fields of the bank template from left to right, with IBAN and BIC where they are printed.
+std::vector<Bankfeld> BANKFELDER(const frm_einstellungen& einstellungen);
+
+/// "Seite 2/3".
+std::string SEITENZAHL(int seite, int seiten);
 
 /// What stands below the positions and totals of a page.
 class Druckfuss {
@@ -21,7 +37,6 @@ public:
 
 private:
     double grundlinie() const;
-    void bankvorlage(Blatt& blatt, double y) const;
     void freie_zeilen(Blatt& blatt, double y) const;
 
     const Form1& form1_;

@@ -14,11 +14,17 @@ namespace {
 constexpr double kBlattbreite = 210;
 constexpr double kBlatthoehe = 296.1;
 constexpr Color kFarbeFaltmarken = color::rgb(120, 120, 120);
-constexpr double kSchriftKopf = 11;
 constexpr int kLeerzeilenVorKundennr = 2;
 constexpr double kTabellenbeginn = 133; ///< the first rule follows 2 mm below
 
 } // namespace
+
+std::vector<std::string> KUNDENZEILEN(const Form1& form1) {
+    const std::string telefon =
+        form1.Check_tele_nichtdrucken.ticked() ? std::string() : KUNDENTEXT(form1, form1.Text_Kunde_4);
+    return {KUNDENTEXT(form1, form1.Text_Kunde_1), KUNDENTEXT(form1, form1.Text_Kunde_2),
+            KUNDENTEXT(form1, form1.Text_Kunde_3), telefon};
+}
 
 void Druckkopf::DRUCKE_WASSERZEICHEN(Blatt& blatt) const {
     if (einstellungen_.Check_mit_Wasserz.ticked()) {
@@ -53,11 +59,9 @@ void Druckkopf::kundenblock(Blatt& blatt) const {
     PrintSurface& surface = blatt.surface;
     surface.FontBold = false;
     surface.CurrentY = blatt.Y(55);
-    for (const TextBox* zeile :
-         {&form1_.Text_Kunde_1, &form1_.Text_Kunde_2, &form1_.Text_Kunde_3, &form1_.Text_Kunde_4}) {
-        const bool weglassen = zeile == &form1_.Text_Kunde_4 && form1_.Check_tele_nichtdrucken.ticked();
+    for (const std::string& zeile : KUNDENZEILEN(form1_)) {
         surface.CurrentX = blatt.X(29);
-        surface.Print(weglassen ? std::string() : KUNDENTEXT(form1_, *zeile));
+        surface.Print(zeile);
     }
     blatt.leerzeilen(kLeerzeilenVorKundennr);
     surface.CurrentX = blatt.X(29);

@@ -5,7 +5,16 @@
 #include "settings/frm_einstellungen.hpp"
 #include "settings/programmeinstellung.hpp"
 
+#include <string>
+#include <vector>
+
 namespace quittika {
+
+inline constexpr double kSchriftKopf = 11; ///< points, of all in the head that has no size of its own
+
+/// The lines of the customer block: empty what holds its placeholder, and the telephone where it is not
+/// wanted.
+std::vector<std::string> KUNDENZEILEN(const Form1& form1);
 
 /// What stands above the positions of a page.
 class Druckkopf {

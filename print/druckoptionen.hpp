@@ -6,7 +6,8 @@ namespace quittika {
 struct Lieferscheinangaben {
     bool werbespruch = true;
     bool bemerkungen = true;
-    bool preise = true;
+    bool anschreiben = true; ///< in the user's own design
+    bool preise = true;      ///< in the built-in designs
 };
 
 /// In what the ways to paper and to the screen differ.

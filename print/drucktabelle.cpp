@@ -46,16 +46,16 @@ Drucktabelle::Drucktabelle(const Form1& form1, const frm_einstellungen& einstell
 
 void Drucktabelle::DRUCKE_POSITIONEN(Blatt& blatt, Zeilenbereich zeilen) const {
     linie(blatt, kLinks, kRechts, programm_.FARBE_LINIEN, 1);
-    ueberschriften(blatt);
+    UEBERSCHRIFTEN(blatt);
     linie(blatt, kLinks, kRechtsUnterKopf, programm_.FARBE_LINIEN);
     for (int index = zeilen.von; index <= zeilen.bis; ++index) {
-        zeile(blatt, index);
+        ZEILE(blatt, index);
     }
     linie(blatt, kLinks, kRechts, programm_.FARBE_LINIEN);
 }
 
-void Drucktabelle::ueberschriften(Blatt& blatt) const {
-    if (einstellungen_.Check_Positionendruck.ticked()) {
+void Drucktabelle::UEBERSCHRIFTEN(Blatt& blatt) const {
+    if (zeigt_positionen()) {
         DRUCKTEXT_RECHTS(blatt, form1_.Label_Pos.Caption(), kPositionsnummer, kUnveraendert);
     }
     DRUCKTEXT_RECHTS(blatt, form1_.Label_Menge.Caption(), spalten_.X_Menge + kVersatz, kUnveraendert);
@@ -68,33 +68,40 @@ void Drucktabelle::ueberschriften(Blatt& blatt) const {
     blatt.surface.Print(" ");
 }
 
-void Drucktabelle::zeile(Blatt& blatt, int index) const {
+bool Drucktabelle::DRUCKT(int index) const {
     const std::string& art = form1_.List_K.List(index);
-    if (art == "-") {
-        position(blatt, index);
-    } else if (art == "K") {
-        DRUCKTEXT_LINKS(blatt, form1_.List_Leistung.List(index), spalten_.X_Leistung, kUnveraendert);
-        blatt.surface.Print(" ");
+    // A quantity that is no number at all is billed, so it is printed.
+    return art == "K" || (art == "-" && double_versuch(form1_.List_Menge.List(index)) != 0.0);
+}
+
+double Drucktabelle::TEXTENDE(const PrintSurface& surface, int index) const {
+    return spalten_.X_Leistung + surface.TextWidth(form1_.List_Leistung.List(index));
+}
+
+void Drucktabelle::ZEILE(Blatt& blatt, int index) const {
+    if (!DRUCKT(index)) {
+        return;
     }
+    if (form1_.List_K.List(index) == "-") {
+        position(blatt, index);
+    } else {
+        DRUCKTEXT_LINKS(blatt, form1_.List_Leistung.List(index), spalten_.X_Leistung, kUnveraendert);
+    }
+    blatt.surface.Print(" ");
 }
 
 void Drucktabelle::position(Blatt& blatt, int index) const {
-    const std::string& menge = form1_.List_Menge.List(index);
-    if (double_versuch(menge) == 0.0) {
-        return; // what is no number at all is billed, so it is printed
-    }
-    if (einstellungen_.Check_Positionendruck.ticked()) {
+    if (zeigt_positionen()) {
         const std::string& nummer = form1_.List_pos.List(index);
         const auto wert = double_versuch(nummer);
         DRUCKTEXT_RECHTS(blatt, wert ? format_zahl(*wert, "000") : nummer, kPositionsnummer, kUnveraendert);
     }
-    DRUCKTEXT_RECHTS(blatt, menge, spalten_.X_Menge + kVersatz, kUnveraendert);
+    DRUCKTEXT_RECHTS(blatt, form1_.List_Menge.List(index), spalten_.X_Menge + kVersatz, kUnveraendert);
     DRUCKTEXT_LINKS(blatt, form1_.List_Leistung.List(index), spalten_.X_Leistung, kUnveraendert);
     if (preise_) {
         DRUCKTEXT_RECHTS(blatt, form1_.List_Preis.List(index), spalten_.X_Einzelpreis, kUnveraendert);
         DRUCKTEXT_RECHTS(blatt, form1_.List_Gesamtp.List(index), spalten_.X_Gesamt, kUnveraendert);
     }
-    blatt.surface.Print(" ");
 }
 
 void Drucktabelle::DRUCKE_UEBERTRAG(Blatt& blatt, const std::string& uebertrag) const {

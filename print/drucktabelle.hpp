@@ -31,17 +31,22 @@ public:
 
     const Spalten& spalten() const { return spalten_; }
     bool zeigt_preise() const { return preise_; }
+    bool zeigt_positionen() const { return einstellungen_.Check_Positionendruck.ticked(); }
 
     /// Prints headings and rows; a row prints on one line, however long its text is.
     void DRUCKE_POSITIONEN(Blatt& blatt, Zeilenbereich zeilen) const;
+    /// The parts of it: the line of headings, and one row, which takes no line where it prints nothing.
+    void UEBERSCHRIFTEN(Blatt& blatt) const;
+    void ZEILE(Blatt& blatt, int index) const;
+    bool DRUCKT(int index) const; ///< whether the row prints at all
+    /// Where the description of a row ends, mm, not adjusted.
+    double TEXTENDE(const PrintSurface& surface, int index) const;
     /// Prints the amount carried from the pages before.
     void DRUCKE_UEBERTRAG(Blatt& blatt, const std::string& uebertrag) const;
     /// Prints the sum so far.
     void DRUCKE_ZWISCHENSUMME(Blatt& blatt, const std::string& zwischensumme) const;
 
 private:
-    void ueberschriften(Blatt& blatt) const;
-    void zeile(Blatt& blatt, int index) const;
     void position(Blatt& blatt, int index) const;
 
     const Form1& form1_;

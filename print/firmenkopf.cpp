@@ -1,7 +1,6 @@
 #include "print/firmenkopf.hpp"
 
 #include <array>
-#include <string>
 
 namespace quittika {
 
@@ -37,9 +36,6 @@ constexpr std::array<Firmenkopf, 8> kFirmenkopf{{
     {149, 8, 45, 30, {43, Buendig::Rechts, 191}, {43, Buendig::Rechts, 191}},
 }};
 
-/// The design whose block the user's own design borrows.
-constexpr int kErsatzFuerEigenes = 2;
-
 void drucke_zeile(Blatt& blatt, const std::string& text, const Platz& platz) {
     if (platz.buendig == Buendig::Rechts) {
         DRUCKTEXT_RECHTS(blatt, text, platz.x, kUnveraendert);
@@ -51,16 +47,11 @@ void drucke_zeile(Blatt& blatt, const std::string& text, const Platz& platz) {
 }
 
 void drucke_block(Blatt& blatt, const frm_einstellungen& einstellungen, Color farbe, const Platz& platz) {
-    // The eighth field stands after the fourth.
-    const std::array<const TextBox*, 8> zeilen{&einstellungen.Text_firma_1, &einstellungen.Text_firma_2,
-                                               &einstellungen.Text_firma_3, &einstellungen.Text_firma_4,
-                                               &einstellungen.Text_firma_8, &einstellungen.Text_firma_5,
-                                               &einstellungen.Text_firma_6, &einstellungen.Text_firma_7};
     blatt.surface.ForeColor = farbe;
     blatt.surface.CurrentY = blatt.Y(platz.y);
     blatt.surface.FontBold = einstellungen.Check_FETT_firma1.ticked();
-    for (const TextBox* zeile : zeilen) {
-        drucke_zeile(blatt, zeile->Text(), platz);
+    for (const std::string& zeile : FIRMENZEILEN(einstellungen)) {
+        drucke_zeile(blatt, zeile, platz);
         blatt.surface.FontBold = false;
     }
     blatt.surface.ForeColor = color::kBlack;
@@ -68,10 +59,13 @@ void drucke_block(Blatt& blatt, const frm_einstellungen& einstellungen, Color fa
 
 } // namespace
 
+std::vector<std::string> FIRMENZEILEN(const frm_einstellungen& e) {
+    // The eighth field stands after the fourth.
+    return {e.Text_firma_1.Text(), e.Text_firma_2.Text(), e.Text_firma_3.Text(), e.Text_firma_4.Text(),
+            e.Text_firma_8.Text(), e.Text_firma_5.Text(), e.Text_firma_6.Text(), e.Text_firma_7.Text()};
+}
+
 void LAYOUT_FIRMENKOPF(Blatt& blatt, const frm_einstellungen& einstellungen, Color farbe, int layout) {
-    if (layout == kEigenesLayout) {
-        layout = kErsatzFuerEigenes;
-    }
     if (layout < 1 || layout > static_cast<int>(kFirmenkopf.size())) {
         return;
     }

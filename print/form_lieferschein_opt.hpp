@@ -10,6 +10,7 @@ struct Form_Lieferschein_opt : Form {
     Form_Lieferschein_opt()
         : Form("Form_Lieferschein_opt", "Lieferschein", {.width = twips(380), .height = twips(214)}) {
         Check_LIEFERSCH_ANSCHREIBEN.ToolTipText.adopt("Das Anschreiben druckt nur das eigene Layout");
+        Check_LIEFERSCH_PREISE.ToolTipText.adopt("Das eigene Layout druckt auf Lieferscheinen keine Preise");
     }
     CheckBox Check_LIEFERSCH_WERBESPRUCH{*this, "Check_LIEFERSCH_WERBESPRUCH", "Werbespruch drucken..."};
     CheckBox Check_LIEFERSCH_BEMERKUNGSTEXT{*this, "Check_LIEFERSCH_BEMERKUNGSTEXT",

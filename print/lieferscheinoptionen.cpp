@@ -20,18 +20,20 @@ Lieferscheinangaben Lieferscheinoptionen::check_LIEFERSCHEIN_PRINT() const {
         weiter = true;
         form.Close();
     };
-    const int haken = LAYOUT_GEWAEHLT(einstellungen_) == kEigenesLayout ? 0 : 1;
+    const bool eigenes = LAYOUT_GEWAEHLT(einstellungen_) == kEigenesLayout;
+    const int haken = eigenes ? 0 : 1;
     for (CheckBox* angabe : {&form.Check_LIEFERSCH_WERBESPRUCH, &form.Check_LIEFERSCH_BEMERKUNGSTEXT,
                              &form.Check_LIEFERSCH_ANSCHREIBEN, &form.Check_LIEFERSCH_PREISE}) {
         angabe->Value = haken;
     }
+    form.Check_LIEFERSCH_PREISE.Enabled = !eigenes;
     desktop_.adopt(form);
     form.Show(Modality::Modal);
     if (!weiter) {
         throw Laufzeitfehler(fehler::kDialogAbgebrochen);
     }
     return {form.Check_LIEFERSCH_WERBESPRUCH.ticked(), form.Check_LIEFERSCH_BEMERKUNGSTEXT.ticked(),
-            form.Check_LIEFERSCH_PREISE.ticked()};
+            form.Check_LIEFERSCH_ANSCHREIBEN.ticked(), form.Check_LIEFERSCH_PREISE.ticked()};
 }
 
 } // namespace quittika

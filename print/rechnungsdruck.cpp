@@ -20,25 +20,12 @@ bool Rechnungsdruck::mit_bemerkungen(bool letzte_seite, const Lieferscheinangabe
            (angaben.bemerkungen || !IST_LIEFERSCHEIN(form1_));
 }
 
-void Rechnungsdruck::betraege(Blatt& blatt, const Druckseite& seite, const Drucktabelle& tabelle) const {
-    if (!seite.erste()) {
-        tabelle.DRUCKE_UEBERTRAG(blatt, seite.uebertrag);
-    }
-    if (seite.letzte()) {
-        DRUCKE_SUMMENBLOCK(blatt, form1_, programm_.FARBE_LINIEN, tabelle.spalten().X_Gesamt);
-    } else {
-        tabelle.DRUCKE_ZWISCHENSUMME(blatt, seite.zwischensumme);
-    }
-}
-
 void Rechnungsdruck::seite_drucken(Blatt& blatt, const Druckseite& seite,
                                    const Druckoptionen& optionen) const {
     const Drucktabelle tabelle(form1_, einstellungen_, programm_, optionen);
     kopf(blatt, seite.erste(), optionen.lieferschein);
     tabelle.DRUCKE_POSITIONEN(blatt, seite.zeilen);
-    if (tabelle.zeigt_preise()) {
-        betraege(blatt, seite, tabelle);
-    }
+    DRUCKE_BETRAEGE(blatt, seite, tabelle, form1_, programm_.FARBE_LINIEN);
     if (mit_bemerkungen(seite.letzte(), optionen.lieferschein)) {
         fuss_.DRUCKE_BEMERKUNGEN(blatt);
     }

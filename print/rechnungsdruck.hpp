@@ -33,7 +33,6 @@ public:
 
 private:
     void kopf(Blatt& blatt, bool erste_seite, const Lieferscheinangaben& angaben) const;
-    void betraege(Blatt& blatt, const Druckseite& seite, const Drucktabelle& tabelle) const;
     void seite_drucken(Blatt& blatt, const Druckseite& seite, const Druckoptionen& optionen) const;
     bool mit_bemerkungen(bool letzte_seite, const Lieferscheinangaben& angaben) const;
 

@@ -1,7 +1,6 @@
 #include "print/summenblock.hpp"
 
 #include "invoice/belegtexte.hpp"
-#include "print/drucktabelle.hpp"
 
 #include <string>
 
@@ -83,6 +82,21 @@ void DRUCKE_SUMMENBLOCK(Blatt& blatt, const Form1& form1, Color farbe_linien, do
         block.versandkosten();
     }
     block.gesamtbetrag();
+}
+
+void DRUCKE_BETRAEGE(Blatt& blatt, const Druckseite& seite, const Drucktabelle& tabelle, const Form1& form1,
+                     Color farbe_linien) {
+    if (!tabelle.zeigt_preise()) {
+        return;
+    }
+    if (!seite.erste()) {
+        tabelle.DRUCKE_UEBERTRAG(blatt, seite.uebertrag);
+    }
+    if (seite.letzte()) {
+        DRUCKE_SUMMENBLOCK(blatt, form1, farbe_linien, tabelle.spalten().X_Gesamt);
+    } else {
+        tabelle.DRUCKE_ZWISCHENSUMME(blatt, seite.zwischensumme);
+    }
 }
 
 } // namespace quittika

@@ -42,7 +42,9 @@ struct Auftragsprobe : Pruefstand {
     /// What the user does in the modal window.
     std::function<void(Form& form)> bedienen = [](Form& form) { form.find("CMD_weiter")->Click(); };
     Lieferscheinoptionen optionen{form1, einstellungen, desktop};
-    Druckauftrag auftrag{form1,    einstellungen,          werte, druckdialoge, drucker,
+    Designdatei designdatei{verzeichnis, druckdialoge, form1.Hinweise};
+    Belegdruck belegdruck{form1, einstellungen, werte, designdatei};
+    Druckauftrag auftrag{form1,    einstellungen,          belegdruck, druckdialoge, drucker,
                          optionen, [this] { ++berechnet; }};
 
     Auftragsprobe() {
@@ -101,6 +103,7 @@ TEST(Druckauftrag, EinFehlerSagtSeinenGrundUndWasGedrucktIst) {
 TEST(Druckauftrag, EinLieferscheinFragtJedesMalNeuWasErZeigt) {
     Auftragsprobe p;
     p.form1.Option_LIEFERSCHEIN.Value = true;
+    p.form1.Text_Bemerkung1[1].Text = "Bemerkungen";
     for (OptionButton* layout : {&p.einstellungen.Option1_Layout, &p.einstellungen.Option9_Layout,
                                  &p.einstellungen.Option8_Layout}) {
         SCOPED_TRACE(layout->name());
@@ -112,12 +115,13 @@ TEST(Druckauftrag, EinLieferscheinFragtJedesMalNeuWasErZeigt) {
                                      "Check_LIEFERSCH_ANSCHREIBEN", "Check_LIEFERSCH_PREISE"}) {
                 EXPECT_EQ(static_cast<CheckBox*>(form.find(name))->ticked(), !eigenes) << name;
             }
-            static_cast<CheckBox*>(form.find("Check_LIEFERSCH_PREISE"))->Value = eigenes ? 1 : 0;
+            EXPECT_EQ(form.find("Check_LIEFERSCH_PREISE")->Enabled(), !eigenes);
             form.find("CMD_weiter")->Click();
         };
         EXPECT_EQ(p.drucken(), "DRUCKEN...");
-        EXPECT_EQ(p.drucker.papier.finden("Rechnungsbetrag") != nullptr, eigenes);
-        EXPECT_EQ(p.drucker.papier.finden("Ihr Werbespruch") != nullptr, !eigenes);
+        for (const char* text : {"Rechnungsbetrag", "Ihr Werbespruch", "Bemerkungen"}) {
+            EXPECT_EQ(p.drucker.papier.finden(text) != nullptr, !eigenes) << text;
+        }
     }
 }
 

@@ -3,7 +3,7 @@
 #include "platform/print_surface.hpp"
 #include "platform/text.hpp"
 #include "platform/zahlen.hpp"
-#include "print/rechnungsdruck.hpp"
+#include "print/belegdruck.hpp"
 #include "tests/feste_schrift.hpp"
 #include "tests/pruefstand.hpp"
 
@@ -92,7 +92,8 @@ private:
 /// An invoice without print adjustment, drawn on paper that can be read.
 struct Druckprobe : Pruefstand {
     FesteSchrift schrift;
-    Rechnungsdruck druck{form1, einstellungen, werte};
+    Designdatei designdatei{verzeichnis, dialoge, form1.Hinweise};
+    Belegdruck druck{form1, einstellungen, werte, designdatei};
 
     Druckprobe() {
         form1.Text_RNnr.Text = "7";
@@ -107,7 +108,7 @@ struct Druckprobe : Pruefstand {
         Papier papier;
         Papiergeraet geraet(papier);
         PrintSurface flaeche(geraet, schrift);
-        druck.DRUCKE_RECHNUNG(flaeche, just, optionen);
+        druck.vorbereiten(optionen).DRUCKEN(flaeche, just);
         return papier;
     }
 };

@@ -244,32 +244,40 @@ TEST(Druck, EinLieferscheinZeigtWasVerlangtIst) {
     struct Fall {
         const char* name;
         OptionButton Form1::*art;
-        Lieferscheinangaben angaben;
-        Lieferscheinangaben gedruckt;
+        Lieferscheinangaben verlangt;
     };
     const Fall faelle[] = {
-        {"Rechnung", &Form1::Option_RECHNUNG, {false, false, false}, {true, true, true}},
-        {"nichts", &Form1::Option_LIEFERSCHEIN, {false, false, false}, {false, false, false}},
-        {"Werbespruch", &Form1::Option_LIEFERSCHEIN_KOPIE, {true, false, false}, {true, false, false}},
-        {"Bemerkungen", &Form1::Option_LIEFERSCHEIN_KOPIE, {false, true, false}, {false, true, false}},
+        {"Rechnung", &Form1::Option_RECHNUNG, {false, false, false, false}},
+        {"nichts", &Form1::Option_LIEFERSCHEIN, {false, false, false, false}},
+        {"Werbespruch", &Form1::Option_LIEFERSCHEIN_KOPIE, {true, false, false, false}},
+        {"Bemerkungen", &Form1::Option_LIEFERSCHEIN_KOPIE, {false, true, false, false}},
+        {"Anschreiben", &Form1::Option_LIEFERSCHEIN, {false, false, true, false}},
+        {"Preise", &Form1::Option_LIEFERSCHEIN, {false, false, false, true}},
     };
     for (const Fall& f : faelle) {
-        SCOPED_TRACE(f.name);
-        Druckprobe p;
-        p.zeilen(18);
-        p.form1.Text_Bemerkung1[1].Text = "Bemerkung";
-        (p.form1.*f.art).Value = true;
-        const Papier papier = p.drucken({0, 0}, {f.angaben, 185});
-        EXPECT_NE(papier.finden("Posten"), nullptr);
-        for (const char* preis : {"10,00", "Einzelpreis", "Gesamtpreis", "Zwischensumme"}) {
-            EXPECT_EQ(papier.finden(preis) != nullptr, f.gedruckt.preise) << preis;
-        }
-        EXPECT_EQ(papier.finden("Übertrag", 2) != nullptr, f.gedruckt.preise);
-        EXPECT_EQ(papier.finden("Rechnungsbetrag", 2) != nullptr, f.gedruckt.preise);
-        EXPECT_EQ(papier.finden("Bemerkung", 2) != nullptr, f.gedruckt.bemerkungen);
-        EXPECT_EQ(papier.finden("Ihr Werbespruch") != nullptr, f.gedruckt.werbespruch);
-        if (f.gedruckt.preise) {
-            EXPECT_DOUBLE_EQ(papier.finden("Rechnungsbetrag", 2)->rechts, 185);
+        for (const bool eigenes : {false, true}) {
+            SCOPED_TRACE(f.name + std::string(eigenes ? " im eigenen Layout" : ""));
+            Druckprobe p;
+            p.einstellungen.Option9_Layout.Value = eigenes;
+            p.zeilen(18);
+            p.form1.Text_Bemerkung1[0].Text = "Anrede";
+            p.form1.Text_Bemerkung1[1].Text = "Bemerkung";
+            (p.form1.*f.art).Value = true;
+            const Papier papier = p.drucken({0, 0}, {f.verlangt, 185});
+            const bool rechnung = f.art == &Form1::Option_RECHNUNG;
+            const bool preise = rechnung || (f.verlangt.preise && !eigenes);
+            EXPECT_NE(papier.finden("Posten"), nullptr);
+            for (const char* preis : {"10,00", "Einzelpreis", "Gesamtpreis", "Zwischensumme"}) {
+                EXPECT_EQ(papier.finden(preis) != nullptr, preise) << preis;
+            }
+            EXPECT_EQ(papier.finden("Übertrag", 2) != nullptr, preise);
+            EXPECT_EQ(papier.finden("Rechnungsbetrag", 2) != nullptr, preise);
+            EXPECT_EQ(papier.finden("Bemerkung", 2) != nullptr, rechnung || f.verlangt.bemerkungen);
+            EXPECT_EQ(papier.finden("Ihr Werbespruch") != nullptr, rechnung || f.verlangt.werbespruch);
+            EXPECT_EQ(papier.finden("Anrede") != nullptr, eigenes && (rechnung || f.verlangt.anschreiben));
+            if (preise) {
+                EXPECT_DOUBLE_EQ(papier.finden("Rechnungsbetrag", 2)->rechts, 185);
+            }
         }
     }
 }

@@ -1,0 +1,23 @@
+#include "print/belegdruck.hpp"
+
+#include "print/eigenes_layout.hpp"
+
+namespace quittika {
+
+Belegdruck::Belegdruck(const Form1& form1, const frm_einstellungen& einstellungen,
+                       const PROGRAMMEINSTELLUNG& programm, Designdatei& designdatei)
+    : form1_(form1),
+      einstellungen_(einstellungen),
+      programm_(programm),
+      designdatei_(designdatei),
+      rechnungsdruck_(form1, einstellungen, programm) {}
+
+Druckvorlage Belegdruck::vorbereiten(const Druckoptionen& optionen) {
+    if (LAYOUT_GEWAEHLT(einstellungen_) != kEigenesLayout) {
+        return rechnungsdruck_.vorbereiten(optionen);
+    }
+    designdatei_.DESIGN_LADEN();
+    return DRUCKE_EIGENESLAYOUT(form1_, einstellungen_, programm_, designdatei_.design, optionen);
+}
+
+} // namespace quittika

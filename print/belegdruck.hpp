@@ -1,0 +1,30 @@
+#pragma once
+
+#include "designer/designdatei.hpp"
+#include "invoice/form1.hpp"
+#include "print/druckvorlage.hpp"
+#include "print/rechnungsdruck.hpp"
+#include "settings/frm_einstellungen.hpp"
+#include "settings/programmeinstellung.hpp"
+
+namespace quittika {
+
+/// Makes the document in hand ready to be drawn, for paper and screen.
+class Belegdruck {
+public:
+    Belegdruck(const Form1& form1, const frm_einstellungen& einstellungen,
+               const PROGRAMMEINSTELLUNG& programm, Designdatei& designdatei);
+
+    /// In the page design that is chosen. For the user's own its file is read, and a box says where that is
+    /// missing. Drawing needs this object.
+    Druckvorlage vorbereiten(const Druckoptionen& optionen = {});
+
+private:
+    const Form1& form1_;
+    const frm_einstellungen& einstellungen_;
+    const PROGRAMMEINSTELLUNG& programm_;
+    Designdatei& designdatei_;
+    Rechnungsdruck rechnungsdruck_;
+};
+
+} // namespace quittika

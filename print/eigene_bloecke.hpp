@@ -1,0 +1,45 @@
+#pragma once
+
+#include "designer/design.hpp"
+#include "invoice/form1.hpp"
+#include "print/druckoptionen.hpp"
+#include "print/druckseiten.hpp"
+#include "print/textblock.hpp"
+#include "settings/frm_einstellungen.hpp"
+#include "settings/programmeinstellung.hpp"
+
+#include <vector>
+
+namespace quittika {
+
+/// The blocks of the user's own design, each at its place in the design, in its size and colour.
+class EigeneBloecke {
+public:
+    EigeneBloecke(const Form1& form1, const frm_einstellungen& einstellungen,
+                  const PROGRAMMEINSTELLUNG& programm, const Design& design)
+        : form1_(form1), einstellungen_(einstellungen), programm_(programm), design_(design) {}
+
+    Textblock absender() const;
+    Textblock kunde() const;
+    Textblock kundennummer() const;
+    Textblock datum() const;
+    Textblock lieferdatum() const; ///< without lines while the delivery date is not ticked
+    Textblock werbespruch() const;
+    Textblock titel() const;
+    Textblock anschreiben() const;
+    Textblock bemerkungen() const;
+    Textblock seitenzahl(const Druckseite& seite) const; ///< without lines while page numbers are off
+    /// The bank data, a block each; each begins behind the one before where that is wider than its column.
+    std::vector<Textblock> bankzeilen(Blatt& blatt) const;
+
+private:
+    std::vector<std::string> textzeilen(int block) const;
+    std::vector<Textblock> freie_zeilen() const;
+
+    const Form1& form1_;
+    const frm_einstellungen& einstellungen_;
+    const PROGRAMMEINSTELLUNG& programm_;
+    const Design& design_;
+};
+
+} // namespace quittika
