@@ -1,5 +1,7 @@
 #include "platform/qt/print_metrics.hpp"
 
+#include "platform/qt/print_paper.hpp"
+
 #include <QFontDatabase>
 #include <QFontMetricsF>
 #include <QString>
@@ -11,8 +13,8 @@ namespace quittika {
 
 namespace {
 
-constexpr int kEm = 1000; ///< pixels at which outlines are measured
-constexpr double kMmPerPoint = 25.4 / 72;
+constexpr double kMmPerPoint = kMmPerInch / 72;
+constexpr int kEm = 1000;             ///< pixels at which outlines are measured
 constexpr char16_t kTableEnd = 0x250; ///< end of the Latin letters whose widths are kept
 constexpr const char* kFallbackFamily = "Liberation Sans";
 

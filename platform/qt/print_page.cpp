@@ -3,6 +3,7 @@
 #include "platform/datei.hpp"
 #include "platform/laufzeitfehler.hpp"
 #include "platform/qt/print_painter.hpp"
+#include "platform/qt/print_paper.hpp"
 #include "platform/qt/qt_text.hpp"
 
 #include <QBuffer>
@@ -17,9 +18,13 @@ namespace quittika {
 
 namespace {
 
-constexpr double kMmPerInch = 25.4;
-constexpr double kInchPerMetre = 1000 / kMmPerInch;
 constexpr int kFinest = 1200; ///< dots an inch
+
+void set_resolution(QImage& image, double dpi) {
+    constexpr double kInchPerMetre = 1000 / kMmPerInch;
+    image.setDotsPerMeterX(static_cast<int>(std::lround(dpi * kInchPerMetre)));
+    image.setDotsPerMeterY(image.dotsPerMeterX());
+}
 
 /// Draws one page on a picture that is there already.
 class PageDevice final : public PainterDevice {
@@ -53,12 +58,13 @@ QImage page_image(const DrawnPage& page, const QSize& sheet, PaintTools& tools) 
         throw Laufzeitfehler(fehler::kSpeicher);
     }
     const double pixels_per_mm = sheet.width() / page.paper.width;
-    const double dpi = std::max(1.0, std::round(pixels_per_mm * kMmPerInch));
-    image.setDotsPerMeterX(static_cast<int>(std::lround(dpi * kInchPerMetre)));
-    image.setDotsPerMeterY(image.dotsPerMeterX());
     image.fill(Qt::white);
-    PageDevice device(image, pixels_per_mm, tools);
-    replay(page, device);
+    {
+        set_resolution(image, kDrawingDpi);
+        PageDevice device(image, pixels_per_mm, tools);
+        replay(page, device);
+    }
+    set_resolution(image, std::max(1.0, std::round(pixels_per_mm * kMmPerInch)));
     return image;
 }
 

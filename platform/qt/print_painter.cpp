@@ -1,5 +1,8 @@
 #include "platform/qt/print_painter.hpp"
 
+#include "platform/qt/colors.hpp"
+#include "platform/qt/print_paper.hpp"
+
 #include <QPaintDevice>
 #include <QPen>
 
@@ -10,16 +13,8 @@ namespace quittika {
 
 namespace {
 
-constexpr double kLineWidth = 0.2; ///< mm
-constexpr double kMmPerInch = 25.4;
+constexpr double kLineWidth = 0.2;     ///< mm
 constexpr double kFinestPicture = 600; ///< dots an inch; what is finer would only make the document larger
-
-QColor to_qcolor(Color color) {
-    if (color < 0) {
-        return Qt::black;
-    }
-    return QColor(color & 0xFF, (color >> 8) & 0xFF, (color >> 16) & 0xFF);
-}
 
 QImage greys_of(const QImage& picture) {
     QImage grey = picture.convertToFormat(QImage::Format_ARGB32);
@@ -36,7 +31,7 @@ QImage greys_of(const QImage& picture) {
 } // namespace
 
 QColor PainterDevice::ink(Color color) const {
-    const QColor full = to_qcolor(color);
+    const QColor full = to_qt(std::max(color, color::kBlack));
     const int value = qGray(full.rgb());
     return grey_ ? QColor(value, value, value) : full;
 }
@@ -47,8 +42,9 @@ bool PainterDevice::begin(QPaintDevice& device, double pixels_per_mm) {
     if (!painter_.begin(&device)) {
         return false;
     }
-    // Fonts follow the device's own resolution, a whole number of dots an inch; the rest is scaled to it.
+    // Fonts follow the resolution that the device names; what is drawn is scaled to its pixels.
     pixels_per_mm_ = device.logicalDpiX() / kMmPerInch;
+    dpi_ = pixels_per_mm * kMmPerInch;
     if (const double rest = pixels_per_mm / pixels_per_mm_; std::abs(rest - 1) > 1e-9) {
         painter_.scale(rest, rest);
     }
@@ -96,7 +92,7 @@ const QImage& PainterDevice::ready(const std::string& path, const QSize& box) {
     const QImage source = tools_.pictures.image(path);
     ReadyPicture& picture = pictures_[path];
     if (picture.image.isNull() || picture.source != source.cacheKey() || picture.box != box) {
-        const double share = std::min(1.0, kFinestPicture / (pixels_per_mm_ * kMmPerInch));
+        const double share = std::min(1.0, kFinestPicture / dpi_);
         const QSize useful = (QSizeF(box) * share).toSize().boundedTo(source.size()).expandedTo({1, 1});
         const QImage small = useful == source.size()
                                  ? source

@@ -54,7 +54,8 @@ private:
 
     PaintTools& tools_;
     QPainter painter_;
-    double pixels_per_mm_ = 1;
+    double pixels_per_mm_ = 1; ///< as the painter counts them
+    double dpi_ = 1;           ///< of the device
     bool grey_ = false;
     std::vector<ReadyFont> fonts_;
     std::size_t set_font_ = 0; ///< one more than the index of the painter's font, 0 at first

@@ -10,23 +10,17 @@
 
 namespace quittika {
 
-namespace {
-
-constexpr int kResolution = 1200; ///< dots per inch
-
-} // namespace
-
 QtPdfDevice::QtPdfDevice(PaintTools& tools, QString path, const PrintDocument& document, bool grey)
     : PainterDevice(tools), path_(std::move(path)) {
     if (grey) {
         draw_grey();
     }
     content_.open(QIODevice::WriteOnly);
-    writer_.setResolution(kResolution);
+    writer_.setResolution(kDrawingDpi);
     writer_.setPageLayout(page_layout(document.paper));
     writer_.setTitle(to_qt(document.title));
     writer_.setCreator(QStringLiteral("Quittika 2008"));
-    if (!begin(writer_, kResolution / 25.4)) {
+    if (!begin(writer_, kDrawingDpi / kMmPerInch)) {
         throw Laufzeitfehler(fehler::kDrucker);
     }
 }

@@ -11,7 +11,6 @@ namespace quittika {
 
 namespace {
 
-constexpr int kResolution = 1200; ///< dots per inch
 constexpr const char* kRefused = "Der Drucker hat den Auftrag nicht angenommen.";
 
 } // namespace
@@ -21,13 +20,13 @@ QtPrinterDevice::QtPrinterDevice(PaintTools& tools, QPrinter& printer, const Pri
     if (const std::string obstacle = obstacle_to_printing(printer_.printerName()); !obstacle.empty()) {
         throw Laufzeitfehler(fehler::kDrucker, obstacle);
     }
-    printer_.setResolution(kResolution);
+    printer_.setResolution(kDrawingDpi);
     printer_.setPageLayout(page_layout(document.paper));
     // The program prints each copy as a job of its own.
     printer_.setCopyCount(1);
     printer_.setDocName(to_qt(document.title));
     printer_.setCreator(QStringLiteral("Quittika 2008"));
-    if (!begin(printer_, printer_.resolution() / 25.4)) {
+    if (!begin(printer_, printer_.resolution() / kMmPerInch)) {
         throw Laufzeitfehler(fehler::kDrucker, kRefused);
     }
 }

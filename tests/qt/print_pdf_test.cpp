@@ -1,4 +1,6 @@
 #include "platform/print_surface.hpp"
+#include "platform/qt/print_page.hpp"
+#include "platform/qt/print_paper.hpp"
 #include "platform/qt/print_pdf.hpp"
 
 #include <gtest/gtest.h>
@@ -42,6 +44,20 @@ Word word_of(const QString& boxes, const QString& word) {
     return {millimetres(1), millimetres(2), millimetres(3)};
 }
 
+/// Where the ink ends on the right, in pixels; the last one counts by its darkness.
+double ink_end(const QImage& page) {
+    for (int x = page.width() - 1; x >= 0; --x) {
+        int darkest = 255;
+        for (int y = 0; y < page.height(); ++y) {
+            darkest = std::min(darkest, qGray(page.pixel(x, y)));
+        }
+        if (darkest < 250) {
+            return x + (255 - darkest) / 255.0;
+        }
+    }
+    return -1;
+}
+
 class PdfTest : public ::testing::Test {
 protected:
     QTemporaryDir folder;
@@ -75,6 +91,42 @@ TEST_F(PdfTest, WordsStandWhereTheyWereDrawn) {
     EXPECT_NEAR(first.right - first.left, width, 0.2) << "what was measured is what was drawn";
     EXPECT_NEAR(first.top, 66, 1.0);
     EXPECT_NEAR(word_of(boxes, "Größe").left, 104, 0.2) << "on every page";
+}
+
+TEST_F(PdfTest, ColumnsEndAtTheSamePlaceAsOnPictures) {
+    constexpr int kDpi = 200;
+    constexpr double kPixel = kMmPerInch / kDpi;
+    constexpr int kRow = 80; ///< pixels
+    const auto job = std::make_shared<RecordedJob>(PrintDocument{"x"});
+    RecordingDevice record(job, tools.pictures);
+    PrintSurface surface(record, tools.metrics);
+    int rows = 0;
+    for (const char* font : {"Arial", "Courier New"}) {
+        for (const double size : {8.0, 9.5, 11.0}) {
+            for (const char* text :
+                 {"H", "1.234,56 H", "123 Stück je 1.234,56 EUR, 19,00 % MwSt. iiiillll HHHH"}) {
+                surface.FontName = font;
+                surface.FontSize = size;
+                surface.CurrentX = 190 - surface.TextWidth(text);
+                surface.CurrentY = rows++ * kRow * kPixel;
+                surface.PrintOn(text);
+            }
+        }
+    }
+    QtPdfDevice pdf(tools, path, job->document);
+    replay(*job, pdf);
+    pdf.end_document();
+    output_of("pdftoppm",
+              {"-r", QString::number(kDpi), "-png", "-singlefile", path, folder.filePath("blatt")});
+    const QImage paper(folder.filePath("blatt.png"));
+    const QImage picture = page_image(job->pages.front(), paper.size(), tools);
+    for (int row = 0; row < rows; ++row) {
+        const auto end = [row](const QImage& page) {
+            return ink_end(page.copy(0, row * kRow + 47, page.width(), kRow)) * kPixel;
+        };
+        EXPECT_NEAR(end(paper), 194 - 0.25, 0.25) << row;
+        EXPECT_NEAR(end(picture), end(paper), 0.1) << row;
+    }
 }
 
 TEST_F(PdfTest, EachPageHasThePaperOfItsDocument) {
