@@ -90,9 +90,10 @@ void Etikettenfenster::Geaendert() {
 void Etikettenfenster::FormularZeigen() {
     form_.Timer_Formular.Enabled = false;
     const Etiketteninhalt inhalt = this->inhalt();
+    const Paper& papier = etikett_.bild.at(inhalt.schmal ? 1 : 0);
     const std::unique_ptr<PrintDevice> bild =
-        printing_.picture(form_.Picture_Formular, {etikett_.name, etikett_.bild.at(inhalt.schmal ? 1 : 0)});
-    NachsichtigesGeraet geraet(*bild);
+        printing_.picture(form_.Picture_Formular, {etikett_.name, papier});
+    NachsichtigesGeraet geraet(*bild, papier);
     PrintSurface surface(geraet, printing_.metrics());
     surface.FontName = programm_.RECHNUNGSSCHRIFT;
     ZEICHNE_FORMULAR(surface, etikett_, inhalt);

@@ -51,8 +51,9 @@ void Exemplardruck::drucken(int anzahl, const std::string& titel, const Zeichnun
 }
 
 void Exemplardruck::exemplar(const std::string& titel, const Zeichnung& zeichnung) {
-    const std::unique_ptr<PrintDevice> drucker = printing_.printer({titel});
-    NachsichtigesGeraet geraet(*drucker);
+    const PrintDocument dokument{titel};
+    const std::unique_ptr<PrintDevice> drucker = printing_.printer(dokument);
+    NachsichtigesGeraet geraet(*drucker, dokument.paper);
     PrintSurface surface(geraet, printing_.metrics());
     zeichnung(surface);
     if (!geraet.fehlendes_bild().empty()) {

@@ -11,7 +11,8 @@ namespace quittika {
 /// A failing page feed or end of the document is still reported.
 class NachsichtigesGeraet final : public PrintDevice {
 public:
-    explicit NachsichtigesGeraet(PrintDevice& geraet) : geraet_(geraet) {}
+    /// `papier`: the sheet that `geraet` draws on.
+    NachsichtigesGeraet(PrintDevice& geraet, const Paper& papier) : geraet_(geraet), ueberdruck_(papier) {}
 
     void text(double left, double top, double width, const PrintFont& font, Color color,
               std::string_view text) override;

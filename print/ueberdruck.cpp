@@ -12,8 +12,6 @@ constexpr double kMmJePunkt = 25.4 / 72;
 // Of the font's size, from the top of the line box: what capital letters and figures fill.
 constexpr double kVersalien = 0.18;
 constexpr double kGrundlinie = 0.9;
-constexpr double kRechterRand = 210 - kOriginLeft;
-constexpr double kUntererRand = 297 - kOriginTop;
 constexpr std::size_t kZitat = 30; ///< characters of a text that are shown
 
 std::string zitat(const std::string& text) {
@@ -36,7 +34,8 @@ void Ueberdruck::text(double left, double top, double width, const PrintFont& fo
     });
     if (bedeckt != bilder_.end()) {
         melden("stehen " + zitat(bedeckt->text) + " und " + zitat(neu.text) + " übereinander");
-    } else if (neu.links < -kOriginLeft || neu.rechts > kRechterRand || neu.unten > kUntererRand) {
+    } else if (neu.links < -kOriginLeft || neu.rechts > papier_.width - kOriginLeft ||
+               neu.unten > papier_.height - kOriginTop) {
         melden("ragt " + zitat(neu.text) + " über das Blatt hinaus");
     }
     bilder_.push_back(neu);

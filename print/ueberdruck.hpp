@@ -12,6 +12,8 @@ namespace quittika {
 /// settings put it, so a long title reaches into the date and remarks below a full page into the footer.
 class Ueberdruck {
 public:
+    explicit Ueberdruck(const Paper& papier) : papier_(papier) {}
+
     /// A text of the present page; its line box begins at `left`, `top` and is `width` wide, in mm.
     void text(double left, double top, double width, const PrintFont& font, std::string_view text);
     void neue_seite();
@@ -30,6 +32,7 @@ private:
         std::string text;
     };
 
+    Paper papier_;
     std::vector<Druckbild> bilder_; ///< of the present page
     int seite_ = 1;
     std::string befund_;
