@@ -47,7 +47,7 @@ bool DriveView::eventFilter(QObject* watched, QEvent* event) {
     if (is_opened(*event) || event->type() == QEvent::MouseButtonPress || event->type() == QEvent::KeyPress) {
         read();
     }
-    return TypedView::eventFilter(watched, event);
+    return passes_by(*event, widget_) || TypedView::eventFilter(watched, event);
 }
 
 DirectoryView::DirectoryView(DirListBox& control, QTreeView& widget) : TypedView(control, widget) {

@@ -240,11 +240,7 @@ ComboBoxView::ComboBoxView(ComboBox& control, QComboBox& widget) : TypedView(con
 }
 
 bool ComboBoxView::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::Wheel && !widget_.hasFocus()) {
-        event->ignore(); // turning the page must not change what the mouse passes by
-        return true;
-    }
-    return WidgetView::eventFilter(watched, event);
+    return passes_by(*event, widget_) || WidgetView::eventFilter(watched, event);
 }
 
 void ComboBoxView::push_all() {

@@ -2,7 +2,6 @@
 
 #include "platform/qt/guard.hpp"
 
-#include <QEvent>
 #include <QScrollBar>
 
 #include <algorithm>
@@ -33,11 +32,7 @@ RangeView::RangeView(RangeControl& control, QAbstractSlider& widget) : TypedView
 }
 
 bool RangeView::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::Wheel && !widget_.hasFocus()) {
-        event->ignore();
-        return true;
-    }
-    return WidgetView::eventFilter(watched, event);
+    return passes_by(*event, widget_) || WidgetView::eventFilter(watched, event);
 }
 
 void RangeView::push_all() {

@@ -280,6 +280,14 @@ bool WidgetView::drop(QDropEvent& event) {
     return true;
 }
 
+bool passes_by(QEvent& event, const QWidget& widget) {
+    if (event.type() != QEvent::Wheel || widget.hasFocus()) {
+        return false;
+    }
+    event.ignore();
+    return true;
+}
+
 void take_copy(QDropEvent& event, bool accepted) {
     // Never a move: the one who dragged would then take the text away.
     event.setDropAction(Qt::CopyAction);

@@ -71,6 +71,9 @@ private:
     std::unique_ptr<WidgetPlace> place_; ///< where the program cares for it
 };
 
+/// Whether the event is a wheel that only turns the page: it must not change what it passes by without focus.
+bool passes_by(QEvent& event, const QWidget& widget);
+
 /// Answers what is dragged over a widget or dropped on it: taken as a copy, or not at all.
 void take_copy(QDropEvent& event, bool accepted);
 

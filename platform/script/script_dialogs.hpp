@@ -34,7 +34,7 @@ using Choice = std::variant<choice::File, choice::Colour, choice::Font, choice::
 /// Dialogs that are answered by queues. What is not queued is answered no (boxes) or cancelled.
 class ScriptDialogs final : public Dialogs {
 public:
-    /// The first queued answer is taken if the box has that button; else it waits for a later box.
+    /// Takes the first queued answer that the box has a button for; the others wait for a later box.
     Answer message(const MessageBox& box) override;
     /// The dialogs take the first queued choice of their kind, a cancel or a failure.
     std::string open_file(const FileDialog& dialog) override;

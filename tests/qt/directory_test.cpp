@@ -10,6 +10,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTreeView>
+#include <QWheelEvent>
 
 namespace quittika::test {
 
@@ -45,6 +46,11 @@ TEST(DirectoryLists, AreReadAnewAtEachOpeningAndKeepTheChoice) {
     drives.addItem("fort", "/media/fort");
     QTest::mousePress(&drives, Qt::LeftButton);
     EXPECT_EQ(drives.count(), there) << "the user reaches for it";
+    drives.setCurrentIndex(0);
+    tree.setFocus();
+    QWheelEvent down({5, 5}, {5, 5}, {}, {0, -120}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(&drives, &down);
+    EXPECT_EQ(form.Drive1.Path(), "/") << "passed by";
     emit drives.activated(there - 1);
     EXPECT_EQ(form.Drive1.Path(), LAUFWERKE().back().pfad);
     const auto& model = *tree.model();
