@@ -14,7 +14,8 @@ constexpr std::string_view kEndung = ".QK8";
 } // namespace
 
 MenueDatei::MenueDatei(Form1& form1, const Ereignisse& ereignisse, Dateibefehle& dateibefehle,
-                       Druckauftrag& druckauftrag, Hauptfenster& hauptfenster, Kopf& kopf, Raster& raster)
+                       Textexport& textexport, Druckauftrag& druckauftrag, Hauptfenster& hauptfenster,
+                       Kopf& kopf, Raster& raster)
     : form1_(form1), dateibefehle_(dateibefehle) {
     form1.m_neu.Click = ereignisse.befehl([&dateibefehle, &kopf] {
         dateibefehle.m_neu_Click();
@@ -26,9 +27,11 @@ MenueDatei::MenueDatei(Form1& form1, const Ereignisse& ereignisse, Dateibefehle&
          {static_cast<Control*>(&form1.m_Drucken), static_cast<Control*>(&form1.Command_printform)}) {
         drucken->Click = ereignisse.befehl([&druckauftrag] { druckauftrag.Command_printform_Click(); });
     }
+    form1.m_Rechnung_txt_export.Click =
+        ereignisse.befehl([&textexport] { textexport.m_Rechnung_txt_export_Click(); });
     form1.m_beenden.Click = ereignisse.befehl([&hauptfenster] { hauptfenster.m_beenden_Click(); });
-    SPERREN({&form1.m_Rechnung_txt_export, &form1.m_Rechnung_bmp_export, &form1.CMD_AS_BILD,
-             &form1.m_Vorschau, &form1.Command_Druckvorschau});
+    SPERREN(
+        {&form1.m_Rechnung_bmp_export, &form1.CMD_AS_BILD, &form1.m_Vorschau, &form1.Command_Druckvorschau});
 }
 
 void MenueDatei::OeffnenVerdrahten(const Ereignisse& ereignisse, Raster& raster) {

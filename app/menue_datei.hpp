@@ -5,6 +5,7 @@
 #include "app/kopf.hpp"
 #include "app/raster.hpp"
 #include "invoice/file/dateibefehle.hpp"
+#include "invoice/file/textexport.hpp"
 #include "print/druckauftrag.hpp"
 
 #include <string>
@@ -16,7 +17,7 @@ namespace quittika {
 /// window.
 class MenueDatei {
 public:
-    MenueDatei(Form1& form1, const Ereignisse& ereignisse, Dateibefehle& dateibefehle,
+    MenueDatei(Form1& form1, const Ereignisse& ereignisse, Dateibefehle& dateibefehle, Textexport& textexport,
                Druckauftrag& druckauftrag, Hauptfenster& hauptfenster, Kopf& kopf, Raster& raster);
 
 private:

@@ -18,6 +18,7 @@
 #include "app/raster.hpp"
 #include "app/startfenster.hpp"
 #include "invoice/erste_rechnung.hpp"
+#include "invoice/file/textexport.hpp"
 #include "print/druckauftrag.hpp"
 #include "print/leistungsspalte.hpp"
 #include "print/lieferscheinoptionen.hpp"
@@ -67,6 +68,7 @@ struct Programm::Teile {
     Rechnungsleser leser{form1, werte, zustand, rechnung, stand, platform.dialogs};
     Dateibefehle dateibefehle{form1,     zustand, rechnung, vorgaben, summen, stand, platform.dialogs,
                               schreiber, leser,   nummern,  zuletzt};
+    Textexport textexport{form1, einstellungen, summen, verzeichnis, platform.dialogs, platform.shell};
     Lieferscheinoptionen lieferscheinoptionen{form1, einstellungen, platform.desktop};
     Designdatei designdatei{verzeichnis, platform.dialogs, form1.Hinweise};
     Belegdruck belegdruck{form1, einstellungen, werte, designdatei};
@@ -90,7 +92,8 @@ struct Programm::Teile {
     Ladefolge ladefolge{form1, zustand,        platform.desktop, einstellungsstart,
                         logo,  erste_rechnung, raster,           summen};
     Hauptfenster hauptfenster{form1, zustand, ladefolge, kopf, dateibefehle, platform.desktop};
-    MenueDatei menue_datei{form1, ereignisse, dateibefehle, druckauftrag, hauptfenster, kopf, raster};
+    MenueDatei menue_datei{form1,        ereignisse,   dateibefehle, textexport,
+                           druckauftrag, hauptfenster, kopf,         raster};
     MenueHilfe menue_hilfe{form1,          ereignisse,       verzeichnis,     werte,
                            platform.shell, platform.dialogs, platform.desktop};
     Startfenster startfenster{form_start, werte, verzeichnis, platform.clock, [this] { form1.Show(); }};

@@ -14,4 +14,11 @@ void DOKUMENT_OEFFNEN(const std::string& dokument, Shell& shell, Dialogs& dialog
     }
 }
 
+void OEFFNEN_ANBIETEN(const std::string& name, const std::string& pfad, Dialogs& dialogs, Shell& shell) {
+    if (dialogs.message({"Soll die Datei [" + name + "] jetzt geöffnet werden?", "Quittika", Buttons::YesNo,
+                         Symbol::Question}) == Answer::Yes) {
+        DOKUMENT_OEFFNEN(pfad, shell, dialogs);
+    }
+}
+
 } // namespace quittika

@@ -7,12 +7,6 @@
 
 namespace quittika {
 
-namespace {
-
-constexpr const char* kSpeicherfehler = "FEHLER BEIM SPEICHERN";
-
-} // namespace
-
 Dateibefehle::Dateibefehle(Form1& form1, Rechnungszustand& zustand, Rechnung& rechnung, Vorgaben& vorgaben,
                            Summen& summen, const Dateistand& stand, Dialogs& dialogs,
                            Rechnungsschreiber& schreiber, Rechnungsleser& leser, Rechnungsnummern& nummern,
@@ -171,12 +165,8 @@ void Dateibefehle::AbbruchZeigen() {
 }
 
 bool Dateibefehle::FremdeDateiUeberschreiben() {
-    if (zustand_.IstDateiDesPfads() || !datei_vorhanden(zustand_.AktuellerPfad())) {
-        return true;
-    }
-    return dialogs_.message(
-               {"Soll die vorhandene Datei: >" + zustand_.AktuellerPfad() + "< überschrieben werden?",
-                "Datei überschreiben?", Buttons::YesNo}) == Answer::Yes;
+    return zustand_.IstDateiDesPfads() || !datei_vorhanden(zustand_.AktuellerPfad()) ||
+           UEBERSCHREIBEN_FRAGEN(zustand_.AktuellerPfad(), dialogs_);
 }
 
 void Dateibefehle::m_speichern_kurz_Click() {

@@ -1,8 +1,6 @@
 #include "invoice/file/rechnungsschreiber.hpp"
 
-#include "invoice/file/hindernis.hpp"
 #include "invoice/zahleneingabe.hpp"
-#include "invoice/zeichenersatz.hpp"
 #include "platform/datum.hpp"
 #include "platform/text.hpp"
 #include "platform/textdatei.hpp"
@@ -47,11 +45,10 @@ Rechnungsschreiber::Rechnungsschreiber(Form1& form1, const PROGRAMMEINSTELLUNG& 
     : form1_(form1),
       einstellung_(einstellung),
       zustand_(zustand),
-      verzeichnis_(verzeichnis),
       stand_(stand),
-      dialogs_(dialogs),
       uhr_(uhr),
-      felder_(DATEIFELDER(form1)) {}
+      felder_(DATEIFELDER(form1)),
+      ablage_(form1.Hinweise, verzeichnis, dialogs) {}
 
 void Rechnungsschreiber::DateiDatenSammeln() {
     DatenSchreiben.leeren();
@@ -104,38 +101,11 @@ bool Rechnungsschreiber::DateiSchreiben(const std::string& pfad) {
     datei.zeile("Gespeichert am: " + datum_zeit_text(uhr_.now()));
     PositionenAnfuegen(datei);
     stand_.vormerken(datei.bytes());
-    try {
-        const std::string beiseite = datei_ersetzen(pfad, datei.bytes(), verzeichnis_.ordner());
-        stand_.geschrieben(pfad);
-        meldung_.clear();
-        Melden(ZEICHENERSATZ_MELDUNG(datei.ersetzt()));
-        if (!beiseite.empty()) {
-            Melden("Der Ordner nimmt keine neue Datei an: am alten Platz gespeichert, der alte "
-                   "Inhalt liegt in >>" +
-                   beiseite + "<<.");
-        }
-        return true;
-    } catch (const Laufzeitfehler& fehler) {
-        FehlerMelden(fehler);
+    if (!ablage_.Ablegen(pfad, datei)) {
         return false;
     }
-}
-
-void Rechnungsschreiber::Melden(const std::string& text) {
-    form1_.Hinweise.melden(text);
-    meldung_ += (meldung_.empty() || text.empty() ? "" : "\r\n") + text;
-}
-
-void Rechnungsschreiber::FehlerMelden(const Laufzeitfehler& fehler) {
-    form1_.Hinweise.melden(SPEICHERHINDERNIS(fehler));
-    dialogs_.message({"Fehler beim speichern", "FEHLER BEIM SPEICHERN"});
-    if (const auto* schaden = dynamic_cast<const Dateischaden*>(&fehler)) {
-        dialogs_.message({"Die Datei >>" + schaden->ort() +
-                              "<< wurde nur zum Teil geschrieben. Ihr alter Inhalt "
-                              "liegt in >>" +
-                              schaden->beiseite() + "<<.",
-                          "Achtung!", Buttons::Ok, Symbol::Exclamation});
-    }
+    stand_.geschrieben(pfad);
+    return true;
 }
 
 } // namespace quittika

@@ -1,10 +1,10 @@
 #pragma once
 
+#include "invoice/file/dateiablage.hpp"
 #include "invoice/file/dateifelder.hpp"
 #include "invoice/file/dateistand.hpp"
 #include "invoice/form1.hpp"
 #include "invoice/rechnungszustand.hpp"
-#include "platform/datei.hpp"
 #include "platform/dialogs.hpp"
 #include "platform/shell.hpp"
 #include "platform/textdatei.hpp"
@@ -30,24 +30,20 @@ public:
     /// characters that the file cannot hold, or where the old content of a file written in place lies.
     bool DateiSchreiben(const std::string& pfad);
     /// What panel 3 told of the file written last, a line each; empty for nothing.
-    const std::string& Meldung() const { return meldung_; }
+    const std::string& Meldung() const { return ablage_.Meldung(); }
 
 private:
-    void Melden(const std::string& text);
-    void FehlerMelden(const Laufzeitfehler& fehler);
     void BesondereZeilen();
     void PositionenAnfuegen(Textpuffer& datei) const;
 
     Form1& form1_;
     const PROGRAMMEINSTELLUNG& einstellung_;
     const Rechnungszustand& zustand_;
-    const Programmverzeichnis& verzeichnis_;
     Dateistand& stand_;
-    Dialogs& dialogs_;
     const Clock& uhr_;
     std::vector<Dateifeld> felder_;
     Dateizeilen DatenSchreiben;
-    std::string meldung_;
+    Dateiablage ablage_;
 };
 
 } // namespace quittika
