@@ -8,7 +8,6 @@
 #include <unistd.h>
 
 namespace quittika {
-
 namespace {
 
 Stoerung*& aktive() {

@@ -64,12 +64,11 @@ TEST(Designdatei, WasSieSagtGiltInJederReihenfolge) {
 }
 
 TEST(Designdatei, ZahlenKommenGanzHeraus) {
-    struct Fall {
+    const struct {
         const char* zeile;
         double Design::*feld;
         double wert;
-    };
-    const Fall faelle[] = {
+    } faelle[] = {
         {"X_RN:63,4;", &Design::X_RN, 63},         {"x_rn:63,5;", &Design::X_RN, 64},
         {"X_RN:62,5;5;", &Design::X_RN, 62},       {"X_RN: -7", &Design::X_RN, -7},
         {"X_RN:1;\r\nX_RN:2;", &Design::X_RN, 2},  {"X_LISTE:50;", &Design::X_LISTE, 12},
@@ -77,7 +76,7 @@ TEST(Designdatei, ZahlenKommenGanzHeraus) {
         {"Y_Logo:32767;", &Design::Y_LOGO, 32767},
     };
     Designstand p;
-    for (const Fall& f : faelle) {
+    for (const auto& f : faelle) {
         EXPECT_DOUBLE_EQ(p.geladen(f.zeile).*f.feld, f.wert) << f.zeile;
     }
     EXPECT_EQ(p.hinweis(), "In design.dsg fehlen Zeilen: 36, zuerst X_LOGO; sie gelten als 0.");

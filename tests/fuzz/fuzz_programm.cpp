@@ -14,7 +14,6 @@
 #include <iostream>
 #include <sstream>
 
-#include <sys/wait.h>
 #include <unistd.h>
 
 namespace quittika::fuzz {
@@ -198,14 +197,15 @@ Zeilen gekuerzt(Zeilen zeilen, const std::string& befund) {
     return zeilen;
 }
 
-int spielen(unsigned saat, int sekunden, const std::string& protokollpfad) {
+/// A run that dies or hangs leaves its lines in fuzz_programm.log.
+int spielen(unsigned saat, int sekunden) {
     using Uhr = std::chrono::steady_clock;
     const auto ende = Uhr::now() + std::chrono::seconds(sekunden);
     std::size_t laeufe = 0;
     std::size_t zeilen = 0;
     std::size_t gelesen = 0;
     for (; Uhr::now() < ende; ++laeufe, ++saat) {
-        std::ofstream protokoll(protokollpfad);
+        std::ofstream protokoll("fuzz_programm.log");
         Zufallsnutzer nutzer(saat);
         Probe probe(&protokoll);
         const std::string befund = probe.laufen([&](const ScriptDesktop& desktop) {
@@ -227,26 +227,6 @@ int spielen(unsigned saat, int sekunden, const std::string& protokollpfad) {
     return 0;
 }
 
-/// A run that dies or hangs leaves its lines behind.
-int ueberwacht(unsigned saat, int sekunden) {
-    const Probenordner ordner;
-    const std::string protokoll = ordner.pfad("lauf.qks");
-    const pid_t kind = fork();
-    if (kind == 0) {
-        const int ergebnis = spielen(saat, sekunden, protokoll);
-        std::cout.flush();
-        _exit(ergebnis);
-    }
-    int status = 0;
-    waitpid(kind, &status, 0);
-    if (WIFEXITED(status) && WEXITSTATUS(status) <= 1) {
-        return WEXITSTATUS(status);
-    }
-    std::cout << "# The program died (" << (WIFSIGNALED(status) ? WTERMSIG(status) : 0) << ") of:\n"
-              << ordner.lesen("lauf.qks");
-    return 2;
-}
-
 } // namespace
 } // namespace quittika::fuzz
 
@@ -255,5 +235,5 @@ int main(int argc, char** argv) {
         std::cerr << "fuzz_programm <seed> <seconds>\n";
         return 2;
     }
-    return quittika::fuzz::ueberwacht(static_cast<unsigned>(std::atoi(argv[1])), std::atoi(argv[2]));
+    return quittika::fuzz::spielen(static_cast<unsigned>(std::atoi(argv[1])), std::atoi(argv[2]));
 }

@@ -5,26 +5,16 @@
 #include "platform/text.hpp"
 
 #include <algorithm>
+#include <regex>
 
 namespace quittika::fuzz {
-
 namespace {
-
-bool ziffer(const std::string& text, std::size_t stelle) {
-    return stelle < text.size() && text[stelle] >= '0' && text[stelle] <= '9';
-}
 
 /// "1E+15", "nan", "inf": numbers as no person writes them. What a damaged file holds instead of a number may
 /// stand.
 bool unlesbar(const std::string& text) {
-    for (std::size_t e = text.find_first_of("eE"); e != std::string::npos;
-         e = text.find_first_of("eE", e + 1)) {
-        const bool vorzeichen = e + 1 < text.size() && (text[e + 1] == '+' || text[e + 1] == '-');
-        if (e > 0 && ziffer(text, e - 1) && ziffer(text, e + (vorzeichen ? 2 : 1))) {
-            return true;
-        }
-    }
-    return text.find("nan") != std::string::npos || text.find("inf") != std::string::npos;
+    static const std::regex muster("[0-9][eE][+-]?[0-9]|nan|inf");
+    return std::regex_search(text, muster);
 }
 
 std::string Zahlbefund(const std::string& name, const std::string& text) {

@@ -7,7 +7,6 @@
 #include <map>
 
 namespace quittika::fuzz {
-
 namespace {
 
 using Zeilen = std::vector<std::string>;

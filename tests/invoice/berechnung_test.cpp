@@ -49,19 +49,18 @@ TEST(Berechnung, JederModusVonHandGerechnet) {
 }
 
 TEST(Berechnung, WasSichNichtBerechnenLaesstIstNull) {
-    struct Fehlerfall {
+    const struct {
         Rechenvorgabe vorgabe;
         int nummer;
         Rechenergebnis ergebnis;
-    };
-    const Fehlerfall faelle[] = {
+    } faelle[] = {
         {{100, true, 10, Mwst_Modus::Minus, -100, 5}, 11, {10, 90, 0, 0}},
         {{100, false, 0, Mwst_Modus::Inklusive, -100, 0}, 11, {0, 100, 0, 0}},
         {{1e308, true, 1e308, Mwst_Modus::Ohne, 0, 0}, 6, {0, 0, 0, 0}},
         {{1e308, false, 0, Mwst_Modus::Plus, 100, 0}, 6, {0, 1e308, 0, 0}},
         {{1.7e308, false, 0, Mwst_Modus::Ohne, 0, 1.7e308}, 6, {0, 1.7e308, 0, 0}},
     };
-    for (const Fehlerfall& f : faelle) {
+    for (const auto& f : faelle) {
         SCOPED_TRACE(f.vorgabe.MwSt_Satz);
         const Rechenergebnis e = RECHNUNGSBETRAEGE(f.vorgabe);
         EXPECT_EQ(e.fehler, f.nummer);

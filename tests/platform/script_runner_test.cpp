@@ -77,18 +77,15 @@ click Form_Zweite.Fehler
 close Form_Zweite
 close Form_Notiz
 = error: Typen unverträglich
-items form1.Log
-= Start dir
-= Notiz raus
-= Notiz entladen
-= zurück: krach
+get form1.Log
+= ; Start dir; Notiz raus; Notiz entladen; zurück: krach
 click form1.Modal
 )"},
     {"a_start_or_the_end_leaves_a_modal_window", R"(click form1.Modal
 click Form_Notiz.Weiter
 start anders
-items form1.Log
-= Start anders
+get form1.Log
+= ; Start anders
 opened
 click form1.Modal
 set Form_Notiz.Text ende
@@ -105,35 +102,23 @@ set form1.Schalter lang
 wait 599
 clock 2008-05-17T09:31:07
 wait 1
-items form1.Log
-= Start dir
-= schnell 7
+get form1.Log
+= ; Start dir; schnell 7
 )"},
     {"modal_window_out_of_a_timer", R"(set form1.Schalter langsam
 wait 1300
 wait 1000
 close Form_Notiz
-items form1.Log
-= Start dir
-= schnell 58
-= schnell 58
-= langsam 59
-= schnell 59
-= schnell 59
-= schnell 0
-= Notiz entladen
+get form1.Log
+= ; Start dir; schnell 58; schnell 58; langsam 59; schnell 59; schnell 59; schnell 0; Notiz entladen
 )"},
     {"dialogs_take_what_fits", R"(font Comic Sans MS
 color 65535
 file C:\\a b|c.bmp
 fail 75
 click form1.Dialoge
-items form1.Log
-= Start dir
-= gewählt C:\\a b|c.bmp
-= nichts
-= gewählt 65535
-= gewählt Comic Sans MS
+get form1.Log
+= ; Start dir; gewählt C:\\a b|c.bmp; nichts; gewählt 65535; gewählt Comic Sans MS
 dialogs
 = dialog|open|Bild\p*.bmp|||C:\\a b\pc.bmp
 = dialog|save||5-08 x.txt|Sichern|fail 75
@@ -166,9 +151,15 @@ click form1.Bild
     {"events_come_as_by_hand", R"(set form1.Text1  a b 
 type form1.Text1 ä€
 click form1.Text2
+get form1.Log
+= ; Start dir; Text1 rein; Text1= a b ; Text1 raus; Text1 rein; Text1= a b ä; Text1= a b ä€; Text1 raus; Text2 rein
+click form1.Log
 click form1.Modal
 type Form_Notiz.Text zuletzt
 = error: Das Fenster Form_Notiz ist nicht offen
+get form1.Log
+= ; Text2 raus; Notiz raus; zurück: zu
+click form1.Log
 type form1.Scanner 47\r\n8
 get form1.Scanner
 = 8
@@ -177,6 +168,9 @@ select form1.Liste 1
 dblclick form1.Liste
 select form1.Liste -1
 dblclick form1.Liste
+get form1.Log
+= ; Code 47\r\n; Liste Birne|Quitte; Liste Birne|Quitte; Liste Birne|Quitte; Doppelt; Liste ; Doppelt
+click form1.Log
 mouse form1.Ziel down 1 15 2
 set form1.Offen neu
 type form1.Offen er
@@ -186,30 +180,8 @@ set form1.Rolle 9
 set form1.Rolle 10
 = error: form1.Rolle kann nicht "10" werden
 click form1.Spaeter
-items form1.Log
-= Start dir
-= Text1 rein
-= Text1= a b 
-= Text1 raus
-= Text1 rein
-= Text1= a b ä
-= Text1= a b ä€
-= Text1 raus
-= Text2 rein
-= Text2 raus
-= Notiz raus
-= zurück: zu
-= Code 47\r\n
-= Liste Birne|Quitte
-= Liste Birne|Quitte
-= Liste Birne|Quitte
-= Doppelt
-= Liste 
-= Doppelt
-= Maus 2015
-= Rolle 9
-= davor
-= danach
+get form1.Log
+= ; Maus 2015; Rolle 9; davor; danach
 )"},
     {"abort_ends_the_next_work_that_moves", R"(abort
 click form1.Arbeit
@@ -243,19 +215,17 @@ get Workbench.Block.Left
 = 750
 get Workbench.Block.Top
 = 540
+get Workbench.Sheet.Width
+= 6000
+select Workbench.Log -1
+= error: Workbench.Log ist nicht sichtbar
 drop Workbench.Service Nagel
 = error: Workbench.Service nimmt nichts an
-get Workbench.Tabs
-= &Blatt
 click Workbench.Open
 select Articles.List 2
 drop Workbench.Service Nagel 6 mm
 get Workbench.Tabs
 = &Felder && Farben
-get Workbench.Service
-= Nagel 6 mm
-drop Workbench.Service Nagel
-= error: Workbench.Service nimmt nichts an
 click Workbench.Open
 click Workbench.Open
 forms
@@ -270,10 +240,6 @@ dblclick Articles.List
 type Workbench.Service !
 set Workbench.Block 1
 = error: Workbench.Block nimmt keinen Wert an
-select Workbench.Tabs 3
-= error: Workbench.Tabs hat keinen Eintrag 3
-get Workbench.Tabs.Tab
-= 1
 select Workbench.Tabs 0
 get Workbench.Service
 = Nagel 4 mm!

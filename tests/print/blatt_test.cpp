@@ -11,7 +11,9 @@ namespace {
 using Textroutine = void (*)(Blatt&, std::string_view, double, double, bool, bool);
 
 TEST(Drucktext, StehtLinksMittigOderRechtsUndLaesstDieMarke) {
-    struct Fall {
+    constexpr double k = kUnveraendert;
+    // The cursor stands at 70, 90; the adjustment is -4 to the right and 3 down.
+    const struct {
         const char* name;
         Textroutine routine;
         double x;
@@ -20,17 +22,14 @@ TEST(Drucktext, StehtLinksMittigOderRechtsUndLaesstDieMarke) {
         bool behalten;
         double links; ///< of the text, 8 mm wide
         double oben;
-    };
-    constexpr double k = kUnveraendert;
-    // The cursor stands at 70, 90; the adjustment is -4 to the right and 3 down.
-    const Fall faelle[] = {
+    } faelle[] = {
         {"links", DRUCKTEXT_LINKS, 20, 40, false, false, 16, 43},
         {"mittig", DRUCKTEXT_MITTE, 100, 40, false, false, 92, 43},
         {"rechts absolut", DRUCKTEXT_RECHTS, 100, 40, true, false, 92, 40},
         {"rechts von der Marke aus", DRUCKTEXT_RECHTS, k, k, false, false, 62, 90},
         {"Marke geht mit", DRUCKTEXT_RECHTS, 100, 40, false, true, 88, 43},
     };
-    for (const Fall& f : faelle) {
+    for (const auto& f : faelle) {
         SCOPED_TRACE(f.name);
         const FesteSchrift schrift;
         Papier papier;
@@ -49,20 +48,19 @@ TEST(Drucktext, StehtLinksMittigOderRechtsUndLaesstDieMarke) {
 }
 
 TEST(Leistungsspalte, SagtWieVieleZeichenAufDasPapierPassen) {
-    struct Fall {
+    const struct {
         const char* name;
         bool nummern;
         bool kommentar;
         const char* preis; ///< two millimetres a character, and two to keep off it
         std::size_t passt;
-    };
-    const Fall faelle[] = {
+    } faelle[] = {
         {"mit Positionsnummern", true, false, "10,00", (147 - 10 - 2 - 40) / 2},
         {"ohne", false, false, "10,00", (141 - 10 - 2 - 33) / 2},
         {"breiter Preis", true, false, "12345,00", (147 - 16 - 2 - 40) / 2},
         {"Kommentar", true, true, "0,00", (184 - 40) / 2},
     };
-    for (const Fall& f : faelle) {
+    for (const auto& f : faelle) {
         SCOPED_TRACE(f.name);
         Druckprobe p;
         p.einstellungen.Check_Positionendruck.Value = f.nummern ? 1 : 0;

@@ -6,21 +6,20 @@ namespace quittika {
 namespace {
 
 TEST(Druck, JedesLayoutStelltLogoUndAbsender) {
-    struct Fall {
+    const struct {
         int layout;
         const char* bild; ///< left, top, width, height
         double x_mit;     ///< left edge of the first line; its right edge where negative
         double y_mit;
         double x_ohne;
         double y_ohne;
-    };
-    const Fall faelle[] = {
+    } faelle[] = {
         {1, "logo 145 8 45 30,0", -140, 8, -190, 8},  {2, "logo 12 8 45 30,0", 62, 7, 17, 8},
         {3, "logo 145 8 45 30,0", 17, 8, 17, 8},      {4, "logo 100 8 90 30,0", 17, 8, 17, 8},
         {5, "logo 12 8 45 30,0", -190, 8, -190, 8},   {6, "logo 173 6 23 45,0", -168, 8, -145, 8},
         {7, "logo 6 5 190 35,0", -195, 45, -195, 45}, {8, "logo 149 8 45 30,0", -191, 43, -191, 43},
     };
-    for (const Fall& f : faelle) {
+    for (const auto& f : faelle) {
         SCOPED_TRACE(f.layout);
         Druckprobe p;
         p.einstellungen.Layouts().at(static_cast<std::size_t>(f.layout - 1))->Value = true;
@@ -54,20 +53,19 @@ TEST(Druck, KopfStehtAufSeinenStellen) {
     p.form1.Check_LIEFERDATUM.Value = 1;
     p.form1.Text_LIEFERDATUM.Text = "LIEFERDATUM: 1.3.";
     const Papier papier = p.drucken({-4, 3});
-    struct Fall {
+    const struct {
         const char* text;
         double x;
         double y;
         double groesse;
         bool fett;
         Color farbe;
-    };
-    const Fall faelle[] = {
+    } faelle[] = {
         {"05.03.2008", 168, 126, 11, false, 0},       {"LIEFERDATUM: 1.3.", 186 - 34, 130, 11, false, 0},
         {"12345 Ort", 25, 66, 11, false, 0},          {"Kundennr: 8", 25, 82, 11, true, 255},
         {"Ihr Werbespruch", 8, 108, 14, true, 65280}, {"RECHNUNG 7", 8, 128, 18, true, 0},
     };
-    for (const Fall& f : faelle) {
+    for (const auto& f : faelle) {
         SCOPED_TRACE(f.text);
         const GezeichneterText* t = papier.finden(f.text);
         ASSERT_NE(t, nullptr);
@@ -211,20 +209,19 @@ TEST(Druck, WasBerechnetWirdStehtAuchAufDemPapier) {
 }
 
 TEST(Druck, BemerkungenWeichenDenVersandkosten) {
-    struct Fall {
+    const struct {
         const char* name;
         bool versand;
         bool mwst_extra;
         bool mwst_enthalten;
         int leerzeilen;
-    };
-    const Fall faelle[] = {
+    } faelle[] = {
         {"ohne Versand", false, true, true, 4},
         {"eine Zeile Versand", true, false, false, 3},
         {"mit getrennter MwSt.", true, true, false, 2},
         {"mit enthaltener MwSt.", true, false, true, 2},
     };
-    for (const Fall& f : faelle) {
+    for (const auto& f : faelle) {
         SCOPED_TRACE(f.name);
         Druckprobe p;
         p.form1.Text_Bemerkung1[1].Text = "Bemerkung";
@@ -241,12 +238,11 @@ TEST(Druck, BemerkungenWeichenDenVersandkosten) {
 }
 
 TEST(Druck, EinLieferscheinZeigtWasVerlangtIst) {
-    struct Fall {
+    const struct {
         const char* name;
         OptionButton Form1::*art;
         Lieferscheinangaben verlangt;
-    };
-    const Fall faelle[] = {
+    } faelle[] = {
         {"Rechnung", &Form1::Option_RECHNUNG, {false, false, false, false}},
         {"nichts", &Form1::Option_LIEFERSCHEIN, {false, false, false, false}},
         {"Werbespruch", &Form1::Option_LIEFERSCHEIN_KOPIE, {true, false, false, false}},
@@ -254,7 +250,7 @@ TEST(Druck, EinLieferscheinZeigtWasVerlangtIst) {
         {"Anschreiben", &Form1::Option_LIEFERSCHEIN, {false, false, true, false}},
         {"Preise", &Form1::Option_LIEFERSCHEIN, {false, false, false, true}},
     };
-    for (const Fall& f : faelle) {
+    for (const auto& f : faelle) {
         for (const bool eigenes : {false, true}) {
             SCOPED_TRACE(f.name + std::string(eigenes ? " im eigenen Layout" : ""));
             Druckprobe p;

@@ -8,18 +8,17 @@ namespace quittika {
 namespace {
 
 TEST(Seitenumbruch, GroessenNachKopfBemerkungenUndLogo) {
-    struct Fall {
+    const struct {
         bool kopf;
         bool bemerkungen;
         bool logo;
         Seitengroesse groesse;
-    };
-    const Fall faelle[] = {
+    } faelle[] = {
         {true, true, true, {12, 9}},    {true, true, false, {12, 9}},    {true, false, true, {16, 9}},
         {true, false, false, {16, 9}},  {false, true, true, {12, 27}},   {false, true, false, {12, 37}},
         {false, false, true, {16, 27}}, {false, false, false, {16, 40}},
     };
-    for (const Fall& f : faelle) {
+    for (const auto& f : faelle) {
         EXPECT_EQ(ZEILENPROSEITE(f.kopf, f.bemerkungen, f.logo), f.groesse)
             << f.kopf << f.bemerkungen << f.logo;
     }
@@ -36,13 +35,12 @@ std::vector<std::string> arten(std::initializer_list<const char*> bild) {
 }
 
 TEST(Seitenumbruch, AbschnitteEndenMitIhrerGroesseOderEinerUmbruchzeile) {
-    struct Fall {
+    const struct {
         const char* name;
         std::vector<std::string> arten;
         Seitengroesse groesse;
         std::vector<Zeilenbereich> seiten;
-    };
-    const Fall faelle[] = {
+    } faelle[] = {
         {"nichts", {}, {16, 27}, {{0, -1}}},
         {"eine", arten({"1"}), {16, 27}, {{0, 0}}},
         {"genau eine Seite", arten({"16", "K"}), {16, 27}, {{0, 16}}},
@@ -60,7 +58,7 @@ TEST(Seitenumbruch, AbschnitteEndenMitIhrerGroesseOderEinerUmbruchzeile) {
         {"hinter voller Seite", arten({"17", "T", "28"}), {16, 27}, {{0, 17}, {18, 45}}},
         {"hinter voller Seite am Ende", arten({"17", "T"}), {16, 27}, {{0, 17}}},
     };
-    for (const Fall& f : faelle) {
+    for (const auto& f : faelle) {
         EXPECT_EQ(Seitenumbruch(f.arten, f.groesse), f.seiten) << f.name;
     }
 }

@@ -5,22 +5,11 @@
 
 #include <gtest/gtest.h>
 
-#include <QAbstractButton>
-#include <QAccessible>
-#include <QAccessibleInterface>
-#include <QAction>
-#include <QGroupBox>
-#include <QKeySequence>
-#include <QLabel>
-#include <QMenu>
-#include <QMenuBar>
-#include <QStackedWidget>
-#include <QTabWidget>
+#include <QtWidgets>
 
 #include <set>
 
 namespace quittika::test {
-
 namespace {
 
 std::string form_name(MakeForm make) {
@@ -157,5 +146,4 @@ INSTANTIATE_TEST_SUITE_P(Forms, AccessibilityTest, ::testing::ValuesIn(kForms),
                          [](const auto& row) { return form_name(row.param); });
 
 } // namespace
-
 } // namespace quittika::test

@@ -3,23 +3,10 @@
 
 #include <gtest/gtest.h>
 
-#include <QAction>
-#include <QApplication>
-#include <QCheckBox>
-#include <QComboBox>
-#include <QImage>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPlainTextEdit>
-#include <QRadioButton>
-#include <QScrollBar>
-#include <QTabBar>
-#include <QTabWidget>
-#include <QTemporaryDir>
-#include <QTest>
+#include <QtTest>
+#include <QtWidgets>
 
 namespace quittika::test {
-
 namespace {
 
 QPalette dark_palette() {
@@ -397,5 +384,4 @@ TEST(CheckBinding, TellsWhatIsWrong) {
 }
 
 } // namespace
-
 } // namespace quittika::test

@@ -5,13 +5,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <QDir>
-#include <QFile>
-#include <QImage>
 #include <QPrinter>
-#include <QProcess>
-#include <QTemporaryDir>
-#include <QThread>
+#include <QtWidgets>
 
 #include <memory>
 
@@ -21,7 +16,6 @@
 #include <unistd.h>
 
 namespace quittika::test {
-
 namespace {
 
 /// Output of a command, with its error output; fails the test when the command does.
@@ -244,5 +238,4 @@ TEST_F(CupsTest, AFailureSaysWhatStoodInTheWay) {
 }
 
 } // namespace
-
 } // namespace quittika::test

@@ -6,19 +6,10 @@
 
 #include <gtest/gtest.h>
 
-#include <QAbstractButton>
-#include <QApplication>
-#include <QDropEvent>
-#include <QLineEdit>
-#include <QMessageBox>
-#include <QMimeData>
-#include <QTest>
-#include <QTimer>
-#include <QUrl>
-#include <QWindow>
+#include <QtTest>
+#include <QtWidgets>
 
 namespace quittika::test {
-
 namespace {
 
 class DesktopTest : public ::testing::Test {
@@ -263,5 +254,4 @@ TEST_F(DesktopTest, LoopEndsWithTheProgramOrItsLastWindow) {
 }
 
 } // namespace
-
 } // namespace quittika::test

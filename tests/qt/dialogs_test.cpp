@@ -6,23 +6,10 @@
 
 #include <gtest/gtest.h>
 
-#include <QAbstractButton>
-#include <QApplication>
-#include <QColorDialog>
-#include <QComboBox>
-#include <QDesktopServices>
-#include <QDialogButtonBox>
-#include <QFileDialog>
-#include <QLineEdit>
-#include <QMessageBox>
-#include <QPushButton>
-#include <QTemporaryDir>
-#include <QTest>
-#include <QTimer>
-#include <QUrl>
+#include <QtTest>
+#include <QtWidgets>
 
 namespace quittika::test {
-
 namespace {
 
 /// Runs `work` on the next dialog that is open.
@@ -265,7 +252,6 @@ TEST(ShellTest, TellsFilesFromAddresses) {
 }
 
 } // namespace
-
 } // namespace quittika::test
 
 #include "dialogs_test.moc"

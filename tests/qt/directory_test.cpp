@@ -5,12 +5,8 @@
 
 #include <gtest/gtest.h>
 
-#include <QComboBox>
-#include <QDir>
-#include <QTemporaryDir>
-#include <QTest>
-#include <QTreeView>
-#include <QWheelEvent>
+#include <QtTest>
+#include <QtWidgets>
 
 namespace quittika::test {
 

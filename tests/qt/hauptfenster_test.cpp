@@ -5,19 +5,10 @@
 
 #include <gtest/gtest.h>
 
-#include <QAbstractButton>
-#include <QAction>
-#include <QApplication>
-#include <QContextMenuEvent>
-#include <QHelpEvent>
-#include <QLineEdit>
-#include <QListView>
-#include <QMenu>
-#include <QTest>
-#include <QToolTip>
+#include <QtTest>
+#include <QtWidgets>
 
 namespace quittika::test {
-
 namespace {
 
 /// The program with its real main window, worked by keyboard.
@@ -244,5 +235,4 @@ TEST_F(Hauptfenstertest, UeblicheTastenkuerzel) {
 }
 
 } // namespace
-
 } // namespace quittika::test

@@ -2,14 +2,10 @@
 
 #include <gtest/gtest.h>
 
-#include <QApplication>
-#include <QListView>
-#include <QScrollBar>
-#include <QSignalSpy>
-#include <QTest>
+#include <QtTest>
+#include <QtWidgets>
 
 namespace quittika::test {
-
 namespace {
 
 class ListTest : public ::testing::Test {
@@ -123,5 +119,4 @@ TEST_F(ListTest, ShowsTheBeginningOfAnEndlessItemOnOneLine) {
 }
 
 } // namespace
-
 } // namespace quittika::test

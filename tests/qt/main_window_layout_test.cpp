@@ -4,18 +4,12 @@
 
 #include <gtest/gtest.h>
 
-#include <QApplication>
-#include <QLabel>
-#include <QLineEdit>
-#include <QScrollArea>
-#include <QScrollBar>
-#include <QStringListModel>
+#include <QtWidgets>
 
 #include <memory>
 #include <stdexcept>
 
 namespace quittika::test {
-
 namespace {
 
 struct Screen {

@@ -12,7 +12,6 @@
 #include <sys/stat.h>
 
 namespace quittika::test {
-
 namespace {
 
 QByteArray encoded(const char* format, QSize size = {40, 20}, QColor colour = Qt::red) {
@@ -213,5 +212,4 @@ TEST_F(PictureTest, KeepTheirProportionsOrAreStretchedAndMissingOnesAreEmpty) {
 }
 
 } // namespace
-
 } // namespace quittika::test

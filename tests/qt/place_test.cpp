@@ -1,25 +1,54 @@
+#include "platform/forms/controls.hpp"
+#include "platform/forms/twips.hpp"
 #include "platform/laufzeitfehler.hpp"
 #include "platform/qt/binding.hpp"
 #include "platform/qt/qt_desktop.hpp"
 #include "tests/qt/desktop_look.hpp"
-#include "tests/sample_forms.hpp"
 
 #include <gtest/gtest.h>
 
-#include <QApplication>
-#include <QGroupBox>
-#include <QLabel>
-#include <QListView>
-#include <QMainWindow>
-#include <QMouseEvent>
-#include <QScreen>
-#include <QTabWidget>
-#include <QTest>
-#include <QVBoxLayout>
+#include <QtTest>
+#include <QtWidgets>
 
 namespace quittika::test {
-
 namespace {
+
+/// A window with what the program reads and moves: a sheet of paper with a picture on it, and a frame that
+/// is put beside the picture.
+struct SampleForm : Form {
+    SampleForm() : Form("Sample", "Sample", {.width = twips(600), .height = twips(400)}) {}
+    Frame Page{*this, Named("Page").following({30, 30, 6300, 5000})};
+    Image Block{Page, Named("Block").at({100, 200, 1507, 1000})};
+    Frame Choice{*this, Named("Choice").movable({0, 0, 2000, 1000})};
+    Label Text{Choice, "Text", "Farbe auswählen"};
+    SSTab Tabs{*this, "Tabs", {"A", "B"}};
+    Shape Patch{Tabs.page(1), Named("Patch").at({150, 75, 300, 450})};
+    ListBox Data{*this, Named("Data").data_only()};
+};
+
+/// Moves the picture with the mouse, and the frame to its upper edge with the right button.
+struct SampleModule {
+    explicit SampleModule(SampleForm& form) {
+        form.Load = [&] { factor = form.Page.Width() / 210.0; };
+        form.Page.Resize = [&] { factor = form.Page.Width() / 210.0; };
+        form.Block.MouseDown = [&](const MouseEvent& at) {
+            start = at;
+            if (at.button == MouseButton::Right) {
+                form.Choice.Left = form.Page.Left() + form.Block.Left();
+                form.Choice.Top = form.Page.Top() + form.Block.Top() - form.Choice.Height();
+            }
+        };
+        form.Block.MouseMove = [&](const MouseEvent& at) {
+            if (at.button == MouseButton::Left) {
+                form.Block.Left = form.Block.Left() + at.x - start.x;
+                form.Block.Top = form.Block.Top() + at.y - start.y;
+            }
+        };
+    }
+
+    double factor = 0; ///< twips a millimetre of the paper
+    MouseEvent start{};
+};
 
 template <class W> W* named(const char* name, QWidget* parent) {
     auto* widget = new W(parent);
@@ -126,7 +155,7 @@ TEST_F(Places, WhatTheWindowLaysOutIsTold) {
         EXPECT_EQ(form.Page.Height(), page.height() * 15);
     };
     agree();
-    EXPECT_DOUBLE_EQ(module.factor(), form.Page.Width() / 210.0) << "its own handler came first";
+    EXPECT_DOUBLE_EQ(module.factor, form.Page.Width() / 210.0) << "its own handler came first";
     const int before = form.Page.Width();
     form.Width = form.Width() + 1500;
     QCoreApplication::processEvents();
@@ -225,5 +254,4 @@ TEST(PlaceFindings, TheDesignHasToAllowThePlace) {
 }
 
 } // namespace
-
 } // namespace quittika::test

@@ -10,7 +10,6 @@
 #include <QTemporaryDir>
 
 namespace quittika::test {
-
 namespace {
 
 /// Smallest box around everything of that colour, in pixels.
@@ -123,5 +122,4 @@ TEST_F(PageTest, TellsWhatCannotBeDrawnAndLivesWithWhatGoesLater) {
 }
 
 } // namespace
-
 } // namespace quittika::test

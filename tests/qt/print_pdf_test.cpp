@@ -5,15 +5,9 @@
 
 #include <gtest/gtest.h>
 
-#include <QDir>
-#include <QFile>
-#include <QImage>
-#include <QProcess>
-#include <QRegularExpression>
-#include <QTemporaryDir>
+#include <QtWidgets>
 
 namespace quittika::test {
-
 namespace {
 
 constexpr double kPointsPerMillimetre = 72 / 25.4;
@@ -198,5 +192,4 @@ TEST_F(PdfTest, MeasuresInMillimetres) {
 }
 
 } // namespace
-
 } // namespace quittika::test

@@ -4,16 +4,10 @@
 
 #include <gtest/gtest.h>
 
-#include <QApplication>
-#include <QElapsedTimer>
-#include <QLabel>
-#include <QProgressBar>
-#include <QPushButton>
-#include <QTest>
-#include <QWindow>
+#include <QtTest>
+#include <QtWidgets>
 
 namespace quittika::test {
-
 namespace {
 
 constexpr int kSteps = 300;
@@ -102,5 +96,4 @@ TEST_F(ProgressTest, EscapeAbortsAndTheReturnKeyDoesNot) {
 }
 
 } // namespace
-
 } // namespace quittika::test

@@ -1,27 +1,11 @@
 #include "tests/qt/test_form.hpp"
 
-#include <QAction>
-#include <QCheckBox>
-#include <QComboBox>
-#include <QGroupBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QListView>
-#include <QPlainTextEdit>
-#include <QProgressBar>
-#include <QPushButton>
-#include <QRadioButton>
-#include <QScrollBar>
-#include <QSlider>
-#include <QTabWidget>
-#include <QToolButton>
-#include <QVBoxLayout>
+#include <QtWidgets>
 
 #include <algorithm>
 #include <cctype>
 
 namespace quittika::test {
-
 namespace {
 
 template <class W> W* add(QWidget& parent, const char* name) {

@@ -10,12 +10,13 @@
 #include <QTest>
 #include <QTimer>
 
+#include <deque>
 #include <functional>
 #include <stdexcept>
 #include <string>
+#include <utility>
 
 namespace quittika::test {
-
 namespace {
 
 /// A window with a few controls, whatever they are called elsewhere.
@@ -39,80 +40,61 @@ struct NoteModule {
 };
 
 /// The desktop, and a user who plays acts one by one while a modal window is open.
-class QtStage {
-public:
-    QtStage() {
-        desktop_.adopt(other_);
+class Stage : public ::testing::Test {
+protected:
+    Stage() {
+        desktop.adopt(other_);
         other_.Show();
+        QObject::connect(&look_, &QTimer::timeout, [this] { play(); });
+        look_.start(1);
     }
-    QtStage(const QtStage&) = delete;
-    QtStage& operator=(const QtStage&) = delete;
-    ~QtStage() {
+    ~Stage() override {
         // A program that was ended lets no later one wait for anything.
-        QTimer::singleShot(0, &context_, [] { QCoreApplication::exit(); });
+        QTimer::singleShot(0, [] { QCoreApplication::exit(); });
         QCoreApplication::exec();
     }
 
-    QtDesktop& desktop() { return desktop_; }
     static void click(Control& control) {
         auto& widget = dynamic_cast<WidgetView&>(*control.view()).widget();
         QTest::mouseClick(&widget, Qt::LeftButton, {}, QPoint(8, widget.height() / 2));
     }
-    static void tick(const Timer& timer) {
-        EXPECT_TRUE(QTest::qWaitFor([&timer] { return !timer.form().loaded(); }));
-    }
-    void close(Form& form) { desktop_.window(form)->close(); }
+    void close(Form& form) { desktop.window(form)->close(); }
     void settle() {
         bool done = false;
-        desktop_.later([&done] { done = true; });
+        desktop.later([&done] { done = true; });
         EXPECT_TRUE(QTest::qWaitFor([&done] { return done; }));
     }
-    void while_modal(const std::function<void()>& act) {
-        const int turn = turns_++;
-        wait_for_modal([this, turn, act] {
-            if (turn > played_) {
-                return false;
-            }
-            act();
-            ++played_;
-            return true;
-        });
-    }
-    void when_reported(const std::function<void()>& act) {
-        wait_for_modal([act] {
-            act();
-            return QApplication::activeModalWidget()->close();
-        });
-    }
-    bool is_open(Form& form) { return desktop_.window(form)->isVisible(); }
+    void while_modal(std::function<void()> act) { acts_.push_back(std::move(act)); }
+    bool is_open(Form& form) { return desktop.window(form)->isVisible(); }
+
+    QtDesktop desktop;
 
 private:
-    void wait_for_modal(const std::function<bool()>& act) {
-        QTimer::singleShot(1, &context_, [this, act] {
-            if (QApplication::activeModalWidget() == nullptr || !act()) {
-                wait_for_modal(act);
-            }
-        });
+    void play() {
+        if (QApplication::activeModalWidget() != nullptr && !acts_.empty()) {
+            const auto act = std::move(acts_.front());
+            acts_.pop_front();
+            look_.stop(); // an act may wait for something
+            act();
+            look_.start(1);
+        }
     }
 
-    QtDesktop desktop_;
     Form_ueber_QUITTIKA other_; ///< with the last window the program would end
-    QObject context_;
-    int turns_ = 0;
-    int played_ = 0;
+    QTimer look_;
+    std::deque<std::function<void()>> acts_;
 };
 
-class WindowLife : public ::testing::Test {
+class WindowLife : public Stage {
 protected:
     Note& opened() {
         note.open();
         return note.module()->form_;
     }
 
-    QtStage stage;
     int count = 0; ///< of the modules that live
     std::function<void(Note&, NoteModule&)> wire = [](Note&, NoteModule&) {};
-    OpenedWindow<Note, NoteModule> note{stage.desktop(), [this](Note& form) {
+    OpenedWindow<Note, NoteModule> note{desktop, [this](Note& form) {
                                             auto module = std::make_unique<NoteModule>(form, count);
                                             wire(form, *module);
                                             return module;
@@ -123,15 +105,15 @@ protected:
 TEST_F(WindowLife, OneWindowFromOpeningToClosing) {
     EXPECT_EQ(note.module(), nullptr);
     Note& first = opened();
-    EXPECT_TRUE(stage.is_open(first));
+    EXPECT_TRUE(is_open(first));
     first.Tick.Value = 1;
     first.Hide();
     EXPECT_EQ(&opened(), &first) << "hidden is not closed";
-    EXPECT_TRUE(stage.is_open(first));
+    EXPECT_TRUE(is_open(first));
     EXPECT_EQ(count, 1);
-    stage.close(first);
+    close(first);
     EXPECT_EQ(note.module(), nullptr);
-    stage.settle();
+    settle();
     EXPECT_EQ(count, 0);
     EXPECT_EQ(opened().Tick.Value(), 0) << "a new one";
     EXPECT_EQ(count, 1); // and the fixture goes with the window open
@@ -148,14 +130,14 @@ TEST_F(WindowLife, HandlerClosesItsWindowAndOpensItAgain) {
         };
     };
     Note& first = opened();
-    stage.click(first.Button);
-    stage.settle();
+    click(first.Button);
+    settle();
     EXPECT_EQ(count, 1);
-    EXPECT_TRUE(stage.is_open(note.module()->form_));
+    EXPECT_TRUE(is_open(note.module()->form_));
 }
 
 TEST_F(WindowLife, HandlersWaitingForAModalWindowKeepTheirs) {
-    stage.desktop().adopt(modal);
+    desktop.adopt(modal);
     int back = 0;
     wire = [&](Note& form, NoteModule& module) {
         form.Tick.Click = [&] { // within the click that sets the button's caption
@@ -170,16 +152,16 @@ TEST_F(WindowLife, HandlersWaitingForAModalWindowKeepTheirs) {
         };
     };
     Note& first = opened();
-    stage.while_modal([&] { EXPECT_EQ(count, 1) << "destroyed under its handlers"; });
-    stage.while_modal([&] { modal.Hide(); });
-    stage.click(first.Button);
-    stage.settle();
+    while_modal([&] { EXPECT_EQ(count, 1) << "destroyed under its handlers"; });
+    while_modal([&] { modal.Hide(); });
+    click(first.Button);
+    settle();
     EXPECT_EQ(back, 1);
     EXPECT_EQ(count, 0);
 }
 
 TEST_F(WindowLife, TimerClosesTheWindowOfAWaitingHandler) {
-    stage.desktop().adopt(modal);
+    desktop.adopt(modal);
     wire = [&](Note& form, NoteModule& module) {
         form.Clock.Tick = [&] { form.Close(); };
         form.Button.Click = [&] {
@@ -189,13 +171,10 @@ TEST_F(WindowLife, TimerClosesTheWindowOfAWaitingHandler) {
         };
     };
     Note& first = opened();
-    stage.while_modal([&] { stage.tick(first.Clock); });
-    stage.while_modal([&] {
-        EXPECT_FALSE(first.loaded());
-        modal.Hide();
-    });
-    stage.click(first.Button);
-    stage.settle();
+    while_modal([&] { EXPECT_TRUE(QTest::qWaitFor([&] { return !first.loaded(); })); });
+    while_modal([&] { modal.Hide(); });
+    click(first.Button);
+    settle();
     EXPECT_EQ(count, 0);
 }
 
@@ -208,7 +187,7 @@ TEST_F(WindowLife, LoadingMayCloseOrFail) {
     };
     note.open();
     EXPECT_EQ(note.module(), nullptr);
-    stage.settle();
+    settle();
     EXPECT_EQ(count, 0);
     wire = [](Note& form, NoteModule&) { form.Load = [] { throw std::runtime_error("no"); }; };
     EXPECT_THROW(note.open(), std::runtime_error);
@@ -228,13 +207,16 @@ TEST_F(WindowLife, UnloadMayFailAndQueryRefuse) {
         };
     };
     Note& first = opened();
-    stage.close(first);
-    stage.settle();
-    EXPECT_TRUE(stage.is_open(first));
+    close(first);
+    settle();
+    EXPECT_TRUE(is_open(first));
     refuse = false;
-    stage.when_reported([&] { EXPECT_EQ(count, 1) << "destroyed under the report"; });
-    stage.close(first);
-    stage.settle();
+    while_modal([&] {
+        EXPECT_EQ(count, 1) << "destroyed under the report";
+        QApplication::activeModalWidget()->close();
+    });
+    close(first);
+    settle();
     EXPECT_EQ(count, 0);
 }
 
@@ -243,25 +225,24 @@ TEST_F(WindowLife, WorkPutOffAndTheEndOfTheProgram) {
     wire = [&](Note& form, NoteModule& module) {
         form.Button.Click = [&] {
             form.Close();
-            stage.desktop().later([&] {
+            desktop.later([&] {
                 module.work();
                 order += "later ";
             });
         };
         form.Tick.Click = [&] {
-            stage.desktop().end();
+            desktop.end();
             form.Close();
             module.work();
         };
     };
-    stage.click(opened().Button);
-    stage.settle();
+    click(opened().Button);
+    settle();
     EXPECT_EQ(order, "later ");
     EXPECT_EQ(count, 0);
-    stage.click(opened().Tick);
+    click(opened().Tick);
     EXPECT_EQ(count, 1) << "goes with the program";
 }
 
 } // namespace
-
 } // namespace quittika::test

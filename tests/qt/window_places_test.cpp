@@ -11,20 +11,18 @@
 #include <QScreen>
 
 namespace quittika::test {
-
 namespace {
 
 TEST(WindowPlaces, FitWhollyOnOneScreen) {
     const QList<QRect> one{{0, 0, 1920, 1080}};
     const QList<QRect> two{{0, 0, 1920, 1080}, {1920, 0, 1280, 1024}};
     const QList<QRect> small{{0, 0, 960, 540}}; // the first one at twice the scale
-    struct Case {
+    const struct {
         const char* what;
         QList<QRect> screens;
         WindowPlace wanted;
         WindowPlace fit;
-    };
-    const Case cases[] = {
+    } cases[] = {
         {"as it was", one, {{600, 400}, QPoint(700, 500)}, {{600, 400}, QPoint(700, 500)}},
         {"over the edges", one, {{600, 400}, QPoint(1700, 900)}, {{600, 400}, QPoint(1320, 640)}},
         {"second screen", two, {{600, 400}, QPoint(2500, 100)}, {{600, 400}, QPoint(2500, 100)}},
@@ -33,7 +31,7 @@ TEST(WindowPlaces, FitWhollyOnOneScreen) {
         {"scale changed", small, {{1200, 800}, QPoint(300, 200)}, {{960, 500}, QPoint(0, 0)}},
         {"size alone", small, {{1200, 300}, std::nullopt}, {{960, 300}, std::nullopt}},
     };
-    for (const Case& c : cases) {
+    for (const auto& c : cases) {
         EXPECT_EQ(fitted(c.wanted, c.screens), c.fit) << c.what;
     }
 }
@@ -97,5 +95,4 @@ TEST(WindowPlaces, WindowsComeBackWhereTheyWere) {
 }
 
 } // namespace
-
 } // namespace quittika::test

@@ -188,9 +188,12 @@ TEST(Dateistoerung, GescheitertesSpeichernSagtWarumUndGelingtBeimNaechstenMal) {
             }
             SCOPED_TRACE(testing::Message() << aufruf << ", " << art.fehler);
             Pruefstand p;
+            p.einstellungen.Check_RN_automatisch.Value = 1;
+            p.nummern.RNStartLesen();
             ASSERT_TRUE(p.speichern("a.qk8"));
             const std::string alt = p.ordner.lesen("a.qk8");
             p.form1.Text_Kunde_1.Text = "Neu";
+            p.zustand.aendern();
             bool gelungen = false;
             {
                 const Stoerung stoerung(aufruf, 1, art.fehler);
@@ -200,6 +203,8 @@ TEST(Dateistoerung, GescheitertesSpeichernSagtWarumUndGelingtBeimNaechstenMal) {
                 EXPECT_THAT(p.dialoge.take_boxes(), ElementsAre(HasSubstr("|Fehler beim speichern|")));
                 EXPECT_THAT(p.form1.StatusBar1[3].Caption(), HasSubstr(art.grund));
                 EXPECT_EQ(p.ordner.lesen("a.qk8"), alt);
+                EXPECT_TRUE(p.zustand.geaendert());
+                EXPECT_EQ(p.ordner.lesen("RN.txt"), "2\r\n") << "no number is used up";
             }
             EXPECT_TRUE(p.speichern("a.qk8"));
             EXPECT_THAT(p.ordner.lesen("a.qk8"), HasSubstr("\r\nNeu\r\n"));

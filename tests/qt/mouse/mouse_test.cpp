@@ -9,21 +9,13 @@
 #include "tests/qt/mouse/mouse.hpp"
 #include "tests/qt/mouse/workbench_window.hpp"
 
-#include <QImage>
-#include <QListView>
-#include <QPushButton>
-#include <QSlider>
-#include <QTabWidget>
-#include <QTemporaryDir>
-#include <QThread>
-#include <QTimer>
+#include <QtWidgets>
 
 #include <algorithm>
 #include <cmath>
 #include <vector>
 
 namespace quittika::test {
-
 namespace {
 
 class RealMouse : public ::testing::Test {
@@ -169,7 +161,6 @@ TEST_F(RealMouse, AbortsLongWork) {
 }
 
 } // namespace
-
 } // namespace quittika::test
 
 int main(int argc, char** argv) {

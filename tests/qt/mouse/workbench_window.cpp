@@ -4,7 +4,6 @@
 #include "ui_Workbench.h"
 
 namespace quittika::test {
-
 namespace {
 
 template <class Window, class Design> std::unique_ptr<QWidget> window() {
