@@ -1,5 +1,6 @@
-# Recorded pages, shorter: texts of one height and font in one line, "text <top> <size> <bold> <colour>" and then
-# "| <left>+<width> <text>" for each; of lines that stood on the page before as well only the number.
+# Recorded pages, shorter. Texts of one font beside each other stand in one line, "text <top> <size> <bold> <colour>"
+# and "| <left>+<width> <text>" for each; those below each other in "block <left> <size> <bold> <colour>" and
+# "| <top>+<width> <text>". Of lines that stood on the page before as well there is only the number.
 function line(text) {
     page += text ~ /^page /
     if (page > 1 && seen[text] == page - 1) {
@@ -14,18 +15,28 @@ function line(text) {
     seen[text] = page
 }
 function flush() {
-    if (head != "") {
-        line(head rest)
+    if (kind == "block") {
+        line("block " left " " font block)
+    } else if (font != "") {
+        line("text " top " " font row)
     }
-    head = rest = ""
+    font = kind = row = block = ""
 }
 /^text / {
-    this = "text " $3 " " $5 " " $6 " " $7
-    if (this != head) {
+    this = $5 " " $6 " " $7
+    beside = this == font && $3 == top && kind != "block"
+    below = this == font && $2 == left && kind != "row"
+    if (beside || below) {
+        kind = beside ? "row" : "block"
+    } else {
         flush()
-        head = this
     }
-    rest = rest " | " $2 "+" $4 substr($0, length("text " $2 $3 $4 $5 $6 $7) + 6)
+    font = this
+    left = $2
+    top = $3
+    words = substr($0, length("text " $2 $3 $4 $5 $6 $7) + 6)
+    row = row " | " left "+" $4 words
+    block = block " | " top "+" $4 words
     next
 }
 { flush(); line($0) }
