@@ -1,23 +1,13 @@
 #include "tests/qt/test_form.hpp"
 
+#include "tests/qt/widgets.hpp"
+
 #include <QtWidgets>
 
 #include <algorithm>
 #include <cctype>
 
 namespace quittika::test {
-namespace {
-
-template <class W> W* add(QWidget& parent, const char* name) {
-    auto* widget = new W(&parent);
-    widget->setObjectName(QString::fromUtf8(name));
-    if (parent.layout() != nullptr) {
-        parent.layout()->addWidget(widget);
-    }
-    return widget;
-}
-
-} // namespace
 
 AllKinds::AllKinds() : Form("AllKinds", "All kinds", {.width = 9000, .height = 9000}) {
     First.Value.adopt(true);

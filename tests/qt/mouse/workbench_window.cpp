@@ -1,21 +1,56 @@
 #include "tests/qt/mouse/workbench_window.hpp"
 
-#include "ui_Articles.h"
-#include "ui_Workbench.h"
+#include "tests/qt/widgets.hpp"
+
+#include <QtWidgets>
 
 namespace quittika::test {
 namespace {
 
-template <class Window, class Design> std::unique_ptr<QWidget> window() {
-    auto made = std::make_unique<Window>();
-    Design().setupUi(made.get());
-    return made;
+QWidget& add_page(QTabWidget& tabs) {
+    auto* page = new QWidget;
+    new QVBoxLayout(page);
+    tabs.addTab(page, QString());
+    return *page;
+}
+
+std::unique_ptr<QWidget> workbench() {
+    auto window = std::make_unique<QMainWindow>();
+    window->setObjectName("Workbench");
+    auto* centre = new QWidget;
+    window->setCentralWidget(centre);
+    new QVBoxLayout(centre);
+    add<QPushButton>(*centre, "Open");
+    auto* tabs = add<QTabWidget>(*centre, "Tabs");
+    QWidget& sheet_page = add_page(*tabs);
+    add<QCheckBox>(sheet_page, "Movable");
+    auto* sheet = add<QFrame>(sheet_page, "Sheet");
+    sheet->setFrameShape(QFrame::Box);
+    add<QLabel>(*sheet, "Block");
+    QWidget& field_page = add_page(*tabs);
+    add<QLineEdit>(field_page, "Service");
+    add<QPlainTextEdit>(field_page, "Remark");
+    add<QSlider>(field_page, "Red")->setOrientation(Qt::Horizontal);
+    add<QFrame>(field_page, "Patch")->setMinimumSize(40, 40);
+    QWidget& work_page = add_page(*tabs);
+    add<QPushButton>(work_page, "Work");
+    add<QLabel>(work_page, "Result");
+    return window;
+}
+
+std::unique_ptr<QWidget> articles() {
+    auto window = std::make_unique<QDialog>();
+    window->setObjectName("Articles");
+    new QVBoxLayout(window.get());
+    add<QListView>(*window, "List");
+    add<QPushButton>(*window, "Done");
+    return window;
 }
 
 } // namespace
 
 std::unique_ptr<QWidget> workbench_window(std::string_view form) {
-    return form == "Workbench" ? window<QMainWindow, Ui::Workbench>() : window<QDialog, Ui::Articles>();
+    return form == "Workbench" ? workbench() : articles();
 }
 
 } // namespace quittika::test

@@ -7,7 +7,7 @@
 
 namespace quittika::test {
 
-/// The window of one of the forms of workbench.hpp, from its design.
+/// The window of one of the forms of workbench.hpp.
 std::unique_ptr<QWidget> workbench_window(std::string_view form);
 
 } // namespace quittika::test
