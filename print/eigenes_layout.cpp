@@ -20,6 +20,7 @@ constexpr double kUnterAbsender = 6; ///< mm between logo or sender and them
 constexpr double kBanklinie = 1;     ///< mm from the rule to the bank data
 constexpr double kBlattbreite = 297; ///< the rule runs over the sheet's right edge
 constexpr double kStrich = 0.2;
+constexpr double kSchlussabstand = 2; ///< mm below the last rule of rows and amounts
 
 /// What the pages of a document have in common.
 struct Beleg {
@@ -54,8 +55,7 @@ public:
         const double kopfende = setzen(ueber_tabelle);
         const double ende = tabelle(voller_kopf_ ? satz_.frei_unter(design_.Y_LISTE) : kurzer_kopf(kopfende));
         if (Textblock bemerkungen = bloecke_.bemerkungen(); mit_bemerkungen() && !im_kopf(bemerkungen)) {
-            bemerkungen.y = std::max(bemerkungen.y, ende);
-            unter_tabelle.push_back(std::move(bemerkungen));
+            unter_tabelle.push_back(unter(ende, std::move(bemerkungen)));
         }
         setzen(unter_tabelle);
         fuss_drucken(fuss);
@@ -111,7 +111,7 @@ private:
 
     /// Prints the blocks from top to bottom and returns where the lowest one ends.
     double setzen(std::vector<Textblock>& bloecke) {
-        std::sort(bloecke.begin(), bloecke.end(), [](const Textblock& a, const Textblock& b) {
+        std::stable_sort(bloecke.begin(), bloecke.end(), [](const Textblock& a, const Textblock& b) {
             return std::tie(a.y, a.x) < std::tie(b.y, b.x);
         });
         double ende = 0;
@@ -144,8 +144,22 @@ private:
         DRUCKE_TABELLE(blatt_, tabelle, seite_.zeilen, design_.LIST_OPTION, farbe);
         DRUCKE_BETRAEGE(blatt_, seite_, tabelle, beleg_.form1, farbe);
         const double ende = blatt_.surface.CurrentY - blatt_.just.Yjust;
-        satz_.belegen({kListenrand, y, kBlattbreite, ende});
+        satz_.belegen({kListenrand, y, kBlattbreite, ende - kSchlussabstand});
         return ende;
+    }
+
+    /// The block below `ende`, where the table ends; close below its last rule where it fits only there.
+    Textblock unter(double ende, Textblock block) {
+        const double y = block.y;
+        block.y = std::max(y, ende);
+        if (!satz_.frei(BLOCK_KASTEN(block, BLOCK_MESSEN(blatt_, block)))) {
+            Textblock dicht = block;
+            dicht.y = std::max(y, ende - kSchlussabstand);
+            if (satz_.frei(BLOCK_KASTEN(dicht, BLOCK_MESSEN(blatt_, dicht)))) {
+                return dicht;
+            }
+        }
+        return block;
     }
 
     /// Page number and bank data stand where the design puts them; everything else makes room.

@@ -6,13 +6,19 @@ namespace quittika {
 
 namespace {
 
-constexpr double kLuft = 0.5; ///< mm between what moved and what it moved away from
+constexpr double kLuft = 1; ///< mm between what moved and what it moved away from
 
 bool bedeckt(const Kasten& a, const Kasten& b) {
     return a.links < b.rechts && b.links < a.rechts && a.oben < b.unten && b.oben < a.unten;
 }
 
 } // namespace
+
+bool Satzspiegel::frei(const Kasten& kasten) const {
+    return kasten.unten <= unterkante_ &&
+           std::none_of(belegt_.begin(), belegt_.end(),
+                        [&kasten](const Kasten& k) { return bedeckt(k, kasten); });
+}
 
 double Satzspiegel::ausweichen(Kasten kasten) const {
     const double anfang = kasten.oben;

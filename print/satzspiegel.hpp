@@ -19,6 +19,7 @@ public:
     explicit Satzspiegel(double unterkante) : unterkante_(unterkante) {}
 
     void belegen(const Kasten& kasten) { belegt_.push_back(kasten); }
+    bool frei(const Kasten& kasten) const;
     /// How far down a box must move so that it covers nothing; 0 where there is no room below either.
     double ausweichen(Kasten kasten) const;
     /// Bottom of what begins above `y`, `y` where nothing reaches down to it.

@@ -1,5 +1,6 @@
 #include "print/tabellenstil.hpp"
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <vector>
@@ -77,7 +78,7 @@ public:
             senkrecht(kLinks, oben, unten);
             senkrecht(kRechts, oben, unten);
             for (const double x : spaltenlinien()) {
-                spaltenlinie(x, oben, unten);
+                spaltenlinie(x, oben, kopfende, unten);
             }
         }
         surface_.CurrentY += kAbstand;
@@ -112,7 +113,7 @@ private:
                 waagrecht(y, hell(farbe_));
             }
             tabelle_.ZEILE(blatt_, index);
-            reihen_.push_back({y, surface_.CurrentY, tabelle_.TEXTENDE(surface_, index)});
+            textende_ = std::max(textende_, tabelle_.TEXTENDE(surface_, index));
             ++gedruckt;
         }
     }
@@ -134,15 +135,10 @@ private:
     void senkrecht(double x, double von, double bis) {
         surface_.Line(blatt_.X(x), von, blatt_.X(x), bis, farbe_);
     }
-    /// Breaks off where a long description runs across.
-    void spaltenlinie(double x, double von, double bis) {
-        for (const Reihe& reihe : reihen_) {
-            if (tabelle_.spalten().X_Leistung < x && reihe.textende > x) {
-                senkrecht(x, von, reihe.oben);
-                von = reihe.unten;
-            }
-        }
-        senkrecht(x, von, bis);
+    /// Ends below the headings where a long description would run across it.
+    void spaltenlinie(double x, double oben, double kopfende, double unten) {
+        const bool frei = x < tabelle_.spalten().X_Leistung || textende_ < x;
+        senkrecht(x, oben, frei ? unten : kopfende);
     }
     void flaeche(double oben, double unten, Color farbe) {
         const int striche = static_cast<int>((unten - oben) / kStrich);
@@ -151,18 +147,12 @@ private:
         }
     }
 
-    struct Reihe {
-        double oben;
-        double unten;
-        double textende; ///< mm from the left, not adjusted
-    };
-
     Blatt& blatt_;
     PrintSurface& surface_;
-    std::vector<Reihe> reihen_;
     const Drucktabelle& tabelle_;
     const Stil& stil_;
     Color farbe_;
+    double textende_ = 0; ///< of the longest description, mm, not adjusted
 };
 
 } // namespace

@@ -12,7 +12,7 @@ constexpr double kMmJePunkt = 25.4 / 72;
 // Of the font's size, from the top of a line: where its letters begin and end.
 constexpr double kOberlaenge = 0.18;
 constexpr double kUnterlaenge = 0.95;
-constexpr double kRand = 2; ///< mm that stay free at the sheet's edges
+constexpr double kRand = 4; ///< mm that stay free at the sheet's edges
 constexpr Paper kBlatt;
 
 /// Lines up to the last one that shows something.
