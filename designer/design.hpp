@@ -13,6 +13,8 @@ namespace quittika {
 
 inline constexpr double kListenrand = 12; ///< `X_LISTE` always: the table cannot be moved sideways
 
+inline constexpr int kTabellendesigns = 5;
+
 /// The user's own page design: where each block begins, in millimetres from the page's left and top edge.
 struct Design {
     double X_LOGO = 0;

@@ -40,6 +40,10 @@ void Designdatei::DESIGN_LADEN() {
             hinweise_.melden("In design.dsg fehlen Zeilen: " + std::to_string(lesung.fehlen) + ", zuerst " +
                              lesung.fehlt + "; sie gelten als 0.");
         }
+        if (design.LIST_OPTION < 0 || design.LIST_OPTION >= kTabellendesigns) {
+            hinweise_.melden("Das Tabellendesign " + std::to_string(design.LIST_OPTION) +
+                             " in design.dsg gibt es nicht: gedruckt wird das erste, 0.");
+        }
     } catch (const Laufzeitfehler&) {
         DESIGN_STANDARD();
         hinweise_.melden(" Problem beim öffnen der Designdatei >design.dsg<");

@@ -1,5 +1,7 @@
 #include "print/tabellenstil.hpp"
 
+#include "designer/design.hpp"
+
 #include <algorithm>
 #include <array>
 #include <cstddef>
@@ -29,7 +31,7 @@ struct Stil {
     bool fetter_kopf = false;
 };
 
-constexpr std::array<Stil, 5> kStile{{
+constexpr std::array<Stil, kTabellendesigns> kStile{{
     {},
     {.rahmen = true, .kopflinie = true, .schlusslinie = true},
     {.zebra = true, .kopflinie = true, .schlusslinie = true, .fetter_kopf = true},

@@ -80,6 +80,8 @@ TEST(Designdatei, ZahlenKommenGanzHeraus) {
         EXPECT_DOUBLE_EQ(p.geladen(f.zeile).*f.feld, f.wert) << f.zeile;
     }
     EXPECT_EQ(p.hinweis(), "In design.dsg fehlen Zeilen: 36, zuerst X_LOGO; sie gelten als 0.");
+    p.geladen(standardzeilen("") + "LIST_OPTION:5;");
+    EXPECT_NE(p.hinweis().find("Das Tabellendesign 5 in design.dsg gibt es nicht"), std::string::npos);
     EXPECT_TRUE(p.geladen("VISIBLE_LOGO:7").VISIBLE_LOGO);
     EXPECT_FALSE(p.geladen("VISIBLE_LOGO:0;").VISIBLE_LOGO);
     p.datei.DESIGN_STANDARD();
