@@ -47,17 +47,14 @@ TEST(Designdatei, WasSieSagtGiltInJederReihenfolge) {
     const std::string zeilen = standardzeilen(p.ordner.ordner());
     ASSERT_EQ(p.geschrieben(), zeilen);
     const Design wieder = p.geladen("UNBEKANNT:5;\r\nohne Trenner\r\n\r\n" + zeilen);
-    std::vector<std::string> umgekehrt;
+    std::string umgekehrt;
     zeilen_durchgehen(zeilen, [&umgekehrt](std::string_view zeile) {
-        umgekehrt.insert(umgekehrt.begin(), grossbuchstaben(zeile.substr(0, zeile.find(':'))) +
-                                                std::string(zeile.substr(zeile.find(':'))));
+        const std::size_t wert = zeile.find(':');
+        umgekehrt =
+            grossbuchstaben(zeile.substr(0, wert)) + std::string(zeile.substr(wert)) + "\n" + umgekehrt;
         return true;
     });
-    std::string bytes;
-    for (const std::string& zeile : umgekehrt) {
-        bytes += zeile + "\n";
-    }
-    EXPECT_EQ(p.geladen(bytes), wieder);
+    EXPECT_EQ(p.geladen(umgekehrt), wieder);
     EXPECT_EQ(p.geschrieben(), zeilen);
     EXPECT_TRUE(p.dialoge.take_boxes().empty());
     EXPECT_EQ(p.hinweis(), "");

@@ -1,127 +1,87 @@
-#include "print/ueberdruck.hpp"
+#include "print/nachsichtiges_geraet.hpp"
 #include "tests/print/druckprobe.hpp"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <utility>
 
 namespace quittika {
 namespace {
 
-/// The standard design with other values, on paper.
+/// The standard design with other lines behind it, on paper.
 struct Eigenprobe : Druckprobe {
+    std::string befund; ///< what is printed over something else or over the edge
+
     Eigenprobe() {
         einstellungen.Option9_Layout.Value = true;
-        designdatei.DESIGN_STANDARD();
         form1.Text_Kunde_1.Text = "Kunde";
         form1.Text_KundennrK.Text = "Nr. 8";
         form1.Text_Bemerkung1[0].Text = "Anrede";
         form1.Text_Bemerkung4[0].Text = "Schluss";
         form1.Text_Bemerkung1[1].Text = "Bemerkung";
     }
-    Papier gezeichnet() {
-        designdatei.DESIGN_SPEICHERN();
-        return drucken({-4, -6});
-    }
-    /// What is printed over something else or over the edge.
-    static std::string befund(const Papier& papier) {
-        Ueberdruck ueberdruck{Paper{}};
-        int seite = 1;
-        for (const GezeichneterText& t : papier.texte) {
-            for (; seite < t.seite; ++seite) {
-                ueberdruck.neue_seite();
-            }
-            ueberdruck.text(t.links, t.oben, t.rechts - t.links, {"Arial", t.groesse, t.fett}, t.text);
-        }
-        return ueberdruck.hinweis("");
+    Papier gezeichnet(const std::string& zeilen) {
+        ordner.schreiben("design.dsg", DESIGN_SCHREIBEN(DESIGN_STANDARD(verzeichnis)).bytes + zeilen);
+        Papier papier;
+        Papiergeraet papiergeraet(papier);
+        NachsichtigesGeraet geraet(papiergeraet, Paper{});
+        PrintSurface flaeche(geraet, schrift);
+        druck.vorbereiten().DRUCKEN(flaeche, {-4, -6});
+        befund = geraet.ueberdruck().hinweis("");
+        return papier;
     }
 };
 
 TEST(EigenesLayout, WasSichUeberdecktRuecktNachUnten) {
-    using Werte = std::vector<std::pair<double Design::*, double>>;
-    struct Fall {
-        const char* name;
-        Werte werte;
+    const struct {
+        const char* design;
         int zeilen;
         const char* text;
         double x;
         double y; ///< mm on the sheet
-    };
-    const Fall faelle[] = {
-        {"frei", {}, 1, "Nr. 8", 150, 85},
-        {"unter dem Kunden",
-         {{&Design::Y_KDNR, 74}, {&Design::X_KDNR, 12}},
-         1,
-         "Nr. 8",
-         12,
-         74 + 3.69 + 1 - 0.7},
-        {"daneben", {{&Design::Y_KDNR, 74}, {&Design::X_KDNR, 22}}, 1, "Nr. 8", 22, 74},
-        {"neben dem Blatt", {{&Design::X_RN, 200}}, 1, "RECHNUNG 7", 206 - 20, 93},
-        {"Tabelle unter dem Anschreiben",
-         {{&Design::Y_BEMERKUNG_1, 145}},
-         1,
-         "Leistung",
-         40,
-         145 + 12 + 3.35 + 4},
-        {"Bemerkung an ihrem Platz", {}, 10, "Bemerkung", 64, 242},
+    } faelle[] = {
+        {"", 1, "Nr. 8", 150, 85},
+        {"Y_KDNR:74;\nX_KDNR:12", 1, "Nr. 8", 12, 74 + 3.69 + 1 - 0.7}, // below the customer
+        {"Y_KDNR:74;\nX_KDNR:22", 1, "Nr. 8", 22, 74},                  // beside him
+        {"X_RN:200", 1, "RECHNUNG 7", 206 - 20, 93},                    // over the edge
+        {"Y_BEMERKUNG_1:145", 1, "Leistung", 40, 145 + 12 + 3.35 + 4},
+        {"", 10, "Bemerkung", 64, 242},
         // 148 mm, rules and heading 16, 17 rows, sum and total with their rules 11
-        {"Bemerkung unter den Summen",
-         {{&Design::Y_BEMERKUNG, 160}},
-         17,
-         "Bemerkung",
-         64,
-         148 + 16 + 68 + 11},
-        {"Bemerkung über der Tabelle", {{&Design::Y_BEMERKUNG, 110}}, 17, "Bemerkung", 64, 110},
-        {"Bemerkung unter der Bankzeile",
-         {{&Design::Y_BANKZEILE, 243}},
-         17,
-         "Bemerkung",
-         64,
-         243 + 2.68 + 1 - 0.64},
-        {"Absender unter der Tabelle",
-         {{&Design::Y_ADRESSEFIRMA, 200}},
-         12,
-         "MUSTERFIRMA",
-         11,
-         221.0 + 1 - 0.64},
+        {"Y_BEMERKUNG:160", 17, "Bemerkung", 64, 148 + 16 + 68 + 11},
+        {"Y_BEMERKUNG:110", 17, "Bemerkung", 64, 110},
+        {"Y_BANKZEILE:243", 17, "Bemerkung", 64, 243 + 2.68 + 1 - 0.64},
+        {"Y_ADRESSEFIRMA:200", 12, "MUSTERFIRMA", 11, 221 + 1 - 0.64},
     };
-    for (const Fall& f : faelle) {
-        SCOPED_TRACE(f.name);
+    for (const auto& f : faelle) {
+        SCOPED_TRACE(f.design);
         Eigenprobe p;
         p.zeilen(f.zeilen);
-        for (const auto& [feld, wert] : f.werte) {
-            p.designdatei.design.*feld = wert;
-        }
-        const Papier papier = p.gezeichnet();
+        const Papier papier = p.gezeichnet(f.design);
         const GezeichneterText* text = papier.finden(f.text);
         ASSERT_NE(text, nullptr);
         EXPECT_NEAR(text->links, f.x - 4, 0.01);
         EXPECT_NEAR(text->oben, f.y - 6, 0.02);
-        EXPECT_EQ(Eigenprobe::befund(papier), "");
+        EXPECT_EQ(p.befund, "");
     }
 }
 
 TEST(EigenesLayout, JedesTabellendesignSiehtAndersAusUndSagtDasselbe) {
-    struct Fall {
+    const struct {
         int stil;
         bool fett;
         Color schrift; ///< of the headings while rules are dark; black while they are light
         int senkrecht;
         bool flaechen;
-    };
-    constexpr Color kWeiss = color::rgb(255, 255, 255);
-    const Fall faelle[] = {{0, false, 0, 0, false},    {1, false, 0, 6, false}, {2, true, 0, 0, true},
-                           {3, true, kWeiss, 0, true}, {4, true, 0, 0, false},  {7, false, 0, 0, false}};
+    } faelle[] = {{0, false, 0, 0, false},      {1, false, 0, 6, false}, {2, true, 0, 0, true},
+                  {3, true, 0xFFFFFF, 0, true}, {4, true, 0, 0, false},  {7, false, 0, 0, false}};
     std::vector<double> erste;
-    for (const Fall& f : faelle) {
+    for (const auto& f : faelle) {
         for (const bool dunkel : {true, false}) {
             SCOPED_TRACE(f.stil);
             Eigenprobe p;
             p.zeilen(5);
-            p.designdatei.design.LIST_OPTION = f.stil;
             p.werte.FARBE_LINIEN = dunkel ? color::rgb(0, 60, 120) : color::rgb(255, 230, 120);
-            const Papier papier = p.gezeichnet();
+            const Papier papier = p.gezeichnet("LIST_OPTION:" + std::to_string(f.stil));
             std::vector<double> stellen;
             for (const GezeichneterText& t : papier.texte) {
                 stellen.insert(stellen.end(), {t.links, t.oben});
@@ -139,22 +99,19 @@ TEST(EigenesLayout, JedesTabellendesignSiehtAndersAusUndSagtDasselbe) {
 }
 
 TEST(EigenesLayout, VolleSeitenPassenAufDasBlatt) {
-    struct Fall {
-        bool absender;
+    const struct {
+        int absender;
         bool bemerkungen;
         int zeilen; ///< that fill the pages
-    };
-    for (const Fall& f :
-         {Fall{false, false, 17 + 41 + 41}, {false, true, 13 + 38 + 38}, {true, false, 17 + 28 + 28}}) {
+    } faelle[] = {{0, false, 17 + 41 + 41}, {0, true, 13 + 38 + 38}, {1, false, 17 + 28 + 28}};
+    for (const auto& f : faelle) {
         Eigenprobe p;
-        p.einstellungen.Check_MitLogoadresseFFSeite.Value = f.absender ? 1 : 0;
-        (f.bemerkungen ? p.einstellungen.Option_RN_BM_alleSeite
-                       : p.einstellungen.Option_RN_BM_nurletzte_Seite)
-            .Value = true;
+        p.einstellungen.Check_MitLogoadresseFFSeite.Value = f.absender;
+        p.einstellungen.Option_RN_BM_alleSeite.Value = f.bemerkungen;
         p.zeilen(f.zeilen);
-        const Papier papier = p.gezeichnet();
+        const Papier papier = p.gezeichnet("");
         EXPECT_EQ(papier.seite, 3);
-        EXPECT_EQ(Eigenprobe::befund(papier), "");
+        EXPECT_EQ(p.befund, "");
         EXPECT_LT(papier.finden("Rechnungsbetrag", 3)->oben + 4, 268 - 6) << "above the page number";
     }
 }
