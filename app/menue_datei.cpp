@@ -17,9 +17,11 @@ MenueDatei::MenueDatei(Form1& form1, const Ereignisse& ereignisse, Dateibefehle&
                        Textexport& textexport, Druckauftrag& druckauftrag, Hauptfenster& hauptfenster,
                        Kopf& kopf, Raster& raster)
     : form1_(form1), dateibefehle_(dateibefehle) {
-    form1.m_neu.Click = ereignisse.befehl([&dateibefehle, &kopf] {
-        dateibefehle.m_neu_Click();
-        kopf.KundeAnwaehlen();
+    form1.m_neu.Click = ereignisse.befehl([&dateibefehle, &kopf, &raster] {
+        if (dateibefehle.m_neu_Click()) {
+            raster.CMD_Seite1_Click(0);
+            kopf.KundeAnwaehlen();
+        }
     });
     OeffnenVerdrahten(ereignisse, raster);
     SpeichernVerdrahten(ereignisse);

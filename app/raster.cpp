@@ -6,10 +6,14 @@ Raster::Raster(Form1& form1, const Ereignisse& ereignisse) : form1_(form1) {
     for (int seite = 0; seite < Form1::kSeiten; ++seite) {
         form1.CMD_Seite1[seite].Click = [this, seite] { CMD_Seite1_Click(seite); };
         for (Form1::Rasterzeile& zeile : form1.Raster) {
-            zeile.Check_K[seite].Click = [&zeile, seite, rechnen = ereignisse.rechnen()] {
+            zeile.Check_K[seite].Click = [&zeile, seite, aenderung = ereignisse.aenderung()] {
                 RasterzeileFreigeben(zeile, seite);
-                rechnen();
+                aenderung();
             };
+            for (TextBox* feld : {&zeile.Text_menge[seite], &zeile.Text_leistung[seite],
+                                  &zeile.Text_preis[seite], &zeile.Text_gesamtp[seite]}) {
+                feld->Change = ereignisse.eintrag();
+            }
             zeile.Text_menge[seite].LostFocus = ereignisse.rechnen();
             zeile.Text_preis[seite].LostFocus = ereignisse.rechnen();
             zeile.Text_leistung[seite].OLEDragDrop = ABLEGEN(zeile.Text_leistung[seite]);

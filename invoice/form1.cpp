@@ -16,7 +16,7 @@ std::string nummeriert(const char* name, int n) {
 
 Form1::Rasterzeile::Rasterzeile(ControlArray<Frame, kSeiten>& seiten, int n)
     : Check_K(seiten, nummeriert("Check_K", n), std::string("K")),
-      Text_menge(seiten, nummeriert("Text_menge", n), std::string("0")),
+      Text_menge(seiten, nummeriert("Text_menge", n), std::string(vorgabe::kMenge)),
       Text_leistung(seiten, nummeriert("Text_leistung", n)),
       Text_preis(seiten, nummeriert("Text_preis", n), std::string(vorgabe::kBetrag)),
       Text_gesamtp(seiten, nummeriert("Text_gesamtp", n), std::string(vorgabe::kBetrag)),

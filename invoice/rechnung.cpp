@@ -64,6 +64,7 @@ void Rechnung::RechnungLeeren() {
         liste->Clear();
     }
     form1_.List_DARSTELLUNG.Clear();
+    RasterLeeren();
     NotizSetzen(vorgabe::kNotiz);
     LieferdatumFreigeben(form1_);
     DarstellungAufbauen();
@@ -87,6 +88,19 @@ void Rechnung::StatusLeeren() {
     form1_.Check_bezahlt.Value = 0;
     form1_.Check_abgemahnt.Value = 0;
     form1_.Combo1_mahnung.Enabled = form1_.Check_abgemahnt.ticked();
+}
+
+/// The file takes these fields along but gives none of them back: they would end up in the next customer's.
+void Rechnung::RasterLeeren() {
+    for (Form1::Rasterzeile& zeile : form1_.Raster) {
+        for (int seite = 0; seite < Form1::kSeiten; ++seite) {
+            zeile.Check_K[seite].Value = 0;
+            zeile.Text_menge[seite].Text = vorgabe::kMenge;
+            zeile.Text_leistung[seite].Text = "";
+            zeile.Text_preis[seite].Text = vorgabe::kBetrag;
+            zeile.Text_gesamtp[seite].Text = vorgabe::kBetrag;
+        }
+    }
 }
 
 void Rechnung::NotizSetzen(const std::string& notiz) {

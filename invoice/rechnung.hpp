@@ -27,6 +27,7 @@ public:
 private:
     void KopfLeeren();
     void StatusLeeren();
+    void RasterLeeren();
 
     Form1& form1_;
     Rechnungszustand& zustand_;

@@ -42,6 +42,7 @@ void Vorgaben::SpaltenBenennen() {
 }
 
 void Vorgaben::TexteUebernehmen() {
+    form1_.Option_anschreiben.Value = true;
     for (int n = 1; n <= 4; ++n) {
         for (int block = 0; block < 2; ++block) {
             form1_.Text_Bemerkung(n)[block].Text = einstellungen_.Text_Bemerkung(n)[block].Text();

@@ -50,10 +50,10 @@ bool Dateibefehle::VorAnderemSpeichern() {
     return true;
 }
 
-void Dateibefehle::m_neu_Click() {
+bool Dateibefehle::m_neu_Click() {
     const Hinweiszeile::Befehl befehl(form1_.Hinweise);
     if (zustand_.geaendert() && !zustand_.OhneRueckfrage && !VorherSpeichern(Buttons::YesNo)) {
-        return;
+        return false;
     }
     form1_.StatusBar1[2].Caption = "";
     rechnung_.RechnungLeeren();
@@ -61,6 +61,7 @@ void Dateibefehle::m_neu_Click() {
     zustand_.DateiLoesen();
     summen_.jetztberechnen_List();
     zustand_.als_gespeichert_merken();
+    return true;
 }
 
 void Dateibefehle::NeuBeginnen() {

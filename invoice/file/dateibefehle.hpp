@@ -23,8 +23,8 @@ public:
     /// Called after `oeffneRN` has shown a file.
     std::function<void()> Geoeffnet;
 
-    /// Starts a new invoice, after asking whether to save the present one.
-    void m_neu_Click();
+    /// Starts a new invoice, after asking whether to save the present one. Answers whether it did.
+    bool m_neu_Click();
     /// Saves under a name that the user chooses. Answers whether the invoice is on disk.
     bool m_speichern_Click();
     /// Saves to the current path after a question.
