@@ -13,6 +13,13 @@ class Desktop;
 
 enum class Modality { Modeless, Modal };
 
+/// Values of a form's `WindowState`.
+namespace window_state {
+inline constexpr int kNormal = 0;
+inline constexpr int kMinimised = 1;
+inline constexpr int kMaximised = 2;
+} // namespace window_state
+
 /// How a window is made.
 struct FormDesign {
     int width = 0; ///< twips, without the frame; what it starts with unless the user has changed it
@@ -68,7 +75,7 @@ public:
     Property<Color> BackColor{*this, PropertyId::BackColor, color::kButtonFace};
     Property<Color> ForeColor{*this, PropertyId::ForeColor, color::kWindowText};
     Property<bool> Enabled{*this, PropertyId::Enabled, true};
-    Property<int> WindowState{*this, PropertyId::WindowState, 0}; ///< 0 normal, 1 minimised, 2 maximised
+    Property<int> WindowState{*this, PropertyId::WindowState, window_state::kNormal};
     // On the screen, in twips; width and height without the frame.
     Property<int> Left{*this, PropertyId::Left, 0};
     Property<int> Top{*this, PropertyId::Top, 0};

@@ -15,11 +15,9 @@ std::shared_ptr<void> WindowLives::open() const {
 }
 
 void WindowLives::bring_to_front() const {
-    constexpr int kNormal = 0;
-    constexpr int kMinimised = 1;
     Form& form = *lives_.back().form;
-    if (form.WindowState() == kMinimised) {
-        form.WindowState = kNormal;
+    if (form.WindowState() == window_state::kMinimised) {
+        form.WindowState = window_state::kNormal;
     }
     form.Show();
 }

@@ -29,7 +29,9 @@ namespace quittika {
 
 namespace {
 
-enum WindowState { kNormal = 0, kMinimised = 1, kMaximised = 2 };
+using window_state::kMaximised;
+using window_state::kMinimised;
+using window_state::kNormal;
 
 /// A window that is neither main window nor dialog greets the user and has no frame.
 bool is_splash(const QWidget& window) {

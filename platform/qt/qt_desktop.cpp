@@ -57,13 +57,17 @@ void QtDesktop::restore_place(Form& form) const {
         form.Left.adopt(twips(place.place->x()));
         form.Top.adopt(twips(place.place->y()));
     }
+    if (place.maximised) {
+        form.WindowState.adopt(window_state::kMaximised);
+    }
 }
 
 void QtDesktop::note_place(const Form& form, bool with_place) {
     if (!places_) {
         return;
     }
-    WindowPlace place{QSize(pixels(form.Width()), pixels(form.Height())), std::nullopt};
+    WindowPlace place{QSize(pixels(form.Width()), pixels(form.Height())), std::nullopt,
+                      form.WindowState() == window_state::kMaximised};
     if (with_place) {
         place.place = QPoint(pixels(form.Left()), pixels(form.Top()));
     }

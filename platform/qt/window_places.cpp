@@ -18,6 +18,7 @@ namespace {
 constexpr std::size_t kMostBytes = 1'000'000;
 constexpr int kFarthest = 100'000; ///< pixels in any direction
 constexpr int kTitleBar = 40;      ///< what the desktop puts around a window
+constexpr std::string_view kMaximised = "max";
 
 std::vector<std::string_view> fields(std::string_view line) {
     std::vector<std::string_view> found;
@@ -37,9 +38,13 @@ std::optional<int> number(std::string_view text) {
 }
 
 /// The place that the fields behind the name tell, if they do.
-std::optional<WindowPlace> place_of(const std::vector<std::string_view>& line) {
+std::optional<WindowPlace> place_of(std::vector<std::string_view> line) {
     constexpr std::size_t kWithPlace = 5;
     constexpr std::size_t kSizeOnly = 3;
+    const bool maximised = line.back() == kMaximised;
+    if (maximised) {
+        line.pop_back();
+    }
     std::vector<int> numbers;
     for (std::size_t i = 1; i < line.size(); ++i) {
         if (const auto value = number(line[i])) {
@@ -51,7 +56,7 @@ std::optional<WindowPlace> place_of(const std::vector<std::string_view>& line) {
     if (!complete || numbers[0] <= 0 || numbers[1] <= 0) {
         return std::nullopt;
     }
-    WindowPlace place{QSize(numbers[0], numbers[1]), std::nullopt};
+    WindowPlace place{QSize(numbers[0], numbers[1]), std::nullopt, maximised};
     if (line.size() == kWithPlace) {
         place.place = QPoint(numbers[2], numbers[3]);
     }
@@ -63,6 +68,9 @@ std::string line_of(const std::string& window, const WindowPlace& place) {
         window + ";" + std::to_string(place.size.width()) + ";" + std::to_string(place.size.height());
     if (place.place) {
         line += ";" + std::to_string(place.place->x()) + ";" + std::to_string(place.place->y());
+    }
+    if (place.maximised) {
+        line.append(";").append(kMaximised);
     }
     return line;
 }
@@ -86,7 +94,7 @@ QRect screen_for(const WindowPlace& wanted, const QList<QRect>& screens) {
 
 WindowPlace fitted(const WindowPlace& wanted, const QList<QRect>& screens) {
     const QRect room = screen_for(wanted, screens).adjusted(0, 0, 0, -kTitleBar);
-    WindowPlace fit{wanted.size.boundedTo(room.size()), std::nullopt};
+    WindowPlace fit{wanted.size.boundedTo(room.size()), std::nullopt, wanted.maximised};
     if (wanted.place) {
         const auto within = [](int value, int first, int room_size, int size) {
             return std::clamp(value, first, first + room_size - size);

@@ -15,6 +15,7 @@ namespace quittika {
 struct WindowPlace {
     QSize size;
     std::optional<QPoint> place;
+    bool maximised = false; ///< size and place are then those to come back to
     bool operator==(const WindowPlace&) const = default;
 };
 
@@ -22,9 +23,9 @@ struct WindowPlace {
 /// first.
 WindowPlace fitted(const WindowPlace& wanted, const QList<QRect>& screens);
 
-/// Sizes and places of the windows, kept from one run to the next in a text file: "name;width;height", and
-/// ";left;top" where the place counts. It is a comfort: what cannot be read is as if it had never been
-/// written, and a file that cannot be written stays as it is.
+/// Sizes and places of the windows, kept from one run to the next in a text file: "name;width;height",
+/// ";left;top" where the place counts, and ";max" of a maximised window. It is a comfort: what cannot be read
+/// is as if it had never been written, and a file that cannot be written stays as it is.
 class WindowPlaces {
 public:
     explicit WindowPlaces(std::string path);

@@ -29,6 +29,7 @@ TEST(WindowPlaces, FitWhollyOnOneScreen) {
         {"second screen is gone", one, {{600, 400}, QPoint(2500, 100)}, {{600, 400}, QPoint(1320, 100)}},
         {"between two screens", two, {{600, 400}, QPoint(1800, 700)}, {{600, 400}, QPoint(1920, 584)}},
         {"scale changed", small, {{1200, 800}, QPoint(300, 200)}, {{960, 500}, QPoint(0, 0)}},
+        {"maximised", small, {{1200, 300}, QPoint(9, 0), true}, {{960, 300}, QPoint(0, 0), true}},
         {"size alone", small, {{1200, 300}, std::nullopt}, {{960, 300}, std::nullopt}},
     };
     for (const auto& c : cases) {
@@ -40,10 +41,12 @@ TEST(WindowPlaces, BrokenLinesCountForNothing) {
     const Probenordner folder;
     const WindowPlaces places(folder.schreiben(
         "fenster.cfg", "a;600;400\r\nb;0;400\r\nc;600\r\nd;600;4x\r\ne;600;400;1\nf;600;400;-5;7\n"
-                       "g;600;99999999999\r\n;600;400\r\n\xFF\x81;;;;\r\nh;1;2;3;4;5\r\n"));
+                       "g;600;99999999999\r\n;600;400\r\n\xFF\x81;;;;\r\nh;1;2;3;4;5\r\ni;6;4;max\nj;"
+                       "max\nmax\nk;6;max;4\n"));
     EXPECT_EQ(places.find("a"), (WindowPlace{{600, 400}, std::nullopt}));
+    EXPECT_EQ(places.find("i"), (WindowPlace{{6, 4}, std::nullopt, true}));
     EXPECT_EQ(places.find("f"), (WindowPlace{{600, 400}, QPoint(-5, 7)}));
-    for (const char* broken : {"b", "c", "d", "e", "g", "", "h"}) {
+    for (const char* broken : {"b", "c", "d", "e", "g", "", "h", "j", "max", "k"}) {
         EXPECT_FALSE(places.find(broken).has_value()) << broken;
     }
 }
@@ -75,6 +78,7 @@ TEST(WindowPlaces, WindowsComeBackWhereTheyWere) {
         about.Left = 150;
         about.Top = 300;
         about.Width = twips(500);
+        about.WindowState = window_state::kMaximised;
     });
     EXPECT_NE(folder.lesen("fenster.cfg").find("Form_ueber_QUITTIKA;500;"), std::string::npos);
     session(file, [&](Form& form1, Form& about) {
@@ -82,6 +86,7 @@ TEST(WindowPlaces, WindowsComeBackWhereTheyWere) {
         EXPECT_EQ(about.Left(), 150);
         EXPECT_EQ(about.Top(), 300);
         EXPECT_EQ(about.Width(), twips(500));
+        EXPECT_EQ(about.WindowState(), window_state::kMaximised);
         std::filesystem::remove(file);
     });
     EXPECT_FALSE(std::filesystem::exists(file)) << "nothing was changed";
