@@ -362,6 +362,16 @@ TEST(Pictures, LeaveTheirPaperOnADarkDesktop) {
     EXPECT_GT(lightness(30, 30), 110) << "a dark drawing can be seen";
 }
 
+TEST(Focus, OfAFieldIsSeenOnADarkDesktop) {
+    const DesktopLook dark(9, dark_palette());
+    Bound bound;
+    auto& field = bound.widget("Field");
+    bound.window->show();
+    QApplication::setActiveWindow(bound.window.get());
+    field.setFocus();
+    EXPECT_GT(field.grab().toImage().pixelColor(field.width() / 2, 0).lightness(), 140);
+}
+
 TEST(CheckBinding, TellsWhatIsWrong) {
     Bound bound;
     EXPECT_EQ(check_binding(bound.form, *bound.window), std::vector<std::string>{});

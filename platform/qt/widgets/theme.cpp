@@ -136,9 +136,10 @@ private:
             outline(painter, option.rect, mix(text, ground, kShare), kRadius);
         } else if (element == PE_IndicatorRadioButton) {
             outline(painter, option.rect, mix(text, ground, kShare), option.rect.width() / 2.0);
-        } else if (!option.state.testFlag(State_HasFocus) &&
-                   (element == PE_FrameLineEdit || element == PE_Frame)) {
-            outline(painter, option.rect, mix(text, ground, kFieldShare), kRadius);
+        } else if (element == PE_FrameLineEdit || element == PE_Frame) {
+            const bool has_focus = option.state.testFlag(State_HasFocus);
+            outline(painter, option.rect, has_focus ? focus_color() : mix(text, ground, kFieldShare),
+                    kRadius);
         }
     }
 
