@@ -135,7 +135,8 @@ std::size_t png_chunk_size(const Bytes& file, std::size_t at) {
 
 PictureOutline png_outline(const Bytes& file) {
     PictureOutline outline{PictureFormat::Png, file.big32(16), file.big32(20)};
-    outline.deep = file.u8(24) > 8;
+    constexpr std::uint32_t kTransparent = 4;
+    outline.deep = file.u8(24) > 8 || (file.u8(25) & kTransparent) != 0;
     std::size_t at = kPngHead;
     while (at < file.size() && !file.holds(at + 4, "IEND")) {
         at += png_chunk_size(file, at);

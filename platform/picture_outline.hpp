@@ -14,7 +14,7 @@ struct PictureOutline {
     std::int64_t width = 0;                     ///< pixels, as stored
     std::int64_t height = 0;                    ///< pixels, as stored
     bool complete = false;                      ///< the file reaches to the end of the picture
-    bool deep = false;                          ///< more than 8 bits for each colour
+    bool deep = false;                          ///< more than 8 bits for each colour, or transparent
     int passes = 1;                             ///< times that decoding goes over the whole picture
 };
 

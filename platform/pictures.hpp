@@ -17,10 +17,9 @@ struct PictureSize {
 };
 
 /// Bounds within which a picture is decoded fast and without using up the memory.
-inline constexpr std::size_t kLargestPictureFile = 90'000'000; ///< bytes
-inline constexpr std::int64_t kMostPixels =
-    20'000'000;                                      ///< with more than 8 bits for each colour, half as many
-inline constexpr std::int64_t kLongestSide = 30'000; ///< pixels
+inline constexpr std::size_t kLargestPictureFile = 64'000'000; ///< bytes
+inline constexpr std::int64_t kMostPixels = 20'000'000;        ///< of deep pictures half as many
+inline constexpr std::int64_t kLongestSide = 30'000;           ///< pixels
 /// Pixels that decoding touches, every pass counted.
 inline constexpr std::int64_t kMostPixelVisits = 400'000'000;
 inline constexpr double kLongestDecoding = 1; ///< seconds of computing

@@ -13,7 +13,8 @@ namespace quittika {
 
 namespace {
 
-constexpr double kLineWidth = 0.2;     ///< mm
+constexpr double kLineWidth = 0.2;                ///< mm
+constexpr qint64 kMostLosslessPixels = 3'000'000; ///< packing more takes longer than reading it
 constexpr double kFinestPicture = 600; ///< dots an inch; what is finer would only make the document larger
 
 QImage greys_of(const QImage& picture) {
@@ -49,7 +50,7 @@ bool PainterDevice::begin(QPaintDevice& device, double pixels_per_mm) {
         painter_.scale(rest, rest);
     }
     painter_.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing |
-                            QPainter::SmoothPixmapTransform | QPainter::LosslessImageRendering);
+                            QPainter::SmoothPixmapTransform);
     painter_.translate(QPointF(kOriginLeft, kOriginTop) * pixels_per_mm_);
     return true;
 }
@@ -85,7 +86,10 @@ void PainterDevice::line(double x1, double y1, double x2, double y2, Color color
 void PainterDevice::picture(double left, double top, double width, double height, const std::string& path) {
     const QRectF box(left * pixels_per_mm_, top * pixels_per_mm_, width * pixels_per_mm_,
                      height * pixels_per_mm_);
-    painter_.drawImage(box, ready(path, painter_.transform().mapRect(box).size().toSize()));
+    const QImage& image = ready(path, painter_.transform().mapRect(box).size().toSize());
+    painter_.setRenderHint(QPainter::LosslessImageRendering,
+                           qint64{image.width()} * image.height() <= kMostLosslessPixels);
+    painter_.drawImage(box, image);
 }
 
 const QImage& PainterDevice::ready(const std::string& path, const QSize& box) {

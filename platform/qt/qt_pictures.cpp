@@ -8,6 +8,7 @@
 #include <QImageReader>
 
 #include <algorithm>
+#include <cmath>
 #include <ctime>
 #include <iterator>
 #include <utility>
@@ -16,7 +17,7 @@ namespace quittika {
 
 namespace {
 
-constexpr int kLongestKeptSide = 3600;          ///< pixels, an A4 sheet at 300 dots an inch
+constexpr double kMostKeptPixels = 6.4e6;       ///< an A4 sheet at 257 dots an inch
 constexpr qint64 kKeptBytes = qint64{96} << 20; ///< of all pictures together
 
 const char* name_of(PictureFormat format) {
@@ -81,11 +82,15 @@ QImage decode(PictureFile file) {
     return image;
 }
 
-QImage reduced(const QImage& image) {
-    return std::max(image.width(), image.height()) <= kLongestKeptSide
-               ? image
-               : image.scaled(kLongestKeptSide, kLongestKeptSide, Qt::KeepAspectRatio,
-                              Qt::SmoothTransformation);
+/// With 8 bits for each colour, and no more pixels than a sheet has room for.
+QImage reduced(QImage image) {
+    if (image.depth() > 32) {
+        image.convertTo(image.hasAlphaChannel() ? QImage::Format_ARGB32 : QImage::Format_RGB32);
+    }
+    const double share = std::sqrt(kMostKeptPixels / image.width() / image.height());
+    return share >= 1 ? image
+                      : image.scaled((QSizeF(image.size()) * share).toSize().expandedTo({1, 1}),
+                                     Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
 }
 
 } // namespace
@@ -111,9 +116,9 @@ const QtPictures::Kept& QtPictures::find(const std::string& path) {
     }
     PictureFile file = read_picture_file(path);
     make_room(4 * file.outline.width * file.outline.height);
-    const QImage image = decode(std::move(file)); // the bytes go before the picture is reduced
-    kept_.push_front(
-        {path, info.lastModified(), info.size(), {image.width(), image.height()}, reduced(image)});
+    QImage image = decode(std::move(file)); // the bytes go before the picture is reduced
+    const PictureSize size{image.width(), image.height()};
+    kept_.push_front({path, info.lastModified(), info.size(), size, reduced(std::move(image))});
     return kept_.front();
 }
 

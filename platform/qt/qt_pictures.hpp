@@ -14,7 +14,7 @@ namespace quittika {
 class QtPictures final : public Pictures {
 public:
     PictureSize check(const std::string& path) override;
-    /// The picture as it is shown: turned where the camera was, and reduced where a side is longer than a
+    /// The picture as it is shown: turned where the camera was, and reduced where it has more pixels than a
     /// sheet has room for. Throws as `check` does.
     QImage image(const std::string& path);
 

@@ -1,5 +1,7 @@
 #include "platform/laufzeitfehler.hpp"
+#include "platform/qt/print_pdf.hpp"
 #include "platform/qt/qt_pictures.hpp"
+#include "print/nachsichtiges_geraet.hpp"
 #include "tests/qt/test_form.hpp"
 
 #include <gtest/gtest.h>
@@ -10,6 +12,9 @@
 #include <QTemporaryDir>
 
 #include <sys/stat.h>
+
+#include <ctime>
+#include <fstream>
 
 namespace quittika::test {
 namespace {
@@ -89,6 +94,7 @@ std::vector<Given> given() {
         {"huge bmp", replaced(encoded("bmp"), 18, "204e0000204e0000"), {}, kHuge},
         {"huge png", replaced(encoded("png"), 16, "00004e2000004e20"), {}, kHuge},
         {"deep png", replaced(encoded("png"), 16, "00000fa000000fa010"), {}, "10 Millionen"},
+        {"transparent png", replaced(encoded("png"), 16, "00000fa000000fa00806"), {}, "10 Millionen"},
         {"huge gif", replaced(kGif, 6, "204e204e"), {}, kHuge},
         {"long png", replaced(encoded("png"), 16, "0000753100000001"), {}, "30001 x 1"},
         {"slow jpg", slow(), {}, "aufwendig"},
@@ -209,6 +215,81 @@ TEST_F(PictureTest, KeepTheirProportionsOrAreStretchedAndMissingOnesAreEmpty) {
     EXPECT_EQ(at(78, 78), QColor(Qt::green));
     bound.form.Picture.Picture = folder.filePath("fehlt.bmp").toStdString();
     EXPECT_EQ(at(40, 40), ground);
+}
+
+/// The most that a picture may hold, of what packs badly. `see_through`: with another colour behind it.
+QByteArray heavy(const char* format, QSize size, bool see_through) {
+    QImage image(size, see_through ? QImage::Format_ARGB32 : QImage::Format_RGB32);
+    std::uint32_t random = 1;
+    for (int y = 0; y < size.height(); ++y) {
+        auto* const line = reinterpret_cast<std::uint32_t*>(image.scanLine(y));
+        std::generate_n(line, size.width(), [&] { return random = random * 1664525U + 1013904223U; });
+    }
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    image.save(&buffer, format, see_through ? 100 : 75); // the best png is not packed at all
+    return buffer.data();
+}
+
+#ifdef __has_feature
+constexpr bool kKeepsWhatIsFreed = __has_feature(address_sanitizer);
+#else
+constexpr bool kKeepsWhatIsFreed = false;
+#endif
+
+long memory(const char* what) {
+    std::ifstream status("/proc/self/status");
+    std::string word;
+    while (status >> word && word != what) {
+    }
+    long kilobytes = 0;
+    status >> kilobytes;
+    return kilobytes / 1000;
+}
+
+TEST_F(PictureTest, APageIsPrintedWithOrWithoutItSoonAndInLittleMemory) {
+    struct Printed {
+        const char* name;
+        QByteArray bytes;
+        bool loads;
+    };
+    const Printed cases[] = {
+        {"missing.png", {}, false},
+        {"broken.jpg", encoded("jpg").chopped(2), false},
+        {"damaged.png", replaced(encoded("png"), 60, "000000000000"), false},
+        {"huge.png", replaced(encoded("png"), 16, "00004e2000004e20"), false},
+        {"a text.bmp", "Das ist kein Bild.", false},
+        {"a png.jpg", encoded("png"), true},
+        {"a gif", kGif, true},
+        {"printing colours.jpg", kCmyk, true},
+        {"photo.jpg", heavy("jpg", {5000, 4000}, false), true},
+        {"scan.png", heavy("png", {3160, 3160}, true), true},
+        {"scan.bmp", heavy("bmp", {5000, 4000}, false), true},
+    };
+    for (const Printed& c : cases) {
+        SCOPED_TRACE(c.name);
+        const std::string path =
+            c.bytes.isEmpty() ? folder.filePath(c.name).toStdString() : file(c.name, c.bytes);
+        std::ofstream("/proc/self/clear_refs") << "5"; // the peak is counted from here on
+        const long before = memory("VmRSS:");
+        double seconds = 1;
+        for (int attempt = 0; attempt < 3 && seconds >= 1; ++attempt) { // the machine may be busy
+            const std::clock_t begin = std::clock();
+            PaintTools tools;
+            QtPdfDevice pdf(tools, folder.filePath("seite.pdf"), {"x"});
+            NachsichtigesGeraet device(pdf, Paper{});
+            device.text(20, 20, 10, {"Arial"}, color::kBlack, "Text");
+            device.picture(0, 0, 210, 297, path);
+            device.picture(0, 0, 45, 30, path);
+            device.end_document();
+            seconds = static_cast<double>(std::clock() - begin) / CLOCKS_PER_SEC;
+            EXPECT_EQ(device.fehlendes_bild(), c.loads ? "" : path);
+        }
+        EXPECT_LT(seconds, 1);
+        EXPECT_LT(memory("VmHWM:") - before, kKeepsWhatIsFreed ? 1000 : 300);
+        EXPECT_LT(QFile(folder.filePath("seite.pdf")).size(), 40'000'000);
+        EXPECT_TRUE(QFile::remove(folder.filePath("seite.pdf")));
+    }
 }
 
 } // namespace
