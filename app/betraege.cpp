@@ -5,8 +5,14 @@
 namespace quittika {
 
 Betraege::Betraege(Form1& form1, const Ereignisse& ereignisse, Rechnungszustand& zustand,
-                   Eingabezeile& eingabezeile, Summen& summen, PROGRAMMEINSTELLUNG& werte)
-    : form1_(form1), zustand_(zustand), eingabezeile_(eingabezeile), summen_(summen), werte_(werte) {
+                   Eingabezeile& eingabezeile, Summen& summen, PROGRAMMEINSTELLUNG& werte,
+                   Einstellungsschreiber& einstellungsschreiber)
+    : form1_(form1),
+      zustand_(zustand),
+      eingabezeile_(eingabezeile),
+      summen_(summen),
+      werte_(werte),
+      einstellungsschreiber_(einstellungsschreiber) {
     SchalterVerdrahten(ereignisse);
     WertfeldVerdrahten(form1.Text_MwSt, ereignisse, [this] { Text_MwSt_LostFocus(); });
     for (TextBox* feld : {&form1.Text_Rabatt, &form1.Text_PreisVersankostenEingabe, &form1.Text_Versandk}) {
@@ -24,8 +30,7 @@ void Betraege::SchalterVerdrahten(const Ereignisse& ereignisse) {
                                &f.Check_VersandINKL_MwSt, &f.Check_000}) {
         haekchen->Click = ereignisse.aenderung();
     }
-    f.Check_mengenartDECIMAL.Click =
-        ereignisse.aenderung([this] { werte_.MENGE_DEZIMAL = form1_.Check_mengenartDECIMAL.ticked(); });
+    f.Check_mengenartDECIMAL.Click = ereignisse.aenderung([this] { Check_mengenartDECIMAL_Click(); });
     f.Check_mwst.Click = ereignisse.aenderung([this] { Check_mwst_Click(); });
     f.Option_Satz1.Click = ereignisse.aenderung([this] { form1_.Text_MwSt.Text = werte_.MWST_SATZ1; });
     f.Option_Satz2.Click = ereignisse.aenderung([this] { form1_.Text_MwSt.Text = werte_.MWST_SATZ2; });
@@ -44,6 +49,11 @@ void Betraege::WertfeldVerdrahten(TextBox& feld, const Ereignisse& ereignisse,
                                 rechnen();
                                 feld.select_all();
                             })}});
+}
+
+void Betraege::Check_mengenartDECIMAL_Click() {
+    werte_.MENGE_DEZIMAL = form1_.Check_mengenartDECIMAL.ticked();
+    einstellungsschreiber_.EINSTELLUNGEN_SPEICHERN();
 }
 
 /// VAT without a kind of it would count nothing.

@@ -1,12 +1,14 @@
 #include "app/hauptfenster.hpp"
 
 #include "app/fenstertitel.hpp"
+#include "settings/fensterstatus.hpp"
 
 namespace quittika {
 
 Hauptfenster::Hauptfenster(Form1& form1, Rechnungszustand& zustand, Ladefolge& ladefolge, Kopf& kopf,
-                           Dateibefehle& dateibefehle, Desktop& desktop)
-    : form1_(form1), zustand_(zustand), dateibefehle_(dateibefehle) {
+                           Dateibefehle& dateibefehle, const Programmverzeichnis& verzeichnis,
+                           Desktop& desktop)
+    : form1_(form1), zustand_(zustand), dateibefehle_(dateibefehle), verzeichnis_(verzeichnis) {
     form1.Load = [&ladefolge, &kopf] {
         ladefolge.Form_Load();
         kopf.KundeAnwaehlen();
@@ -18,6 +20,7 @@ Hauptfenster::Hauptfenster(Form1& form1, Rechnungszustand& zustand, Ladefolge& l
 
 void Hauptfenster::Form_QueryUnload(bool& abbrechen) {
     if (!ohne_frage_schliessen_) {
+        FENSTERSTATUS_SPEICHERN(form1_, verzeichnis_);
         abbrechen = !dateibefehle_.VorherSpeichern(Buttons::YesNoCancel);
     }
 }
@@ -28,6 +31,7 @@ void Hauptfenster::TitelZeigen() {
 }
 
 void Hauptfenster::m_beenden_Click() {
+    FENSTERSTATUS_SPEICHERN(form1_, verzeichnis_);
     if (zustand_.geaendert() && !dateibefehle_.VorherSpeichern(Buttons::YesNo)) {
         return;
     }

@@ -11,9 +11,9 @@ namespace quittika {
 class Hauptfenster {
 public:
     Hauptfenster(Form1& form1, Rechnungszustand& zustand, Ladefolge& ladefolge, Kopf& kopf,
-                 Dateibefehle& dateibefehle, Desktop& desktop);
+                 Dateibefehle& dateibefehle, const Programmverzeichnis& verzeichnis, Desktop& desktop);
 
-    /// Asks whether to save and ends the program.
+    /// Remembers the state of the window, asks whether to save and ends the program.
     void m_beenden_Click();
 
 private:
@@ -23,6 +23,7 @@ private:
     Form1& form1_;
     Rechnungszustand& zustand_;
     Dateibefehle& dateibefehle_;
+    const Programmverzeichnis& verzeichnis_;
     bool ohne_frage_schliessen_ = false;
 };
 

@@ -1,6 +1,7 @@
 #include "app/ladefolge.hpp"
 
 #include "platform/forms/twips.hpp"
+#include "settings/fensterstatus.hpp"
 
 #include <algorithm>
 
@@ -13,11 +14,12 @@ constexpr int kRahmen = twips(40); ///< title bar and the desktop's own bar
 } // namespace
 
 Ladefolge::Ladefolge(Form1& form1, Rechnungszustand& zustand, const Desktop& desktop,
-                     Einstellungsstart& einstellungsstart, Logo& logo, ErsteRechnung& erste_rechnung,
-                     Raster& raster, Summen& summen)
+                     const Programmverzeichnis& verzeichnis, Einstellungsstart& einstellungsstart, Logo& logo,
+                     ErsteRechnung& erste_rechnung, Raster& raster, Summen& summen)
     : form1_(form1),
       zustand_(zustand),
       desktop_(desktop),
+      verzeichnis_(verzeichnis),
       einstellungsstart_(einstellungsstart),
       logo_(logo),
       erste_rechnung_(erste_rechnung),
@@ -31,6 +33,7 @@ void Ladefolge::Form_Load() {
     {
         const Rechnungszustand::Sperre still(zustand_);
         einstellungsstart_.Laden();
+        FENSTERSTATUS_LADEN(form1_, verzeichnis_);
         logo_.LayoutZeigen();
         erste_rechnung_.Beginnen();
         Zentrieren();

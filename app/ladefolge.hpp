@@ -1,10 +1,10 @@
 #pragma once
 
-#include "app/logo.hpp"
 #include "app/raster.hpp"
 #include "invoice/erste_rechnung.hpp"
 #include "platform/desktop.hpp"
 #include "settings/einstellungsstart.hpp"
+#include "settings/logo.hpp"
 
 namespace quittika {
 
@@ -12,8 +12,8 @@ namespace quittika {
 class Ladefolge {
 public:
     Ladefolge(Form1& form1, Rechnungszustand& zustand, const Desktop& desktop,
-              Einstellungsstart& einstellungsstart, Logo& logo, ErsteRechnung& erste_rechnung, Raster& raster,
-              Summen& summen);
+              const Programmverzeichnis& verzeichnis, Einstellungsstart& einstellungsstart, Logo& logo,
+              ErsteRechnung& erste_rechnung, Raster& raster, Summen& summen);
 
     /// The whole sequence; it runs once.
     void Form_Load();
@@ -24,6 +24,7 @@ private:
     Form1& form1_;
     Rechnungszustand& zustand_;
     const Desktop& desktop_;
+    const Programmverzeichnis& verzeichnis_;
     Einstellungsstart& einstellungsstart_;
     Logo& logo_;
     ErsteRechnung& erste_rechnung_;

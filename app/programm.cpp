@@ -8,7 +8,6 @@
 #include "app/hauptfenster.hpp"
 #include "app/kopf.hpp"
 #include "app/ladefolge.hpp"
-#include "app/logo.hpp"
 #include "app/menue_datei.hpp"
 #include "app/menue_drucken.hpp"
 #include "app/menue_einstellungen.hpp"
@@ -23,6 +22,7 @@
 #include "print/leistungsspalte.hpp"
 #include "print/lieferscheinoptionen.hpp"
 #include "print/seitenumbruch.hpp"
+#include "settings/logo.hpp"
 
 #include <utility>
 
@@ -62,7 +62,9 @@ struct Programm::Teile {
             return leistungsspalte.HINWEIS(zeile); }};
     Zeilenmenue zeilenmenue{form1, zustand, eingabezeile, rechnung, summen, positionen};
     Rechnungsnummern nummern{form1, einstellungen, zustand, verzeichnis, platform.dialogs};
-    ZuletztGeoeffnet zuletzt{form1, werte};
+    Einstellungstabelle einstellungstabelle = EINSTELLUNGSTABELLE(form1, einstellungen, programm, werte);
+    Einstellungsschreiber einstellungsschreiber{form1, einstellungstabelle, verzeichnis, platform.dialogs};
+    ZuletztGeoeffnet zuletzt{form1, werte, einstellungsschreiber};
     Dateistand stand;
     Rechnungsschreiber schreiber{form1, werte, zustand, verzeichnis, stand, platform.dialogs, platform.clock};
     Rechnungsleser leser{form1, werte, zustand, rechnung, stand, platform.dialogs};
@@ -78,20 +80,27 @@ struct Programm::Teile {
         }};
     Etiketten etiketten{form1, einstellungen, werte, platform.desktop, platform.dialogs, platform.printing};
     KundeAufnehmen kunde_aufnehmen{form1, verzeichnis, platform.dialogs};
-    Einstellungsstart einstellungsstart{einstellungen, programm, werte, verzeichnis};
-    ErsteRechnung erste_rechnung{form1, einstellungen, vorgaben, rechnung, nummern, zuletzt, platform.clock};
+    Logo logo{form1, einstellungen, werte};
+    Programmstil stil{form1, einstellungen, programm, werte};
+    Folgeschritte folgeschritte{form1,       einstellungen,     programm, werte,
+                                verzeichnis, platform.pictures, zuletzt,  stil};
+    Einstellungsuebernahme uebernahme{form1,    einstellungen, programm, werte,
+                                      vorgaben, logo,          stil,     einstellungsschreiber};
+    Einstellungsleser einstellungsleser{einstellungstabelle, verzeichnis, folgeschritte, uebernahme,
+                                        einstellungsschreiber};
+    Einstellungsstart einstellungsstart{einstellungen, programm, werte, verzeichnis, einstellungsleser};
+    ErsteRechnung erste_rechnung{form1, einstellungen, vorgaben, rechnung, nummern, platform.clock};
 
     // The main window: its areas, then the window, then its menus.
     Ereignisse ereignisse{form1.Hinweise, zustand, summen};
     Kopf kopf{form1, ereignisse, kunde_aufnehmen, platform.clock};
     Eingabe eingabe{form1, ereignisse, eingabezeile, positionen, zeilenmenue};
-    Betraege betraege{form1, ereignisse, zustand, eingabezeile, summen, werte};
+    Betraege betraege{form1, ereignisse, zustand, eingabezeile, summen, werte, einstellungsschreiber};
     Raster raster{form1, ereignisse};
-    Logo logo{form1, einstellungen, werte};
     Erinnerung erinnerung{form1, zustand};
-    Ladefolge ladefolge{form1, zustand,        platform.desktop, einstellungsstart,
+    Ladefolge ladefolge{form1, zustand,        platform.desktop, verzeichnis, einstellungsstart,
                         logo,  erste_rechnung, raster,           summen};
-    Hauptfenster hauptfenster{form1, zustand, ladefolge, kopf, dateibefehle, platform.desktop};
+    Hauptfenster hauptfenster{form1, zustand, ladefolge, kopf, dateibefehle, verzeichnis, platform.desktop};
     MenueDatei menue_datei{form1,        ereignisse,   dateibefehle, textexport,
                            druckauftrag, hauptfenster, kopf,         raster};
     MenueHilfe menue_hilfe{form1,          ereignisse,       verzeichnis,     werte,

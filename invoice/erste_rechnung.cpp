@@ -5,14 +5,12 @@
 namespace quittika {
 
 ErsteRechnung::ErsteRechnung(Form1& form1, const frm_einstellungen& einstellungen, Vorgaben& vorgaben,
-                             Rechnung& rechnung, Rechnungsnummern& nummern, ZuletztGeoeffnet& zuletzt,
-                             const Clock& uhr)
+                             Rechnung& rechnung, Rechnungsnummern& nummern, const Clock& uhr)
     : form1_(form1),
       einstellungen_(einstellungen),
       vorgaben_(vorgaben),
       rechnung_(rechnung),
       nummern_(nummern),
-      zuletzt_(zuletzt),
       uhr_(uhr) {}
 
 void ErsteRechnung::Beginnen() {
@@ -22,7 +20,6 @@ void ErsteRechnung::Beginnen() {
     form1_.Text_LIEFERDATUM.Text = " ";
     LieferdatumFreigeben(form1_);
     rechnung_.NotizSetzen(vorgabe::kNotiz);
-    zuletzt_.Zeigen();
     nummern_.RNStartLesen();
 }
 

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "invoice/file/rechnungsnummern.hpp"
-#include "invoice/file/zuletzt_geoeffnet.hpp"
 #include "invoice/form1.hpp"
 #include "invoice/rechnung.hpp"
 #include "invoice/vorgaben.hpp"
@@ -14,9 +13,9 @@ namespace quittika {
 class ErsteRechnung {
 public:
     ErsteRechnung(Form1& form1, const frm_einstellungen& einstellungen, Vorgaben& vorgaben,
-                  Rechnung& rechnung, Rechnungsnummern& nummern, ZuletztGeoeffnet& zuletzt, const Clock& uhr);
+                  Rechnung& rechnung, Rechnungsnummern& nummern, const Clock& uhr);
 
-    /// Fills it from the settings and gives it its number; the menu shows the files used last.
+    /// Fills it from the settings and gives it its number.
     void Beginnen();
 
 private:
@@ -25,7 +24,6 @@ private:
     Vorgaben& vorgaben_;
     Rechnung& rechnung_;
     Rechnungsnummern& nummern_;
-    ZuletztGeoeffnet& zuletzt_;
     const Clock& uhr_;
 };
 

@@ -16,12 +16,14 @@ public:
     /// Rates, kind of VAT, text blocks, column headings, print font, decimals and automatic date; discount
     /// and shipping are off.
     void uebernehmen();
+    /// The headings of both rows.
+    void SpaltenBenennen();
+    /// The two rates to choose from; the chosen one is the rate of the invoice.
+    void SaetzeZeigen();
 
 private:
-    void SpaltenBenennen();
     void TexteUebernehmen();
     void MwStUebernehmen();
-    void SaetzeZeigen();
     void RabattAus();
     void VersandAus();
     void SchalterUebernehmen();

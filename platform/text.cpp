@@ -2,6 +2,8 @@
 
 #include "platform/utf8.hpp"
 
+#include <algorithm>
+
 namespace quittika {
 
 namespace {
@@ -79,6 +81,16 @@ std::string ersetzen(std::string_view text, std::string_view alt, std::string_vi
         i = fund + alt.size();
     }
     return ergebnis.append(text.substr(i));
+}
+
+std::string einzeilig(std::string text) {
+    // Two searches for a single character are many times faster than one for either of two.
+    if (text.find('\r') != std::string::npos || text.find('\n') != std::string::npos) {
+        text = ersetzen(text, "\r\n", " ");
+        std::replace(text.begin(), text.end(), '\r', ' ');
+        std::replace(text.begin(), text.end(), '\n', ' ');
+    }
+    return text;
 }
 
 std::string grossbuchstaben(std::string_view text) {

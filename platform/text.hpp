@@ -29,6 +29,8 @@ std::string gekuerzt(std::string_view text);
 bool beginnt_mit(std::string_view text, std::string_view anfang);
 /// Every `alt` replaced by `neu`.
 std::string ersetzen(std::string_view text, std::string_view alt, std::string_view neu);
+/// A blank for each line end, as a line of a file needs it.
+std::string einzeilig(std::string text);
 /// Capitals, umlauts included.
 std::string grossbuchstaben(std::string_view text);
 

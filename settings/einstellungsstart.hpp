@@ -1,9 +1,7 @@
 #pragma once
 
 #include "platform/verzeichnis.hpp"
-#include "settings/frm_einstellungen.hpp"
-#include "settings/frm_programm.hpp"
-#include "settings/programmeinstellung.hpp"
+#include "settings/einstellungsleser.hpp"
 
 namespace quittika {
 
@@ -11,20 +9,24 @@ namespace quittika {
 class Einstellungsstart {
 public:
     Einstellungsstart(frm_einstellungen& einstellungen, frm_Programm& programm, PROGRAMMEINSTELLUNG& werte,
-                      const Programmverzeichnis& verzeichnis);
+                      const Programmverzeichnis& verzeichnis, Einstellungsleser& leser)
+        : einstellungen_(einstellungen),
+          programm_(programm),
+          werte_(werte),
+          verzeichnis_(verzeichnis),
+          leser_(leser) {}
 
-    /// Column headings and the pictures of the program folder; then loads both windows without showing them.
+    /// The pictures of the program folder, then the settings files. Both windows are loaded, but not shown.
     void Laden();
 
 private:
-    void SpaltenBenennen();
     void BilderLaden();
-    void SchriftgroessenPruefen();
 
     frm_einstellungen& einstellungen_;
     frm_Programm& programm_;
     PROGRAMMEINSTELLUNG& werte_;
     const Programmverzeichnis& verzeichnis_;
+    Einstellungsleser& leser_;
 };
 
 } // namespace quittika

@@ -3,7 +3,6 @@
 namespace quittika {
 
 frm_Programm::frm_Programm() : Form("frm_Programm", " Programmeinstellungen") {
-    Option_stil1.Value.adopt(true);
     Frame_Individuell.Visible.adopt(false);
     Frame_farbe_formular.BackColor.adopt(0xC0C0C0);
     Frame_farbe_hintergrund.BackColor.adopt(0x97785B);

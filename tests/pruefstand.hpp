@@ -70,7 +70,9 @@ struct Pruefstand {
     Summen summen{form1, einstellungen, zustand, eingabezeile, uhr, [] { return 1; }};
     Positionen positionen{form1, zustand, eingabezeile, rechnung, summen, [](int) { return ""; }};
     Rechnungsnummern nummern{form1, einstellungen, zustand, verzeichnis, dialoge};
-    ZuletztGeoeffnet zuletzt{form1, werte};
+    Einstellungstabelle einstellungstabelle = EINSTELLUNGSTABELLE(form1, einstellungen, programm, werte);
+    Einstellungsschreiber einstellungsschreiber{form1, einstellungstabelle, verzeichnis, dialoge};
+    ZuletztGeoeffnet zuletzt{form1, werte, einstellungsschreiber};
     Dateistand stand;
     Rechnungsschreiber schreiber{form1, werte, zustand, verzeichnis, stand, dialoge, uhr};
     Rechnungsleser leser{form1, werte, zustand, rechnung, stand, dialoge};

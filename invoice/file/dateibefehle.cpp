@@ -213,8 +213,8 @@ bool Dateibefehle::oeffneRN(const std::string& pfad) {
             zustand_.ZuletztGeoeffnet = gewaehlt;
         }
         leser_.DateiEinlesen(gewaehlt);
-        zuletzt_.ZuletztGeoeffnetMerken(gewaehlt);
         GelesenesZeigen(gewaehlt);
+        zuletzt_.ZuletztGeoeffnetMerken(gewaehlt);
         form1_.StatusBar1[2].Caption = "GEÖFFNETE DATEI: " + gewaehlt;
         if (Geoeffnet) {
             Geoeffnet();

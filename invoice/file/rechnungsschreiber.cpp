@@ -6,24 +6,12 @@
 #include "platform/textdatei.hpp"
 #include "platform/zahlen.hpp"
 
-#include <algorithm>
 #include <array>
 #include <utility>
 
 namespace quittika {
 
 namespace {
-
-/// A line of the file holds no line end of its own.
-std::string einzeilig(std::string text) {
-    // Two searches for a single character are many times faster than one for either of two.
-    if (text.find('\r') != std::string::npos || text.find('\n') != std::string::npos) {
-        text = ersetzen(text, "\r\n", " ");
-        std::replace(text.begin(), text.end(), '\r', ' ');
-        std::replace(text.begin(), text.end(), '\n', ' ');
-    }
-    return text;
-}
 
 /// A field that begins like a position or reads like the mark of an unset one would be taken for that: a
 /// blank in front keeps it a field.

@@ -10,8 +10,9 @@ constexpr const char* kKeiner = "ERROR";
 
 } // namespace
 
-ZuletztGeoeffnet::ZuletztGeoeffnet(Form1& form1, PROGRAMMEINSTELLUNG& einstellung)
-    : form1_(form1), einstellung_(einstellung) {}
+ZuletztGeoeffnet::ZuletztGeoeffnet(Form1& form1, PROGRAMMEINSTELLUNG& einstellung,
+                                   Einstellungsschreiber& schreiber)
+    : form1_(form1), einstellung_(einstellung), schreiber_(schreiber) {}
 
 void ZuletztGeoeffnet::ZuletztGeoeffnetMerken(const std::string& pfad) {
     if (pfad.empty()) {
@@ -20,6 +21,7 @@ void ZuletztGeoeffnet::ZuletztGeoeffnetMerken(const std::string& pfad) {
     auto& letzte = einstellung_.LETZTE_DATEI;
     letzte = {pfad, letzte[0], letzte[1]};
     Zeigen();
+    schreiber_.EINSTELLUNGEN_SPEICHERN();
 }
 
 std::string ZuletztGeoeffnet::Eintrag(int n) const {

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "invoice/form1.hpp"
-#include "settings/programmeinstellung.hpp"
+#include "settings/einstellungsschreiber.hpp"
 
 #include <string>
 
@@ -10,9 +10,10 @@ namespace quittika {
 /// The three invoice files used last, newest first.
 class ZuletztGeoeffnet {
 public:
-    ZuletztGeoeffnet(Form1& form1, PROGRAMMEINSTELLUNG& einstellung);
+    ZuletztGeoeffnet(Form1& form1, PROGRAMMEINSTELLUNG& einstellung, Einstellungsschreiber& schreiber);
 
-    /// Puts a path in front; an empty one is ignored. The same file may stand in several places.
+    /// Puts a path in front and saves the settings; an empty one is ignored. The same file may stand in
+    /// several places.
     void ZuletztGeoeffnetMerken(const std::string& pfad);
     /// Path in place `n`, 1 to 3; empty if there is none.
     std::string Eintrag(int n) const;
@@ -22,6 +23,7 @@ public:
 private:
     Form1& form1_;
     PROGRAMMEINSTELLUNG& einstellung_;
+    Einstellungsschreiber& schreiber_;
 };
 
 } // namespace quittika

@@ -98,6 +98,8 @@ public:
     Property<bool> Visible{*this, PropertyId::Visible, true};
     Property<Color> BackColor{*this, PropertyId::BackColor, color::kButtonFace};
     Property<Color> ForeColor{*this, PropertyId::ForeColor, color::kWindowText};
+    /// Painted as the desktop paints such a thing, whatever the two colours.
+    Property<bool> OwnLook{*this, PropertyId::OwnLook, false};
     Property<bool> FontBold{*this, PropertyId::FontBold, false};
     Property<std::string> ToolTipText{*this, PropertyId::ToolTipText};
     // Twips inside the container; of use only if the form gives the control a place.

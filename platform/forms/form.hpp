@@ -74,6 +74,8 @@ public:
     Property<bool> Modified{*this, PropertyId::Modified, false}; ///< what it shows is not saved
     Property<Color> BackColor{*this, PropertyId::BackColor, color::kButtonFace};
     Property<Color> ForeColor{*this, PropertyId::ForeColor, color::kWindowText};
+    /// Painted as the desktop paints such a thing, whatever the two colours.
+    Property<bool> OwnLook{*this, PropertyId::OwnLook, false};
     Property<bool> Enabled{*this, PropertyId::Enabled, true};
     Property<int> WindowState{*this, PropertyId::WindowState, window_state::kNormal};
     // On the screen, in twips; width and height without the frame.

@@ -6,11 +6,11 @@ namespace quittika {
 
 namespace {
 
-constexpr std::array<std::string_view, 27> kNames{
+constexpr std::array<std::string_view, 28> kNames{
     "Text",        "Value",     "Caption",   "Enabled", "Visible",  "BackColor", "ForeColor",
     "FontBold",    "ListIndex", "ListCount", "Min",     "Max",      "Interval",  "ToolTipText",
     "WindowState", "Left",      "Top",       "Width",   "Height",   "Picture",   "Path",
-    "Tab",         "SelStart",  "SelLength", "Locked",  "Modified", "Default"};
+    "Tab",         "SelStart",  "SelLength", "Locked",  "Modified", "Default",   "OwnLook"};
 
 } // namespace
 

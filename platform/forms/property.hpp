@@ -53,6 +53,7 @@ enum class PropertyId : std::uint8_t {
     Locked,
     Modified,
     Default,
+    OwnLook,
 };
 
 /// Spelling of a property as scripts write it ("BackColor").

@@ -18,9 +18,14 @@ Color from_qt(const QColor& color);
 /// On a dark desktop light buttons and fields are only tinged, so that they do not blind.
 class WidgetColors {
 public:
-    void apply(QWidget& widget, Color back, Color fore);
+    /// `owner`: a control or a form.
+    template <class Owner> void push(QWidget& widget, const Owner& owner) {
+        apply(widget, owner.OwnLook() ? color::kButtonFace : owner.BackColor(),
+              owner.OwnLook() ? color::kWindowText : owner.ForeColor());
+    }
 
 private:
+    void apply(QWidget& widget, Color back, Color fore);
     void remember(const QWidget& widget);
     void restore(QWidget& widget) const;
 

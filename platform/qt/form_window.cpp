@@ -141,7 +141,8 @@ void FormWindow::property_changed(PropertyId id) {
         return window_->setEnabled(form_.Enabled());
     case PropertyId::BackColor:
     case PropertyId::ForeColor:
-        return colors_.apply(*window_, form_.BackColor(), form_.ForeColor());
+    case PropertyId::OwnLook:
+        return colors_.push(*window_, form_);
     case PropertyId::WindowState:
         return push_state();
     case PropertyId::Left:

@@ -132,6 +132,7 @@ void WidgetView::property_changed(PropertyId id) {
         return push_visible();
     case PropertyId::BackColor:
     case PropertyId::ForeColor:
+    case PropertyId::OwnLook:
         return push_colors();
     case PropertyId::FontBold:
         return push_bold();
@@ -169,7 +170,7 @@ void WidgetView::push_visible() {
 }
 
 void WidgetView::push_colors() {
-    colors_.apply(widget_, control_.BackColor(), control_.ForeColor());
+    colors_.push(widget_, control_);
 }
 
 void WidgetView::push_bold() {

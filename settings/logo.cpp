@@ -1,4 +1,4 @@
-#include "app/logo.hpp"
+#include "settings/logo.hpp"
 
 #include <string>
 

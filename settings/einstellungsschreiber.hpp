@@ -1,0 +1,41 @@
+#pragma once
+
+#include "platform/dialogs.hpp"
+#include "platform/verzeichnis.hpp"
+#include "settings/einstellungstabelle.hpp"
+
+#include <optional>
+#include <string>
+
+namespace quittika {
+
+/// The settings file `prog_n.cfg` of the program folder.
+std::string EINSTELLUNGSPFAD(const Programmverzeichnis& verzeichnis);
+
+/// Writes the settings file.
+class Einstellungsschreiber {
+public:
+    Einstellungsschreiber(Form1& form1, const Einstellungstabelle& tabelle,
+                          const Programmverzeichnis& verzeichnis, Dialogs& dialogs)
+        : form1_(form1), tabelle_(tabelle), verzeichnis_(verzeichnis), dialogs_(dialogs) {}
+
+    /// Set when `prog.cfg` was replaced: a settings file would hide it at the next start.
+    bool SPEICHERN_GESPERRT = false;
+
+    /// Replaces the file by what the windows hold. A file that was changed elsewhere, or could not be read
+    /// to its end, is put aside before. A failure is told in a box and in panel 3; the old file stays then.
+    void EINSTELLUNGEN_SPEICHERN();
+    /// Everything that a file with these bytes holds is in the windows.
+    void GELESEN_MERKEN(std::string bytes) { stand_ = std::move(bytes); }
+
+private:
+    void FremdesBeiseiteLegen();
+
+    Form1& form1_;
+    const Einstellungstabelle& tabelle_;
+    const Programmverzeichnis& verzeichnis_;
+    Dialogs& dialogs_;
+    std::optional<std::string> stand_; ///< content of the file that was read or written last
+};
+
+} // namespace quittika

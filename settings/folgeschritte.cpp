@@ -1,0 +1,127 @@
+#include "settings/folgeschritte.hpp"
+
+#include "designer/designdatei.hpp"
+#include "invoice/rechnung.hpp"
+#include "platform/laufzeitfehler.hpp"
+#include "platform/text.hpp"
+#include "settings/druckfarben.hpp"
+#include "settings/schriftgroessen.hpp"
+
+#include <cstddef>
+#include <string>
+
+namespace quittika {
+
+void Folgeschritte::WAEHRUNG_IN_PREISKOEPFE() {
+    for (Label* kopf : {&einstellungen_.Label_preis, &einstellungen_.Label_gesamtp}) {
+        for (const std::string anfang : {"Einzelpreis[", "Gesamtpreis["}) {
+            const std::string& text = kopf->Caption();
+            if (beginnt_mit(text, anfang) && text.back() == ']') {
+                kopf->Caption = anfang + werte_.WAEHRUNG + "]";
+            }
+        }
+    }
+}
+
+void Folgeschritte::ausfuehren() {
+    Bildpfade();
+    Anzeigen();
+    Gegenstuecke();
+    Spaltenkoepfe();
+    Freigaben();
+    zuletzt_.Zeigen();
+    MwStUndWaehrung();
+    Individualfarben();
+    Layout();
+    DRUCKVORLAGE(einstellungen_, werte_);
+    BilderLaden();
+    Programmfarben();
+}
+
+void Folgeschritte::Bildpfade() {
+    einstellungen_.Text_logopath.Text = DESIGN_WERT(verzeichnis_, "IMG_LOGO");
+    einstellungen_.Text_bildpath.Text = DESIGN_WERT(verzeichnis_, "IMG_WASSERZEICHEN");
+}
+
+void Folgeschritte::Anzeigen() {
+    frm_einstellungen& e = einstellungen_;
+    e.LabelDRUCKj_H.Caption = e.HScroll_druckj.Value.as_text() + " mm";
+    e.LabelDRUCKj_V.Caption = e.VScrollDruckj.Value.as_text() + " mm";
+    for (const Schriftgroesse& groesse : kSchriftgroessen) {
+        (e.*groesse.anzeige).Caption = (e.*groesse.regler).Value.as_text();
+    }
+}
+
+void Folgeschritte::Gegenstuecke() {
+    frm_einstellungen& e = einstellungen_;
+    e.Option_RN_RK_Kopf_nurErsteSeite.Value = !e.Option_RN_Kopf_alleSeiten.Value();
+    e.Option_RN_BM_nurletzte_Seite.Value = !e.Option_RN_BM_alleSeite.Value();
+    e.Option_BankVerb_ZweiZeile.Value = !e.Option_BankVerb_Vorgabe.Value();
+}
+
+void Folgeschritte::Spaltenkoepfe() {
+    form1_.Label_Pos.Caption = einstellungen_.Label_Pos.Caption();
+    form1_.Label_Menge.Caption = einstellungen_.Label_Menge.Caption();
+    form1_.Label_Leistung.Caption = einstellungen_.Label_Leistung.Caption();
+    form1_.Label_preis.Caption = einstellungen_.Label_preis.Caption();
+    form1_.Label_gesamtp.Caption = einstellungen_.Label_gesamtp.Caption();
+    ZweiteKopfzeileZeigen(form1_);
+}
+
+void Folgeschritte::Freigaben() {
+    frm_einstellungen& e = einstellungen_;
+    e.Text_Bankverb2.Enabled = e.Check_Bankverb_Zeile2.ticked();
+    e.Text_Bankverb3.Enabled = e.Check_Bankverb_Zeile3.ticked();
+    e.Check_MitLogoadresseFFSeite.Enabled = e.Option_RN_RK_Kopf_nurErsteSeite.Value();
+}
+
+void Folgeschritte::MwStUndWaehrung() {
+    if (werte_.MWST_SATZ1.empty()) {
+        werte_.MWST_SATZ1 = "19";
+    }
+    if (werte_.MWST_SATZ2.empty()) {
+        werte_.MWST_SATZ2 = "7";
+    }
+    einstellungen_.Text_MwSt.Text = werte_.MWST_SATZ1;
+    einstellungen_.Text_MwSt2.Text = werte_.MWST_SATZ2;
+    einstellungen_.Text_Waehrung.Text = werte_.WAEHRUNG;
+}
+
+void Folgeschritte::Individualfarben() {
+    programm_.Frame_farbe_formular.BackColor = werte_.FARBE_INDIVIDUELL_FORMULAR;
+    programm_.Frame_farbe_hintergrund.BackColor = werte_.FARBE_INDIVIDUELL_HINTERGRUND;
+}
+
+void Folgeschritte::Layout() {
+    const int nummer = werte_.LAYOUTNUMMER;
+    const bool vorhanden = nummer >= 1 && nummer <= frm_einstellungen::kLayouts;
+    const auto index = static_cast<std::size_t>((vorhanden ? nummer : kEigenesLayout) - 1);
+    einstellungen_.Layouts().at(index)->Value = true;
+}
+
+/// The colours of a file belong to its style, except for the user's own.
+void Folgeschritte::Programmfarben() {
+    if (programm_.Option_stil5.Value()) {
+        stil_.FARBEN_WAEHLEN();
+    }
+    stil_.HINTERGRUNDBILD_NEHMEN();
+    stil_.Command_Vorschau_Click();
+}
+
+void Folgeschritte::BilderLaden() {
+    BildLaden(einstellungen_.Picture1, einstellungen_.Text_logopath.Text());
+    BildLaden(einstellungen_.Picture_wasserz, einstellungen_.Text_bildpath.Text());
+}
+
+void Folgeschritte::BildLaden(PictureBox& feld, const std::string& pfad) {
+    if (pfad.empty()) {
+        return;
+    }
+    try {
+        bilder_.load(feld, systempfad(pfad));
+    } catch (const Laufzeitfehler&) {
+        // The dialog shows the path, and the picture that will be printed instead.
+    }
+}
+
+} // namespace quittika
