@@ -1,6 +1,5 @@
 #include "settings/einstellungsschreiber.hpp"
 
-#include "invoice/file/hindernis.hpp"
 #include "invoice/zeichenersatz.hpp"
 #include "platform/datei.hpp"
 #include "platform/text.hpp"
@@ -40,7 +39,7 @@ void Einstellungsschreiber::EINSTELLUNGEN_SPEICHERN() {
     } catch (const Laufzeitfehler& fehler) {
         form1_.Hinweise.melden("FEHLER BEIM EINSTELLUNGEN SPEICHERN");
         dialogs_.message({"Fehler beim EINSTELLUNGEN_SPEICHERN. Fehlernr.: " +
-                              std::to_string(fehler.nummer()) + "\r\n" + SPEICHERHINDERNIS(fehler),
+                              std::to_string(fehler.nummer()) + "\r\n" + fehlertext(fehler.nummer()),
                           "Achtung!", Buttons::Ok, Symbol::Exclamation});
     }
 }

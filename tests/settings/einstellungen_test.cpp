@@ -195,7 +195,7 @@ TEST(Einstellungen, EinFehlerKostetWederDateiNochRechnung) {
 TEST(Einstellungen, WasVonHandGeaendertWurdeBleibtDaneben) {
     Einstellungsstand p;
     std::vector<std::string> zeilen = p.texte();
-    zeilen[30] = "falsch"; // the rest is not read
+    zeilen[30] = "rot"; // the rest is not read
     const std::string von_hand = datei_aus(zeilen);
     p.ordner.schreiben("prog_n.cfg", von_hand);
     p.einstellungsleser.EINSTELLUNGEN_LADEN();

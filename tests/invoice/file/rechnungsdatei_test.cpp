@@ -127,6 +127,7 @@ TEST(Rechnungsdatei, EineAlteDateiErbtNichtsVonDerVorigen) {
 
 TEST(Rechnungsdatei, ImGesperrtenOrdnerWirdAmOrtGespeichert) {
     Pruefstand p;
+    p.einstellungsschreiber.SPEICHERN_GESPERRT = true;
     std::filesystem::create_directory(p.ordner.pfad("gesperrt"));
     ASSERT_TRUE(p.speichern("gesperrt/a.qk8"));
     const std::string alt = p.ordner.lesen("gesperrt/a.qk8");
