@@ -3,7 +3,6 @@
 #include "invoice/zeichenersatz.hpp"
 #include "platform/datei.hpp"
 #include "platform/text.hpp"
-#include "platform/textdatei.hpp"
 
 #include <utility>
 
@@ -20,17 +19,22 @@ std::string EINSTELLUNGSPFAD(const Programmverzeichnis& verzeichnis) {
     return verzeichnis.pfad("\\prog_n.cfg");
 }
 
+Textpuffer EINSTELLUNGSTEXT(const Einstellungstabelle& tabelle) {
+    Textpuffer datei;
+    for (const Einstellungszeile& zeile : tabelle) {
+        datei.zeile(einzeilig(ZEILENTEXT(zeile)));
+    }
+    for (std::size_t n = tabelle.size(); n < kDateizeilen; ++n) {
+        datei.zeile(kFuellzeile);
+    }
+    return datei;
+}
+
 void Einstellungsschreiber::EINSTELLUNGEN_SPEICHERN() {
     if (SPEICHERN_GESPERRT) {
         return;
     }
-    Textpuffer datei;
-    for (const Einstellungszeile& zeile : tabelle_) {
-        datei.zeile(einzeilig(ZEILENTEXT(zeile)));
-    }
-    for (std::size_t n = tabelle_.size(); n < kDateizeilen; ++n) {
-        datei.zeile(kFuellzeile);
-    }
+    const Textpuffer datei = EINSTELLUNGSTEXT(tabelle_);
     try {
         FremdesBeiseiteLegen();
         datei_ersetzen(EINSTELLUNGSPFAD(verzeichnis_), datei.bytes());

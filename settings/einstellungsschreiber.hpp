@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/dialogs.hpp"
+#include "platform/textdatei.hpp"
 #include "platform/verzeichnis.hpp"
 #include "settings/einstellungstabelle.hpp"
 
@@ -11,6 +12,9 @@ namespace quittika {
 
 /// The settings file `prog_n.cfg` of the program folder.
 std::string EINSTELLUNGSPFAD(const Programmverzeichnis& verzeichnis);
+
+/// What the owners of all lines hold, as a whole file.
+Textpuffer EINSTELLUNGSTEXT(const Einstellungstabelle& tabelle);
 
 /// Writes the settings file.
 class Einstellungsschreiber {
