@@ -32,8 +32,6 @@ MenueDatei::MenueDatei(Form1& form1, const Ereignisse& ereignisse, Dateibefehle&
     form1.m_Rechnung_txt_export.Click =
         ereignisse.befehl([&textexport] { textexport.m_Rechnung_txt_export_Click(); });
     form1.m_beenden.Click = ereignisse.befehl([&hauptfenster] { hauptfenster.m_beenden_Click(); });
-    SPERREN(
-        {&form1.m_Rechnung_bmp_export, &form1.CMD_AS_BILD, &form1.m_Vorschau, &form1.Command_Druckvorschau});
 }
 
 void MenueDatei::OeffnenVerdrahten(const Ereignisse& ereignisse, Raster& raster) {

@@ -1,5 +1,6 @@
 #include "app/programm.hpp"
 
+#include "app/ausgabe.hpp"
 #include "app/betraege.hpp"
 #include "app/eingabe.hpp"
 #include "app/ereignisse.hpp"
@@ -79,6 +80,28 @@ struct Programm::Teile {
             summen.jetztberechnen_List();
         }};
     Etiketten etiketten{form1, einstellungen, werte, platform.desktop, platform.dialogs, platform.printing};
+    Vorschauzeichnung vorschauzeichnung{form1, einstellungen, belegdruck, lieferscheinoptionen,
+                                        platform.printing};
+    Bildausgabe bildausgabe{form1,
+                            vorschauzeichnung,
+                            platform.printing,
+                            platform.dialogs,
+                            platform.shell,
+                            platform.progress,
+                            [this] { summen.jetztberechnen_List(); }};
+    Pdfausgabe pdfausgabe{form1,
+                          einstellungen,
+                          belegdruck,
+                          lieferscheinoptionen,
+                          platform.printing,
+                          platform.dialogs,
+                          platform.shell,
+                          [this] { summen.jetztberechnen_List(); }};
+    Vorschaufenster vorschaufenster{platform.desktop, [this](Form_Druckvorschau& form) {
+                                        return std::make_unique<Druckvorschau>(form, vorschauzeichnung,
+                                                                               zustand, druckauftrag,
+                                                                               bildausgabe, pdfausgabe);
+                                    }};
     KundeAufnehmen kunde_aufnehmen{form1, verzeichnis, platform.dialogs};
     Logo logo{form1, einstellungen, werte};
     Programmstil stil{form1, einstellungen, programm, werte};
@@ -103,6 +126,7 @@ struct Programm::Teile {
     Hauptfenster hauptfenster{form1, zustand, ladefolge, kopf, dateibefehle, verzeichnis, platform.desktop};
     MenueDatei menue_datei{form1,        ereignisse,   dateibefehle, textexport,
                            druckauftrag, hauptfenster, kopf,         raster};
+    Ausgabe ausgabe{form1, ereignisse, summen, vorschaufenster, bildausgabe, pdfausgabe};
     MenueHilfe menue_hilfe{form1,          ereignisse,       verzeichnis,     werte,
                            platform.shell, platform.dialogs, platform.desktop};
     Startfenster startfenster{form_start, werte, verzeichnis, platform.clock, [this] { form1.Show(); }};

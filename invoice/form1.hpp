@@ -39,6 +39,7 @@ struct Form1 : Form {
                                "Rechnung als Bilddatei (*.bmp) exportieren..."};
     Menu m_Drucken{*this, "m_Drucken", "&Rechnung drucken..."};
     Menu m_Vorschau{*this, "m_Vorschau", "Druckvorschau..."};
+    Menu m_Rechnung_pdf_export{*this, "m_Rechnung_pdf_export", "Als PDF speichern..."};
     Menu m_druckenBRIEF{*this, "m_druckenBRIEF", "&Briefumschlag bedrucken..."};
     Menu m_druckenpaketschein{*this, "m_druckenpaketschein", "&Paketschein bedrucken..."};
     Menu m_druckenpaketscheinHVersand{*this, "m_druckenpaketscheinHVersand",

@@ -29,6 +29,9 @@ struct FileDialog {
     std::string title;
     /// Whether `open_file` takes the names of existing files only.
     bool must_exist = true;
+    /// Whether `save_file` asks before it takes the name of an existing file. Off where the program asks, for
+    /// it may write another file than the one chosen.
+    bool asks_before_replacing = true;
 };
 
 struct PrinterDialog {

@@ -41,6 +41,7 @@ struct PrintDocument {
     std::string title;
     Paper paper = {};
     int first_page = 1; ///< number of the page that is drawn first
+    std::string author = {};
 };
 
 /// Place of the origin on the sheet, in millimetres from its left and top edge, on every surface that shows a
@@ -83,6 +84,9 @@ public:
     /// Begins a job on the printer chosen last. Throws `Laufzeitfehler` 482 with the reason when it takes
     /// none.
     virtual std::unique_ptr<PrintDevice> printer(const PrintDocument& document) = 0;
+    /// Begins a PDF file, which appears, or is replaced, whole at the end of the document. Its text can be
+    /// searched; title, author and the time are entered. Throws as `PrintDevice::end_document` does.
+    virtual std::unique_ptr<PrintDevice> pdf(const std::string& path, const PrintDocument& document) = 0;
     /// Draws a page to be shown by `control`, which outlives the device. A new page wipes out the one before;
     /// at the end of the document the last one takes the place of what the control shows.
     virtual std::unique_ptr<PrintDevice> picture(PictureControl& control, const PrintDocument& document) = 0;

@@ -12,11 +12,13 @@ Belegdruck::Belegdruck(const Form1& form1, const frm_einstellungen& einstellunge
       designdatei_(designdatei),
       rechnungsdruck_(form1, einstellungen, programm) {}
 
-Druckvorlage Belegdruck::vorbereiten(const Druckoptionen& optionen) {
+Druckvorlage Belegdruck::vorbereiten(const Druckoptionen& optionen, bool design_lesen) {
     if (LAYOUT_GEWAEHLT(einstellungen_) != kEigenesLayout) {
         return rechnungsdruck_.vorbereiten(optionen);
     }
-    designdatei_.DESIGN_LADEN();
+    if (design_lesen) {
+        designdatei_.DESIGN_LADEN();
+    }
     return DRUCKE_EIGENESLAYOUT(form1_, einstellungen_, programm_, designdatei_.design, optionen);
 }
 

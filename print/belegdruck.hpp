@@ -16,8 +16,8 @@ public:
                const PROGRAMMEINSTELLUNG& programm, Designdatei& designdatei);
 
     /// In the page design that is chosen. For the user's own its file is read, and a box says where that is
-    /// missing. Drawing needs this object.
-    Druckvorlage vorbereiten(const Druckoptionen& optionen = {});
+    /// missing; without `design_lesen` the one read last holds. Drawing needs this object.
+    Druckvorlage vorbereiten(const Druckoptionen& optionen = {}, bool design_lesen = true);
 
 private:
     const Form1& form1_;

@@ -1,7 +1,8 @@
 #include "print/druckauftrag.hpp"
 
 #include "platform/laufzeitfehler.hpp"
-#include "print/pdfname.hpp"
+#include "print/belegausgabe.hpp"
+#include "print/dokumentnamen.hpp"
 
 #include <utility>
 
@@ -9,8 +10,7 @@ namespace quittika {
 
 namespace {
 
-constexpr Druckworte kWorte{"BERECHNEN...DRUCKEN...BLATT: ", "DRUCKEN ABGEBROCHEN.",
-                            "bitte Text kürzen, kleinere Schrift wählen oder eine Seite früher umbrechen."};
+constexpr Druckworte kWorte{"BERECHNEN...DRUCKEN...BLATT: ", "DRUCKEN ABGEBROCHEN.", kAusweg};
 
 } // namespace
 
@@ -24,11 +24,6 @@ Druckauftrag::Druckauftrag(Form1& form1, const frm_einstellungen& einstellungen,
       lieferscheinoptionen_(lieferscheinoptionen),
       jetztberechnen_List_(std::move(jetztberechnen_List)),
       exemplare_(form1, dialogs, printing, kWorte) {}
-
-std::string Druckauftrag::auftragstitel() const {
-    return "QK-> " + form1_.Text_Kunde_1.Text() + " " + form1_.Text_rechnung.Text() + " " +
-           form1_.Text_RNnr.Text();
-}
 
 void Druckauftrag::Command_printform_Click() {
     const Hinweiszeile::Befehl befehl(form1_.Hinweise);
@@ -52,7 +47,7 @@ void Druckauftrag::drucke(Druckjustierung just, const Druckoptionen& optionen) {
         return;
     }
     const Druckvorlage vorlage = belegdruck_.vorbereiten(optionen);
-    exemplare_.drucken(anzahl, auftragstitel(),
+    exemplare_.drucken(anzahl, AUFTRAGSTITEL(form1_),
                        [just, &vorlage](PrintSurface& surface) { vorlage.DRUCKEN(surface, just); });
 }
 

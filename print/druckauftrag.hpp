@@ -29,7 +29,6 @@ public:
 private:
     void status(const std::string& text) { form1_.StatusBar1[2].Caption = text; }
     void drucke(Druckjustierung just, const Druckoptionen& optionen);
-    std::string auftragstitel() const;
 
     Form1& form1_;
     const frm_einstellungen& einstellungen_;

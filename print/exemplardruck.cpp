@@ -1,7 +1,7 @@
 #include "print/exemplardruck.hpp"
 
 #include "invoice/file/hindernis.hpp"
-#include "print/nachsichtiges_geraet.hpp"
+#include "print/belegausgabe.hpp"
 
 #include <memory>
 
@@ -53,13 +53,8 @@ void Exemplardruck::drucken(int anzahl, const std::string& titel, const Zeichnun
 void Exemplardruck::exemplar(const std::string& titel, const Zeichnung& zeichnung) {
     const PrintDocument dokument{titel};
     const std::unique_ptr<PrintDevice> drucker = printing_.printer(dokument);
-    NachsichtigesGeraet geraet(*drucker, dokument.paper);
-    PrintSurface surface(geraet, printing_.metrics());
-    zeichnung(surface);
-    if (!geraet.fehlendes_bild().empty()) {
-        form1_.Hinweise.melden("Ohne das Bild " + geraet.fehlendes_bild() + " gedruckt.");
-    }
-    form1_.Hinweise.melden(geraet.ueberdruck().hinweis(worte_.ausweg));
+    const Zeichenbefund befund = AUSGEBEN(*drucker, dokument, printing_.metrics(), worte_.ausweg, zeichnung);
+    form1_.Hinweise.melden(befund.hinweis("gedruckt"));
 }
 
 void Exemplardruck::gescheitert(const Laufzeitfehler& fehler) {

@@ -10,6 +10,11 @@ Lieferscheinoptionen::Lieferscheinoptionen(const Form1& form1, const frm_einstel
                                            Desktop& desktop)
     : form1_(form1), einstellungen_(einstellungen), desktop_(desktop) {}
 
+Lieferscheinangaben Lieferscheinoptionen::vorgabe() const {
+    const bool alle = LAYOUT_GEWAEHLT(einstellungen_) != kEigenesLayout;
+    return {alle, alle, alle, alle};
+}
+
 Lieferscheinangaben Lieferscheinoptionen::check_LIEFERSCHEIN_PRINT() const {
     if (!IST_LIEFERSCHEIN(form1_)) {
         return {};
@@ -20,13 +25,12 @@ Lieferscheinangaben Lieferscheinoptionen::check_LIEFERSCHEIN_PRINT() const {
         weiter = true;
         form.Close();
     };
-    const bool eigenes = LAYOUT_GEWAEHLT(einstellungen_) == kEigenesLayout;
-    const int haken = eigenes ? 0 : 1;
+    const bool alle = vorgabe().preise;
     for (CheckBox* angabe : {&form.Check_LIEFERSCH_WERBESPRUCH, &form.Check_LIEFERSCH_BEMERKUNGSTEXT,
                              &form.Check_LIEFERSCH_ANSCHREIBEN, &form.Check_LIEFERSCH_PREISE}) {
-        angabe->Value = haken;
+        angabe->Value = alle ? 1 : 0;
     }
-    form.Check_LIEFERSCH_PREISE.Enabled = !eigenes;
+    form.Check_LIEFERSCH_PREISE.Enabled = alle;
     desktop_.adopt(form);
     form.Show(Modality::Modal);
     if (!weiter) {

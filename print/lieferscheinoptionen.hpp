@@ -12,6 +12,8 @@ class Lieferscheinoptionen {
 public:
     Lieferscheinoptionen(const Form1& form1, const frm_einstellungen& einstellungen, Desktop& desktop);
 
+    /// The ticks that the window begins with.
+    Lieferscheinangaben vorgabe() const;
     /// Asks for a delivery note; other documents show everything. The window begins with all ticks set, in
     /// the user's own design with none. Throws `Laufzeitfehler` 32755 when it is closed otherwise than by its
     /// button.

@@ -11,8 +11,9 @@ namespace quittika {
 /// A failing page feed or end of the document is still reported.
 class NachsichtigesGeraet final : public PrintDevice {
 public:
-    /// `papier`: the sheet that `geraet` draws on.
-    NachsichtigesGeraet(PrintDevice& geraet, const Paper& papier) : geraet_(geraet), ueberdruck_(papier) {}
+    /// `papier`: the sheet that `geraet` draws on; `erste_seite`: number of the page that is drawn first.
+    NachsichtigesGeraet(PrintDevice& geraet, const Paper& papier, int erste_seite = 1)
+        : geraet_(geraet), ueberdruck_(papier, erste_seite) {}
 
     void text(double left, double top, double width, const PrintFont& font, Color color,
               std::string_view text) override;

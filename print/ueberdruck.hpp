@@ -12,7 +12,8 @@ namespace quittika {
 /// settings put it, so a long title reaches into the date and remarks below a full page into the footer.
 class Ueberdruck {
 public:
-    explicit Ueberdruck(const Paper& papier) : papier_(papier) {}
+    /// `erste_seite`: number of the page that is drawn first.
+    explicit Ueberdruck(const Paper& papier, int erste_seite = 1) : papier_(papier), seite_(erste_seite) {}
 
     /// A text of the present page; its line box begins at `left`, `top` and is `width` wide, in mm.
     void text(double left, double top, double width, const PrintFont& font, std::string_view text);
@@ -34,7 +35,7 @@ private:
 
     Paper papier_;
     std::vector<Druckbild> bilder_; ///< of the present page
-    int seite_ = 1;
+    int seite_;
     std::string befund_;
 };
 

@@ -53,6 +53,12 @@ struct MouseEvent {
     int y;
 };
 
+/// A turn of the mouse wheel: positive away from the user, 120 for each notch.
+struct WheelEvent {
+    int turn;
+    bool control_key;
+};
+
 /// Base of everything that stands on a form.
 class Control : public PropertyHost {
     Container& container_;
@@ -119,6 +125,7 @@ public:
     MouseHandler MouseDown{activity_};
     MouseHandler MouseMove{activity_};
     MouseHandler MouseUp{activity_};
+    Handler<const WheelEvent&> MouseWheel{activity_};
     Handler<const std::string&> OLEDragDrop{activity_}; ///< dropped text
 
     /// What a user's click does to this control.

@@ -2,6 +2,7 @@
 
 #include "platform/datei.hpp"
 #include "platform/laufzeitfehler.hpp"
+#include "platform/qt/pdf_author.hpp"
 #include "platform/qt/print_paper.hpp"
 #include "platform/qt/qt_text.hpp"
 
@@ -11,7 +12,7 @@
 namespace quittika {
 
 QtPdfDevice::QtPdfDevice(PaintTools& tools, QString path, const PrintDocument& document, bool grey)
-    : PainterDevice(tools), path_(std::move(path)) {
+    : PainterDevice(tools), path_(std::move(path)), author_(to_qt(document.author)) {
     if (grey) {
         draw_grey();
     }
@@ -44,7 +45,7 @@ void QtPdfDevice::end_document() {
     if (!end()) {
         throw Laufzeitfehler(fehler::kDrucker);
     }
-    const QByteArray& bytes = content_.data();
+    const QByteArray bytes = with_author(content_.data(), author_);
     datei_ersetzen(path_from_qt(path_), {bytes.constData(), static_cast<std::size_t>(bytes.size())});
 }
 

@@ -21,6 +21,7 @@ public:
 
 private:
     QString path_;
+    QString author_;
     QBuffer content_;
     QPdfWriter writer_{&content_};
 };

@@ -23,6 +23,10 @@ std::unique_ptr<PrintDevice> QtPrinting::printer(const PrintDocument& document) 
     return std::make_unique<QtPrinterDevice>(tools_, *chosen, document);
 }
 
+std::unique_ptr<PrintDevice> QtPrinting::pdf(const std::string& path, const PrintDocument& document) {
+    return std::make_unique<QtPdfDevice>(tools_, path_to_qt(path), document);
+}
+
 std::unique_ptr<PrintDevice> QtPrinting::picture(PictureControl& control, const PrintDocument& document) {
     return draw_on(control, std::make_shared<RecordedJob>(document), tools_.pictures);
 }

@@ -105,6 +105,7 @@ std::string QtDialogs::open_file(const FileDialog& dialog) {
 std::string QtDialogs::save_file(const FileDialog& dialog) {
     QFileDialog window(dialog_parent());
     window.setAcceptMode(QFileDialog::AcceptSave);
+    window.setOption(QFileDialog::DontConfirmOverwrite, !dialog.asks_before_replacing);
     prepare_for_new(window, dialog);
     return run(window);
 }

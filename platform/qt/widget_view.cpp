@@ -10,6 +10,7 @@
 #include <QMimeData>
 #include <QMouseEvent>
 #include <QStackedWidget>
+#include <QWheelEvent>
 #include <QWidget>
 
 #include <utility>
@@ -211,6 +212,8 @@ bool WidgetView::eventFilter(QObject* /*watched*/, QEvent* event) {
     case QEvent::MouseButtonRelease:
     case QEvent::MouseButtonDblClick:
         return widget_.isEnabled() && mouse(*event);
+    case QEvent::Wheel:
+        return control_.MouseWheel && widget_.isEnabled() && wheel(static_cast<const QWheelEvent&>(*event));
     case QEvent::DragEnter:
     case QEvent::DragMove:
     case QEvent::Drop:
@@ -257,6 +260,14 @@ bool WidgetView::mouse(const QEvent& event) {
         }
         return taken;
     }
+}
+
+bool WidgetView::wheel(const QWheelEvent& event) {
+    const WheelEvent turned{event.angleDelta().y(), event.modifiers().testFlag(Qt::ControlModifier)};
+    if (turned.turn != 0) {
+        guarded(control_.form(), [&] { control_.MouseWheel(turned); });
+    }
+    return turned.turn != 0;
 }
 
 void WidgetView::release(MouseButton button, QPoint place) {

@@ -11,6 +11,7 @@
 class QDropEvent;
 class QKeyEvent;
 class QMouseEvent;
+class QWheelEvent;
 class QWidget;
 
 namespace quittika {
@@ -63,6 +64,7 @@ private:
     void release(MouseButton button, QPoint place);
     bool drop(QDropEvent& event);
     bool hears_mouse() const;
+    bool wheel(const QWheelEvent& event);
 
     Control& control_;
     QWidget& widget_;

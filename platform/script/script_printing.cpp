@@ -37,6 +37,15 @@ std::unique_ptr<PrintDevice> ScriptPrinting::printer(const PrintDocument& docume
     });
 }
 
+std::unique_ptr<PrintDevice> ScriptPrinting::pdf(const std::string& path, const PrintDocument& document) {
+    if (!real_.write_pdf) {
+        throw CommandError("Es gibt keine Ausgabe in PDF-Dateien");
+    }
+    const auto job = new_job(document);
+    return std::make_unique<RecordingDevice>(job, pictures_,
+                                             [this, job, path] { real_.write_pdf(path, {job}); });
+}
+
 std::unique_ptr<PrintDevice> ScriptPrinting::picture(PictureControl& control, const PrintDocument& document) {
     return draw_on(control, new_job(document), pictures_);
 }

@@ -28,6 +28,7 @@ public:
 
     const FontMetrics& metrics() const override { return metrics_; }
     std::unique_ptr<PrintDevice> printer(const PrintDocument& document) override;
+    std::unique_ptr<PrintDevice> pdf(const std::string& path, const PrintDocument& document) override;
     std::unique_ptr<PrintDevice> picture(PictureControl& control, const PrintDocument& document) override;
     void save_page(const DrawnPage& page, const std::string& path, int dpi) override;
     std::string output_file() const override { return pdf_path_; }

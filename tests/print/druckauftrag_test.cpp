@@ -29,6 +29,7 @@ public:
         titel.push_back(document.title);
         return std::make_unique<Papiergeraet>(papier, bildfehler, gute-- > 0 ? 0 : endfehler);
     }
+    std::unique_ptr<PrintDevice> pdf(const std::string&, const PrintDocument&) override { return {}; }
     std::unique_ptr<PrintDevice> picture(PictureControl&, const PrintDocument&) override { return {}; }
     void save_page(const DrawnPage&, const std::string&, int) override {}
 };

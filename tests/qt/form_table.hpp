@@ -4,6 +4,7 @@
 #include "app/form_ueber_quittika.hpp"
 #include "invoice/form1.hpp"
 #include "print/form2_etiketten.hpp"
+#include "print/form_druckvorschau.hpp"
 #include "print/form_lieferschein_opt.hpp"
 
 #include <memory>
@@ -22,6 +23,7 @@ inline const std::vector<MakeForm> kForms{make<Form1>,
                                           make<Form_START>,
                                           make<Form_ueber_QUITTIKA>,
                                           make<Form_Lieferschein_opt>,
+                                          make<Form_Druckvorschau>,
                                           make<Form2_PAKET_ETIKETT>,
                                           make<Form2_PAKETHRMS_ETIKETT>,
                                           make<Form2_PAECKCHEN_ETIKETT>,
