@@ -80,8 +80,8 @@ struct Programm::Teile {
             summen.jetztberechnen_List();
         }};
     Etiketten etiketten{form1, einstellungen, werte, platform.desktop, platform.dialogs, platform.printing};
-    Vorschauzeichnung vorschauzeichnung{form1, einstellungen, belegdruck, lieferscheinoptionen,
-                                        platform.printing};
+    Vorschauzeichnung vorschauzeichnung{
+        form1, einstellungen, belegdruck, lieferscheinoptionen, platform.printing, platform.pictures};
     Bildausgabe bildausgabe{form1,
                             vorschauzeichnung,
                             platform.printing,
@@ -98,9 +98,8 @@ struct Programm::Teile {
                           platform.shell,
                           [this] { summen.jetztberechnen_List(); }};
     Vorschaufenster vorschaufenster{platform.desktop, [this](Form_Druckvorschau& form) {
-                                        return std::make_unique<Druckvorschau>(form, vorschauzeichnung,
-                                                                               zustand, druckauftrag,
-                                                                               bildausgabe, pdfausgabe);
+                                        return std::make_unique<Druckvorschau>(
+                                            form, vorschauzeichnung, druckauftrag, bildausgabe, pdfausgabe);
                                     }};
     KundeAufnehmen kunde_aufnehmen{form1, verzeichnis, platform.dialogs};
     Logo logo{form1, einstellungen, werte};

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <cstdint>
 #include <functional>
 #include <string>
 #include <utility>
@@ -37,16 +36,12 @@ public:
     bool geaendert() const { return geaendert_; }
     /// Notes a change by the user.
     void aendern() {
-        ++stand_;
         if (!geaendert_) {
             geaendert_ = true;
             melden();
         }
     }
-    /// Another number after each change by the user, and after each time that the program filled the window.
-    std::uint64_t stand() const { return stand_; }
     void als_gespeichert_merken() {
-        ++stand_;
         geaendert_ = false;
         melden();
     }
@@ -76,7 +71,6 @@ private:
     std::string pfad_;
     bool ist_datei_ = false;
     bool geaendert_ = false;
-    std::uint64_t stand_ = 0;
     int sperren_ = 0;
 };
 

@@ -20,6 +20,7 @@ struct Text {
     PrintFont font;
     Color color;
     std::string text;
+    bool operator==(const Text&) const = default;
 };
 struct Line {
     double x1;
@@ -27,6 +28,7 @@ struct Line {
     double x2;
     double y2;
     Color color;
+    bool operator==(const Line&) const = default;
 };
 struct Picture {
     double left;
@@ -34,6 +36,7 @@ struct Picture {
     double width;
     double height;
     std::string path;
+    bool operator==(const Picture&) const = default;
 };
 } // namespace drawn
 using Drawing = std::variant<drawn::Text, drawn::Line, drawn::Picture>;
@@ -42,6 +45,7 @@ using Drawing = std::variant<drawn::Text, drawn::Line, drawn::Picture>;
 struct DrawnPage {
     Paper paper;
     std::vector<Drawing> drawings;
+    bool operator==(const DrawnPage&) const = default;
 };
 
 /// One document as it reached its surface.

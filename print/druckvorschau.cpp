@@ -40,12 +40,11 @@ void zur_mitte(RangeControl& leiste, double anteil, int laenge, int raum) {
 } // namespace
 
 Druckvorschau::Druckvorschau(Form_Druckvorschau& form, const Vorschauzeichnung& zeichnung,
-                             const Rechnungszustand& zustand, Druckauftrag& druckauftrag,
-                             Bildausgabe& bildausgabe, Pdfausgabe& pdfausgabe)
-    : form_(form), zeichnung_(zeichnung), zustand_(zustand) {
+                             Druckauftrag& druckauftrag, Bildausgabe& bildausgabe, Pdfausgabe& pdfausgabe)
+    : form_(form), zeichnung_(zeichnung) {
     form.Load = [this] { Form_Load(); };
     form.Timer_Stand.Tick = [this] {
-        if (stand_ != zustand_.stand()) {
+        if (zeichnung_.VERALTET(form_.Picture1, seite_)) {
             seite_zeichnen(false); // a box about the design must not come between typing
         }
     };
@@ -99,7 +98,6 @@ void Druckvorschau::Form_Load() {
 }
 
 void Druckvorschau::seite_zeichnen(bool design_lesen) {
-    stand_ = zustand_.stand();
     seite_ = zeichnung_.VORSCHAU_RECHNUNG(form_.Picture1, seite_.nummer, design_lesen);
     form_.Label_Seite.Caption =
         "Seite " + std::to_string(seite_.nummer) + "/" + std::to_string(seite_.seiten);

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "invoice/rechnungszustand.hpp"
 #include "platform/forms/opened_window.hpp"
 #include "print/bildausgabe.hpp"
 #include "print/druckauftrag.hpp"
@@ -17,9 +16,8 @@ namespace quittika {
 /// once more when the document has changed meanwhile.
 class Druckvorschau {
 public:
-    Druckvorschau(Form_Druckvorschau& form, const Vorschauzeichnung& zeichnung,
-                  const Rechnungszustand& zustand, Druckauftrag& druckauftrag, Bildausgabe& bildausgabe,
-                  Pdfausgabe& pdfausgabe);
+    Druckvorschau(Form_Druckvorschau& form, const Vorschauzeichnung& zeichnung, Druckauftrag& druckauftrag,
+                  Bildausgabe& bildausgabe, Pdfausgabe& pdfausgabe);
 
     /// Draws the page in hand once more.
     void auffrischen() { seite_zeichnen(true); }
@@ -39,9 +37,7 @@ private:
 
     Form_Druckvorschau& form_;
     const Vorschauzeichnung& zeichnung_;
-    const Rechnungszustand& zustand_;
     Vorschauseite seite_;
-    std::uint64_t stand_ = 0; ///< of the document that is shown
     Massstab massstab_ = Massstab::Seitenbreite;
     double vergroesserung_ = 1;
     int raddrehung_ = 0; ///< of the wheel, that did nothing yet

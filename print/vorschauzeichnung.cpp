@@ -1,5 +1,6 @@
 #include "print/vorschauzeichnung.hpp"
 
+#include "platform/recording.hpp"
 #include "print/belegausgabe.hpp"
 #include "print/dokumentnamen.hpp"
 
@@ -16,30 +17,49 @@ constexpr double kXGesamt = 185; ///< mm
 
 Vorschauzeichnung::Vorschauzeichnung(const Form1& form1, const frm_einstellungen& einstellungen,
                                      Belegdruck& belegdruck, const Lieferscheinoptionen& lieferscheinoptionen,
-                                     Printing& printing)
+                                     Printing& printing, Pictures& pictures)
     : form1_(form1),
       einstellungen_(einstellungen),
       belegdruck_(belegdruck),
       lieferscheinoptionen_(lieferscheinoptionen),
-      printing_(printing) {}
+      printing_(printing),
+      pictures_(pictures) {}
 
-Vorschauseite Vorschauzeichnung::VORSCHAU_RECHNUNG(PictureControl& bild, int wunsch,
-                                                   bool design_lesen) const {
+Druckvorlage Vorschauzeichnung::vorlage(bool design_lesen) const {
     Druckoptionen optionen;
     optionen.lieferschein = lieferscheinoptionen_.vorgabe();
     optionen.lieferschein.preise = false;
     optionen.x_gesamt = kXGesamt;
-    const Druckvorlage vorlage = belegdruck_.vorbereiten(optionen, design_lesen);
-    Vorschauseite seite{std::clamp(wunsch, 1, vorlage.seiten()), vorlage.seiten(), {}};
-    const PrintDocument dokument{AUFTRAGSTITEL(form1_), {}, seite.nummer};
-    const std::unique_ptr<PrintDevice> geraet = printing_.picture(bild, dokument);
-    const auto zeichnen = [&](PrintSurface& surface) {
+    return belegdruck_.vorbereiten(optionen, design_lesen);
+}
+
+std::string Vorschauzeichnung::zeichnen(PrintDevice& geraet, const PrintDocument& dokument,
+                                        const Druckvorlage& vorlage) const {
+    const auto seite = [&](PrintSurface& surface) {
         Blatt blatt{surface, JUSTIERUNG_LESEN(einstellungen_)};
-        vorlage.SEITE_DRUCKEN(blatt, seite.nummer);
+        vorlage.SEITE_DRUCKEN(blatt, dokument.first_page);
         surface.EndDoc();
     };
-    seite.hinweis = AUSGEBEN(*geraet, dokument, printing_.metrics(), kAusweg, zeichnen).hinweis("gezeichnet");
-    return seite;
+    return AUSGEBEN(geraet, dokument, printing_.metrics(), kAusweg, seite).hinweis("gezeichnet");
+}
+
+Vorschauseite Vorschauzeichnung::VORSCHAU_RECHNUNG(PictureControl& bild, int wunsch,
+                                                   bool design_lesen) const {
+    const Druckvorlage jetzt = vorlage(design_lesen);
+    const PrintDocument dokument{AUFTRAGSTITEL(form1_), {}, std::clamp(wunsch, 1, jetzt.seiten())};
+    const std::unique_ptr<PrintDevice> geraet = printing_.picture(bild, dokument);
+    return {dokument.first_page, jetzt.seiten(), zeichnen(*geraet, dokument, jetzt)};
+}
+
+bool Vorschauzeichnung::VERALTET(const PictureControl& bild, const Vorschauseite& seite) const {
+    const Druckvorlage jetzt = vorlage(false);
+    if (jetzt.seiten() != seite.seiten || bild.page() == nullptr) {
+        return true;
+    }
+    const auto probe = std::make_shared<RecordedJob>(PrintDocument{{}, {}, seite.nummer});
+    RecordingDevice geraet(probe, pictures_);
+    zeichnen(geraet, probe->document, jetzt);
+    return !(probe->pages.front() == *bild.page());
 }
 
 } // namespace quittika

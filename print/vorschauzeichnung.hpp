@@ -1,6 +1,7 @@
 #pragma once
 
 #include "invoice/form1.hpp"
+#include "platform/pictures.hpp"
 #include "platform/printing.hpp"
 #include "print/belegdruck.hpp"
 #include "print/lieferscheinoptionen.hpp"
@@ -22,17 +23,26 @@ struct Vorschauseite {
 class Vorschauzeichnung {
 public:
     Vorschauzeichnung(const Form1& form1, const frm_einstellungen& einstellungen, Belegdruck& belegdruck,
-                      const Lieferscheinoptionen& lieferscheinoptionen, Printing& printing);
+                      const Lieferscheinoptionen& lieferscheinoptionen, Printing& printing,
+                      Pictures& pictures);
 
-    /// Draws page `wunsch`, or the nearest that there is. `design_lesen`: as `Belegdruck::vorbereiten`.
+    /// Draws page `wunsch`, or the nearest that there is. For the user's own design its file is read, unless
+    /// `design_lesen` is off.
     Vorschauseite VORSCHAU_RECHNUNG(PictureControl& bild, int wunsch, bool design_lesen = true) const;
+    /// Whether the page that `bild` shows would look otherwise, or have another number, if it were drawn now.
+    bool VERALTET(const PictureControl& bild, const Vorschauseite& seite) const;
 
 private:
+    Druckvorlage vorlage(bool design_lesen) const;
+    std::string zeichnen(PrintDevice& geraet, const PrintDocument& dokument,
+                         const Druckvorlage& vorlage) const;
+
     const Form1& form1_;
     const frm_einstellungen& einstellungen_;
     Belegdruck& belegdruck_;
     const Lieferscheinoptionen& lieferscheinoptionen_;
     Printing& printing_;
+    Pictures& pictures_;
 };
 
 } // namespace quittika

@@ -60,7 +60,7 @@ protected:
 };
 
 TEST_F(PdfTest, WordsStandWhereTheyWereDrawn) {
-    QtPdfDevice device(tools, path, {"Rechnung für Müller"});
+    QtPdfDevice device(tools, path, {"Rechnung für Müller", {}, 1, "Möller & Söhne (Köln)"});
     PrintSurface surface(device, tools.metrics);
     surface.FontSize = 11;
     surface.CurrentX = 25;
@@ -79,6 +79,8 @@ TEST_F(PdfTest, WordsStandWhereTheyWereDrawn) {
     EXPECT_TRUE(info.contains(QRegularExpression("Pages: +2\\n"))) << info.toStdString();
     EXPECT_TRUE(info.contains("(A4)")) << info.toStdString();
     EXPECT_TRUE(info.contains("Rechnung für Müller"));
+    EXPECT_TRUE(info.contains("Möller & Söhne (Köln)")) << info.toStdString();
+    EXPECT_TRUE(info.contains(QDate::currentDate().toString("yyyy"))) << "when it was made";
     const QString boxes = output_of("pdftotext", {"-bbox", path, "-"});
     const Word first = word_of(boxes, "Überweisung");
     EXPECT_NEAR(first.left, 29, 0.2);
