@@ -16,6 +16,8 @@ using namespace quittika;
 const std::vector<Vergleich> kVergleiche{
     {"recalculating 1,000 rows : parsing 1,000 numbers", "rechnen", "rechnen_grundlage", 10},
     {"saving and opening 1,000 rows : the same bytes by lines", "datei", "datei_grundlage", 4},
+    {"writing and reading the settings : the same bytes by lines", "einstellungen", "einstellungen_grundlage",
+     3},
     {"one more row on a list of 1,000, window included", "eine_zeile_mehr/1000", "", 16},
     {"one more row on a list of 5,000, window included", "eine_zeile_mehr/5000", "", 16},
     {"a page of PDF : the same calls on the PDF writer", "pdf_seite", "pdf_seite_grundlage", 1.5},

@@ -12,16 +12,16 @@ namespace {
 
 constexpr const char* kDatei = "\\prog_WS.cfg";
 constexpr const char* kFeldgrenze = "#§#";
-constexpr int kMinimiert = 1;
-constexpr int kMaximiert = 2;
 
 } // namespace
 
 void FENSTERSTATUS_LADEN(Form& fenster, const Programmverzeichnis& verzeichnis) {
     const std::string zeile = DATEI_ERSTE_ZEILE(verzeichnis.pfad(kDatei));
     const auto zustand = double_versuch(FELD_AUS_ZEILE(zeile, kFeldgrenze, 1));
-    if (zustand && (*zustand == kMinimiert || *zustand == kMaximiert)) {
-        fenster.WindowState = kMaximiert;
+    if (zustand == window_state::kMinimised || zustand == window_state::kMaximised) {
+        fenster.WindowState = window_state::kMaximised;
+    } else if (zustand == window_state::kNormal) {
+        fenster.WindowState = window_state::kNormal;
     }
 }
 
