@@ -51,7 +51,9 @@ std::string Textexport::Dateiwahl() {
     constexpr std::size_t kLaenge = 127;
     const std::string name =
         links("EXPORTDATEI - " + form1_.Text_rechnung.Text() + form1_.Text_RNnr.Text(), kLaenge);
-    return dialogs_.save_file({"(*.txt)|*.txt|", name + ".txt", {}});
+    FileDialog dialog{"(*.txt)|*.txt|", name + ".txt", {}};
+    dialog.asks_before_replacing = false;
+    return dialogs_.save_file(dialog);
 }
 
 bool Textexport::Schreiben(const std::string& pfad) {
