@@ -138,15 +138,20 @@ std::vector<Textblock> EigeneBloecke::bankzeilen(Blatt& blatt) const {
     std::vector<Textblock> bloecke;
     const std::vector<Bankfeld> felder = BANKFELDER(einstellungen_);
     double frei = design_.X_BANKZEILE;
+    double y = design_.Y_BANKZEILE;
     for (const Bankfeld& feld : felder) {
-        Textblock block{std::max(design_.X_BANKZEILE + feld.x - felder.front().x, frei),
-                        design_.Y_BANKZEILE,
-                        kSchriftFuss,
-                        0,
-                        programm_.FARBE_BANKDATEN,
-                        {feld.text}};
-        const Blockmass mass = BLOCK_MESSEN(blatt, block);
-        frei = mass.breite > 0 ? block.x + mass.breite + kLuecke : frei;
+        Textblock block{0, y, kSchriftFuss, 0, programm_.FARBE_BANKDATEN, {feld.text}};
+        const double breite = BLOCK_MESSEN(blatt, block).breite;
+        const double spaetestens = RECHTER_RAND(blatt) - breite;
+        if (frei > spaetestens && frei > design_.X_BANKZEILE) {
+            y += kZeilenabstandBank;
+            block.x = design_.X_BANKZEILE;
+            block.y = y;
+        } else {
+            const double spalte = design_.X_BANKZEILE + feld.x - felder.front().x;
+            block.x = std::max(std::min(spalte, spaetestens), frei);
+        }
+        frei = breite > 0 ? block.x + breite + kLuecke : frei;
         bloecke.push_back(std::move(block));
     }
     return bloecke;

@@ -29,7 +29,8 @@ public:
     Textblock anschreiben() const;
     Textblock bemerkungen() const;
     Textblock seitenzahl(const Druckseite& seite) const; ///< without lines while page numbers are off
-    /// The bank data, a block each; each begins behind the one before where that is wider than its column.
+    /// The bank data, a block each; each begins behind the one before where that is wider than its column,
+    /// and one line further down where no room is left beside it.
     std::vector<Textblock> bankzeilen(Blatt& blatt) const;
 
 private:

@@ -44,8 +44,12 @@ Kasten BLOCK_KASTEN(const Textblock& block, const Blockmass& mass) {
     return {block.x, block.y + kOberlaenge * hoehe, block.x + mass.breite, letzte + kUnterlaenge * hoehe};
 }
 
+double RECHTER_RAND(const Blatt& blatt) {
+    return kBlatt.width - kOriginLeft - kRand - blatt.just.Xjust;
+}
+
 void AUFS_BLATT_RUECKEN(const Blatt& blatt, Textblock& block, const Blockmass& mass) {
-    const double rechts = kBlatt.width - kOriginLeft - kRand - blatt.just.Xjust;
+    const double rechts = RECHTER_RAND(blatt);
     if (block.x + mass.breite > rechts) {
         block.x = std::max(std::min(block.x, kRand), rechts - mass.breite);
     }

@@ -30,6 +30,8 @@ Blockmass BLOCK_MESSEN(Blatt& blatt, const Textblock& block);
 /// The room that the letters of `block` take where it stands.
 Kasten BLOCK_KASTEN(const Textblock& block, const Blockmass& mass);
 
+/// Right end of the room for texts on the sheet in hand, mm.
+double RECHTER_RAND(const Blatt& blatt);
 /// Shifts a block that would run over the sheet's right edge to the left.
 void AUFS_BLATT_RUECKEN(const Blatt& blatt, Textblock& block, const Blockmass& mass);
 

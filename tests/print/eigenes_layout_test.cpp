@@ -26,7 +26,7 @@ struct Eigenprobe : Druckprobe {
         Papiergeraet papiergeraet(papier);
         NachsichtigesGeraet geraet(papiergeraet, Paper{});
         PrintSurface flaeche(geraet, schrift);
-        druck.vorbereiten().DRUCKEN(flaeche, {-4, -6});
+        druck.vorbereiten({}, false).DRUCKEN(flaeche, {-4, -6}); // the first time it is read all the same
         befund = geraet.ueberdruck().hinweis("");
         return papier;
     }
@@ -51,6 +51,8 @@ TEST(EigenesLayout, WasSichUeberdecktRuecktNachUnten) {
         {"Y_BEMERKUNG:110", 17, "Bemerkung", 64, 110},
         {"Y_BANKZEILE:243", 17, "Bemerkung", 64, 243 + 2.68 + 1 - 0.64},
         {"Y_ADRESSEFIRMA:200", 12, "MUSTERFIRMA", 11, 221 + 1 - 0.64},
+        {"X_BANKZEILE:60", 1, "KTO-NR", 206 - 30, 273}, // left of its column, beside the others
+        {"X_BANKZEILE:100", 1, "KTO-NR", 100, 273 + 4}, // no room beside them
     };
     for (const auto& f : faelle) {
         SCOPED_TRACE(f.design);
