@@ -33,6 +33,7 @@ std::string DESIGN_WERT(const Programmverzeichnis& verzeichnis, std::string_view
 }
 
 void Designdatei::DESIGN_LADEN() {
+    geladen_ = true;
     try {
         const Designlesung lesung = DESIGN_LESEN(bytes_lesen(pfad(verzeichnis_), kHoechstbytes));
         design = lesung.design;

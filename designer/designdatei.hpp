@@ -25,6 +25,7 @@ public:
     /// Reads the file into `design`. One that is missing or cannot be read gives the standard design, and a
     /// box and panel 3 say so.
     void DESIGN_LADEN();
+    bool geladen() const { return geladen_; } ///< whether `design` was ever loaded
     /// Makes `design` the standard design; the file stays as it is.
     void DESIGN_STANDARD() { design = quittika::DESIGN_STANDARD(verzeichnis_); }
     /// Replaces the file by `design`. Panel 3 names a path that the file cannot hold. Throws the error of the
@@ -35,6 +36,7 @@ private:
     const Programmverzeichnis& verzeichnis_;
     Dialogs& dialogs_;
     Hinweiszeile& hinweise_;
+    bool geladen_ = false;
 };
 
 } // namespace quittika

@@ -16,7 +16,7 @@ Druckvorlage Belegdruck::vorbereiten(const Druckoptionen& optionen, bool design_
     if (LAYOUT_GEWAEHLT(einstellungen_) != kEigenesLayout) {
         return rechnungsdruck_.vorbereiten(optionen);
     }
-    if (design_lesen) {
+    if (design_lesen || !designdatei_.geladen()) {
         designdatei_.DESIGN_LADEN();
     }
     return DRUCKE_EIGENESLAYOUT(form1_, einstellungen_, programm_, designdatei_.design, optionen);

@@ -16,7 +16,7 @@ public:
                const PROGRAMMEINSTELLUNG& programm, Designdatei& designdatei);
 
     /// In the page design that is chosen. For the user's own its file is read, and a box says where that is
-    /// missing; without `design_lesen` the one read last holds. Drawing needs this object.
+    /// missing; without `design_lesen` the one read last holds, if there is one. Drawing needs this object.
     Druckvorlage vorbereiten(const Druckoptionen& optionen = {}, bool design_lesen = true);
 
 private:
