@@ -19,6 +19,7 @@ constexpr double kSpaltenluft = 2.2; ///< mm between a column and its upright ru
 constexpr double kPositionsende = 20;
 constexpr double kGesamtbreite = 30; ///< mm that heading and amounts of the last column take
 constexpr double kPreisbreite = 28;
+constexpr int kSchatten = 30; ///< how much darker than white a shade is, of 255
 
 /// What a style draws besides the texts.
 struct Stil {
@@ -43,16 +44,20 @@ int anteil(Color farbe, int stelle) {
     return (farbe >> (8 * stelle)) & 0xFF;
 }
 
-/// The colour thinned with white.
+int helligkeit(Color farbe) {
+    return (anteil(farbe, 0) * 3 + anteil(farbe, 1) * 6 + anteil(farbe, 2)) / 10;
+}
+
+/// The colour thinned with white, dark or light ones to the same shade: it can be seen on every printer.
 Color hell(Color farbe) {
-    const auto teil = [farbe](int stelle) { return 255 - (255 - anteil(farbe, stelle)) / 8; };
+    const int dunkel = std::max(255 - helligkeit(farbe), kSchatten);
+    const auto teil = [&](int stelle) { return 255 - (255 - anteil(farbe, stelle)) * kSchatten / dunkel; };
     return color::rgb(teil(0), teil(1), teil(2));
 }
 
 /// What can be read on the colour, on paper without colours too.
 Color schrift_auf(Color farbe) {
-    const int helligkeit = (anteil(farbe, 0) * 3 + anteil(farbe, 1) * 6 + anteil(farbe, 2)) / 10;
-    return helligkeit < 140 ? color::rgb(255, 255, 255) : color::kBlack;
+    return helligkeit(farbe) < 140 ? color::rgb(255, 255, 255) : color::kBlack;
 }
 
 class Tabellenzeichner {

@@ -96,6 +96,8 @@ TEST(EigenesLayout, JedesTabellendesignSiehtAndersAusUndSagtDasselbe) {
             const auto senkrecht = [](const GezeichneteLinie& l) { return l.x1 == l.x2; };
             EXPECT_EQ(std::count_if(papier.linien.begin(), papier.linien.end(), senkrecht), f.senkrecht);
             EXPECT_EQ(papier.linien.size() > 60, f.flaechen);
+            const auto blass = [](const GezeichneteLinie& l) { return (l.farbe >> 8 & 0xFF) > 235; };
+            EXPECT_EQ(std::count_if(papier.linien.begin(), papier.linien.end(), blass), 0) << "seen in grey";
         }
     }
 }
