@@ -16,7 +16,8 @@ void Folgeschritte::WAEHRUNG_IN_PREISKOEPFE() {
     for (Label* kopf : {&einstellungen_.Label_preis, &einstellungen_.Label_gesamtp}) {
         for (const std::string anfang : {"Einzelpreis[", "Gesamtpreis["}) {
             const std::string& text = kopf->Caption();
-            if (beginnt_mit(text, anfang) && text.back() == ']') {
+            // What stands behind the currency is the user's own wording.
+            if (beginnt_mit(text, anfang) && text.find(']') == text.size() - 1) {
                 kopf->Caption = anfang + werte_.WAEHRUNG + "]";
             }
         }

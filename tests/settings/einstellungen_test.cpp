@@ -108,6 +108,7 @@ TEST(Einstellungen, EinWertDerNichtPasstBeendetDasLesenAnSeinerZeile) {
                                    {78, "0", "1", false},
                                    {100, "Gesamtpreis[alt]", "Gesamtpreis[neu]", true},
                                    {100, "Preis[alt]", "Preis[alt]", true},
+                                   {101, "Gesamtpreis[alt] [netto]", "Gesamtpreis[alt] [netto]", true},
                                    {106, "99", "11", true},
                                    {106, "groß", "11", false}}) {
         SCOPED_TRACE(std::to_string(fall.nummer) + " " + fall.text);
