@@ -5,6 +5,16 @@
 
 namespace quittika {
 
+namespace {
+
+/// The design marks entries whose "&" is none of an access key, as in the name of a file.
+QString menu_text(const std::string& caption, const QAction& action) {
+    QString text = to_qt(caption);
+    return action.property("verbatim").toBool() ? text.replace(QLatin1Char('&'), QLatin1String("&&")) : text;
+}
+
+} // namespace
+
 LabelView::LabelView(Control& control, QLabel& widget) : TypedView(control, widget) {
     widget.setTextFormat(Qt::PlainText);
 }
@@ -51,7 +61,7 @@ MenuView::MenuView(Menu& control, QAction& action) : control_(control), action_(
 void MenuView::property_changed(PropertyId id) {
     switch (id) {
     case PropertyId::Caption:
-        return action_.setText(to_qt(control_.Caption()));
+        return action_.setText(menu_text(control_.Caption(), action_));
     case PropertyId::Enabled:
         return action_.setEnabled(control_.Enabled());
     case PropertyId::Visible:

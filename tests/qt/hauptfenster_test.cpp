@@ -221,7 +221,7 @@ TEST_F(Hauptfenstertest, RasterEntstehtBeimAufklappen) {
     EXPECT_EQ(f().Raster[8].Text_leistung[0].Text(), "Griff");
 }
 
-TEST_F(Hauptfenstertest, UeblicheTastenkuerzel) {
+TEST_F(Hauptfenstertest, EintraegeDesMenues) {
     const std::pair<const char*, const char*> kuerzel[] = {{"m_neu", "Ctrl+N"},
                                                            {"m_oeffnen", "Ctrl+O"},
                                                            {"m_speichern_kurz", "Ctrl+S"},
@@ -232,6 +232,8 @@ TEST_F(Hauptfenstertest, UeblicheTastenkuerzel) {
         EXPECT_EQ(aktion->shortcut().toString().toStdString(), taste) << name;
         EXPECT_TRUE(aktion->isEnabled()) << name;
     }
+    f().m_R1.Caption = "/A & B.qk8";
+    EXPECT_EQ(feld<QAction>("m_R1")->text(), "/A && B.qk8") << "the name of a file has no access key";
 }
 
 } // namespace
