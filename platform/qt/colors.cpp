@@ -3,6 +3,7 @@
 #include "platform/qt/widgets/card.hpp"
 #include "platform/qt/widgets/theme.hpp"
 
+#include <QAbstractButton>
 #include <QAbstractScrollArea>
 #include <QApplication>
 #include <QComboBox>
@@ -37,6 +38,9 @@ Roles roles_of(const QWidget& widget) {
     if (qobject_cast<const QPushButton*>(&widget) != nullptr ||
         qobject_cast<const QToolButton*>(&widget) != nullptr) {
         return {{QPalette::Button}, {QPalette::ButtonText}, false};
+    }
+    if (qobject_cast<const QAbstractButton*>(&widget) != nullptr) { // filled with the colour of buttons
+        return {{QPalette::Window, QPalette::Button}, {QPalette::WindowText}, true};
     }
     const bool paints_itself = qobject_cast<const Card*>(&widget) != nullptr;
     return {{QPalette::Window}, {QPalette::WindowText}, !paints_itself};

@@ -269,13 +269,19 @@ TEST_P(ColourTest, GroundTextAndBackAgain) {
     const QPalette before = widget.palette();
     control.BackColor = color::rgb(0, 0, 139);
     EXPECT_EQ(widget.palette().color(c.back), QColor(0, 0, 139));
+    EXPECT_TRUE(!widget.autoFillBackground() ||
+                widget.palette().color(widget.backgroundRole()) == QColor(0, 0, 139))
+        << "what fills it";
     EXPECT_EQ(widget.palette().color(c.text), QColor(Qt::white));
     control.BackColor = color::kYellow;
     EXPECT_EQ(widget.palette().color(c.text), QColor(Qt::black));
     control.ForeColor = color::rgb(200, 0, 0);
     EXPECT_EQ(widget.palette().color(c.text), QColor(200, 0, 0));
+    control.OwnLook = true;
+    EXPECT_EQ(widget.palette(), before) << "whatever the colours";
     control.BackColor = color::kWindow;
     control.ForeColor = color::kWindowText;
+    control.OwnLook = false;
     EXPECT_EQ(widget.palette(), before);
     EXPECT_FALSE(widget.autoFillBackground());
 }
