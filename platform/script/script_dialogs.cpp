@@ -33,7 +33,10 @@ bool has_button(Buttons buttons, Answer answer) {
 std::string line_of(std::initializer_list<std::string> fields) {
     std::string line;
     for (const std::string& text : fields) {
-        line += (line.empty() ? "" : "|") + protocol::field(text);
+        if (!line.empty()) {
+            line += '|';
+        }
+        line += protocol::field(text);
     }
     return line;
 }
