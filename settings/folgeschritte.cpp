@@ -9,6 +9,7 @@
 
 #include <cstddef>
 #include <string>
+#include <utility>
 
 namespace quittika {
 
@@ -77,12 +78,13 @@ void Folgeschritte::Freigaben() {
 }
 
 void Folgeschritte::MwStUndWaehrung() {
-    if (werte_.MWST_SATZ1.empty()) {
-        werte_.MWST_SATZ1 = "19";
-    }
-    if (werte_.MWST_SATZ2.empty()) {
-        werte_.MWST_SATZ2 = "7";
-    }
+    const auto mindestens = [](std::string& satz, std::string vorgabe) {
+        if (satz.empty()) {
+            satz = std::move(vorgabe);
+        }
+    };
+    mindestens(werte_.MWST_SATZ1, "19");
+    mindestens(werte_.MWST_SATZ2, "7");
     einstellungen_.Text_MwSt.Text = werte_.MWST_SATZ1;
     einstellungen_.Text_MwSt2.Text = werte_.MWST_SATZ2;
     einstellungen_.Text_Waehrung.Text = werte_.WAEHRUNG;

@@ -67,7 +67,8 @@ std::string line_of(const std::string& window, const WindowPlace& place) {
     std::string line =
         window + ";" + std::to_string(place.size.width()) + ";" + std::to_string(place.size.height());
     if (place.place) {
-        line += ";" + std::to_string(place.place->x()) + ";" + std::to_string(place.place->y());
+        line.append(";").append(std::to_string(place.place->x()));
+        line.append(";").append(std::to_string(place.place->y()));
     }
     if (place.maximised) {
         line.append(";").append(kMaximised);
