@@ -4,7 +4,10 @@
 #include "platform/qt/qt_platform.hpp"
 #include "tests/pruefstand.hpp"
 
+#include <QGuiApplication>
 #include <QMainWindow>
+#include <QPainter>
+#include <QPdfWriter>
 
 #include <iostream>
 #include <string_view>
@@ -20,7 +23,12 @@ const std::vector<Vergleich> kVergleiche{
      3},
     {"one more row on a list of 1,000, window included", "eine_zeile_mehr/1000", "", 16},
     {"one more row on a list of 5,000, window included", "eine_zeile_mehr/5000", "", 16},
-    {"a page of PDF : the same calls on the PDF writer", "pdf_seite", "pdf_seite_grundlage", 1.5},
+    {"100 pages of PDF : the same calls on the PDF writer", "pdf_seiten", "pdf_seiten_grundlage", 1.3},
+    {"10 pages of pictures : the same calls on images", "bildseiten", "bildseiten_grundlage", 1.3},
+    {"preview of 1 page to its first page", "vorschau/1", "", 100},
+    {"preview of 50 pages to its first page", "vorschau/50", "", 100},
+    {"turning to another of 50 pages", "blaettern", "", 50},
+    {"invoice of 60 rows to PDF, cold : as many texts", "rechnung_als_pdf", "texte_als_pdf", 2},
     {"start to main window : an empty window", "start", "start_grundlage", 3},
 };
 
@@ -31,6 +39,20 @@ int leeres_fenster(int argc, char** argv) {
     fenster.resize(1360, 860);
     fenster.show();
     QApplication::processEvents();
+    return 0;
+}
+
+/// What an application needs that draws the texts of an invoice of 60 rows.
+int texte_als_pdf(int argc, char** argv) {
+    const QGuiApplication anwendung(argc, argv);
+    QPdfWriter schreiber(QStringLiteral("/dev/shm/quittika-bench-texte.pdf"));
+    schreiber.setPageSize(QPageSize(QPageSize::A4));
+    QPainter maler(&schreiber);
+    constexpr int kTexte = 400;
+    constexpr int kZeilenabstand = 200;
+    for (int i = 0; i < kTexte; ++i) {
+        maler.drawText(0, kZeilenabstand * (i % 60), QStringLiteral("Leistung Nummer %1").arg(i));
+    }
     return 0;
 }
 
@@ -50,6 +72,9 @@ int main(int argc, char** argv) {
     const std::string_view erstes = argc > 1 ? argv[1] : "";
     if (erstes == "--start-leer") {
         return leeres_fenster(argc, argv);
+    }
+    if (erstes == "--texte-als-pdf") {
+        return texte_als_pdf(argc, argv);
     }
     if (erstes == "--start-programm") {
         return ganzes_programm(argc, argv);
