@@ -5,7 +5,6 @@
 #include "platform/text.hpp"
 
 #include <algorithm>
-#include <regex>
 
 namespace quittika::fuzz {
 namespace {
@@ -13,8 +12,17 @@ namespace {
 /// "1E+15", "nan", "inf": numbers as no person writes them. What a damaged file holds instead of a number may
 /// stand.
 bool unlesbar(const std::string& text) {
-    static const std::regex muster("[0-9][eE][+-]?[0-9]|nan|inf");
-    return std::regex_search(text, muster);
+    const auto ist_ziffer = [&](std::size_t n) {
+        return n < text.size() && text[n] >= '0' && text[n] <= '9';
+    };
+    for (std::size_t e = text.find_first_of("eE"); e != std::string::npos;
+         e = text.find_first_of("eE", e + 1)) {
+        const bool vorzeichen = e + 1 < text.size() && (text[e + 1] == '+' || text[e + 1] == '-');
+        if (e > 0 && ist_ziffer(e - 1) && ist_ziffer(e + (vorzeichen ? 2 : 1))) {
+            return true;
+        }
+    }
+    return text.find("nan") != std::string::npos || text.find("inf") != std::string::npos;
 }
 
 std::string Zahlbefund(const std::string& name, const std::string& text) {
