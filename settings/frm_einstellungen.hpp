@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/forms/controls.hpp"
+#include "platform/forms/twips.hpp"
 
 namespace quittika {
 
@@ -20,6 +21,12 @@ struct frm_einstellungen : Form {
                  {"Firmendaten", "Bankdaten", "Textdaten", "Mehrwertsteuer/Währung",
                   "Firmenlogo && Wasserzeichen", "Designer/Druckerschriftart", "Layouts", "Druckfarben",
                   "Drucklayout", "Justierung", "Benennungen"}};
+
+    // --- the page that these settings make ---
+    Frame Frame_Muster{*this, Named("Frame_Muster").following({0, 0, twips(360), twips(520)})};
+    PictureBox Picture_Muster{Frame_Muster, Named("Picture_Muster").at({0, 0, twips(360), twips(509)})};
+    Label Label_Muster{*this, "Label_Muster"}; ///< what the page shows, and what is wrong on it
+    Timer Timer_Muster{*this, "Timer_Muster", 200, false};
 
     // --- Firmendaten ---
     Container& Seite_Firmendaten = SSTab1.page(0);
