@@ -3,6 +3,7 @@
 #include "platform/laufzeitfehler.hpp"
 
 #include <cstddef>
+#include <functional>
 #include <limits>
 #include <string>
 #include <string_view>
@@ -41,6 +42,12 @@ private:
 /// was put aside in `ausweichordner` (none: it is refused). The path put aside is returned, else "".
 std::string datei_ersetzen(const std::string& pfad, std::string_view bytes,
                            const std::string& ausweichordner = {});
+
+/// Takes the next bytes of a file that is being written.
+using Bytesenke = std::function<void(std::string_view bytes)>;
+
+/// The same for a content that `schreiben` makes piece by piece. What it throws leaves the old file.
+void datei_ersetzen(const std::string& pfad, const std::function<void(const Bytesenke&)>& schreiben);
 
 /// Creates a file with these bytes in the same manner; throws 58 where one stands, 75 for a folder.
 void datei_anlegen(const std::string& pfad, std::string_view bytes);

@@ -109,8 +109,47 @@ void benennen(const std::string& alt, const std::string& neu) {
     umbenennen(alt, neu);
 }
 
+using Inhalt = std::function<void(const Bytesenke&)>;
+
+Inhalt inhalt_aus(std::string_view bytes) {
+    return [bytes](const Bytesenke& senke) { senke(bytes); };
+}
+
+void inhalt_schreiben(const Datei& datei, const Inhalt& inhalt) {
+    inhalt([&datei](std::string_view bytes) { datei.schreiben(bytes); });
+}
+
+/// The file that a path leads to. Throws where it cannot be replaced.
+struct Ersatzziel {
+    explicit Ersatzziel(const std::string& wunsch) : pfad(wirkliches_ziel(ort_von(wunsch))) {
+        struct stat auskunft {};
+        vorhanden = stat(pfad.c_str(), &auskunft) == 0;
+        art = auskunft.st_mode;
+        if (vorhanden && S_ISDIR(art)) {
+            scheitern(EISDIR, pfad);
+        }
+        if (vorhanden && S_ISREG(art) && faccessat(AT_FDCWD, pfad.c_str(), W_OK, AT_EACCESS) != 0) {
+            scheitern(errno, errno == EROFS ? ordner_von(pfad) : pfad);
+        }
+    }
+    bool geraet() const { return vorhanden && !S_ISREG(art); }
+    std::optional<mode_t> rechte() const {
+        return vorhanden ? std::optional<mode_t>(art & 07777U) : std::nullopt;
+    }
+
+    std::string pfad;
+    bool vorhanden = false;
+    mode_t art = 0;
+};
+
+void auf_geraet_schreiben(const std::string& pfad, const Inhalt& inhalt) {
+    Datei geraet(pfad, O_WRONLY | O_NONBLOCK); // a pipe without a reader must not hold the program
+    inhalt_schreiben(geraet, inhalt);
+    geraet.schliessen();
+}
+
 /// `rechte`: those of the file that is replaced; none for a new file.
-void daneben_schreiben(const std::string& ziel, std::string_view bytes, std::optional<mode_t> rechte,
+void daneben_schreiben(const std::string& ziel, const Inhalt& inhalt, std::optional<mode_t> rechte,
                        void (*an_den_platz)(const std::string& alt, const std::string& neu)) {
     const std::string ordner = ordner_von(ziel);
     verwaiste_entfernen(ordner);
@@ -119,18 +158,26 @@ void daneben_schreiben(const std::string& ziel, std::string_view bytes, std::opt
     });
     try {
         Datei datei(neu.nummer, ziel);
-        datei.schreiben(bytes);
+        inhalt_schreiben(datei, inhalt);
         if (rechte) {
             fchmod(datei.nummer(), *rechte);
         }
         datei.sichern();
         datei.schliessen();
         an_den_platz(neu.pfad, ziel);
-    } catch (const Laufzeitfehler&) {
+    } catch (...) {
         unlink(neu.pfad.c_str());
         throw;
     }
     ordner_sichern(ordner);
+}
+
+void ersetzen(const Ersatzziel& ziel, const Inhalt& inhalt) {
+    if (ziel.geraet()) {
+        auf_geraet_schreiben(ziel.pfad, inhalt);
+    } else {
+        daneben_schreiben(ziel.pfad, inhalt, ziel.rechte(), umbenennen);
+    }
 }
 
 /// Puts a content aside under a name that says what it is; returns its path.
@@ -182,34 +229,23 @@ std::string am_ort_schreiben(const std::string& ziel, std::string_view bytes, co
 
 } // namespace
 
+void datei_ersetzen(const std::string& pfad, const std::function<void(const Bytesenke&)>& schreiben) {
+    ersetzen(Ersatzziel(pfad), schreiben);
+}
+
 std::string datei_ersetzen(const std::string& pfad, std::string_view bytes,
                            const std::string& ausweichordner) {
-    const std::string ziel = wirkliches_ziel(ort_von(pfad));
-    struct stat auskunft {};
-    const bool vorhanden = stat(ziel.c_str(), &auskunft) == 0;
-    if (vorhanden && S_ISDIR(auskunft.st_mode)) {
-        scheitern(EISDIR, ziel);
-    }
-    if (vorhanden && !S_ISREG(auskunft.st_mode)) {
-        Datei geraet(ziel, O_WRONLY | O_NONBLOCK); // a pipe without a reader must not hold the program
-        geraet.schreiben(bytes);
-        geraet.schliessen();
-        return {};
-    }
-    if (vorhanden && faccessat(AT_FDCWD, ziel.c_str(), W_OK, AT_EACCESS) != 0) {
-        scheitern(errno, errno == EROFS ? ordner_von(ziel) : ziel);
-    }
+    const Ersatzziel ziel(pfad);
     try {
-        daneben_schreiben(ziel, bytes,
-                          vorhanden ? std::optional<mode_t>(auskunft.st_mode & 07777U) : std::nullopt,
-                          umbenennen);
+        ersetzen(ziel, inhalt_aus(bytes));
         return {};
     } catch (const Laufzeitfehler& f) {
-        if (f.nummer() != fehler::kZugriffVerweigert || !vorhanden || ausweichordner.empty()) {
+        if (f.nummer() != fehler::kZugriffVerweigert || !ziel.vorhanden || ziel.geraet() ||
+            ausweichordner.empty()) {
             throw;
         }
     }
-    return am_ort_schreiben(ziel, bytes, ausweichordner);
+    return am_ort_schreiben(ziel.pfad, bytes, ausweichordner);
 }
 
 void datei_anlegen(const std::string& pfad, std::string_view bytes) {
@@ -218,7 +254,7 @@ void datei_anlegen(const std::string& pfad, std::string_view bytes) {
     if (stat(ziel.c_str(), &auskunft) == 0) {
         scheitern(S_ISDIR(auskunft.st_mode) ? EISDIR : EEXIST, ziel);
     }
-    daneben_schreiben(ziel, bytes, std::nullopt, benennen);
+    daneben_schreiben(ziel, inhalt_aus(bytes), std::nullopt, benennen);
 }
 
 } // namespace quittika

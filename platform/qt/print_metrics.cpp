@@ -4,6 +4,7 @@
 
 #include <QFontDatabase>
 #include <QFontMetricsF>
+#include <QRawFont>
 #include <QString>
 
 #include <algorithm>
@@ -65,8 +66,25 @@ QFont paper_font(const PrintFont& font) {
 }
 
 struct QtFontMetrics::Face {
-    explicit Face(const PrintFont& font) : name(font.name), bold(font.bold), metrics(measuring_font(font)) {
+    explicit Face(const PrintFont& font)
+        : name(font.name),
+          bold(font.bold),
+          metrics(measuring_font(font)),
+          outlines(QRawFont::fromFont(measuring_font(font))) {
         widths.fill(-1);
+        indexes.fill(kUnknown);
+    }
+
+    /// Number of a letter's outline, 0 where the font has none for it alone.
+    quint32 index_of(char16_t letter) {
+        quint32& index = indexes[letter];
+        if (index == kUnknown) {
+            const QChar c(letter);
+            const QVector<quint32> found =
+                c.isPrint() ? outlines.glyphIndexesForString(QString(c)) : QVector<quint32>();
+            index = found.size() == 1 ? found.front() : 0;
+        }
+        return index;
     }
 
     double width_of(char16_t letter) {
@@ -99,8 +117,12 @@ struct QtFontMetrics::Face {
 
     std::string name;
     bool bold;
+    static constexpr quint32 kUnknown = ~quint32{0};
+
     QFontMetricsF metrics;
+    QRawFont outlines;
     std::array<double, kTableEnd> widths;
+    std::array<quint32, kTableEnd> indexes;
 };
 
 QtFontMetrics::QtFontMetrics() = default;
@@ -117,6 +139,26 @@ QtFontMetrics::Face& QtFontMetrics::face(const PrintFont& font) const {
 
 double QtFontMetrics::text_width(const PrintFont& font, std::string_view text) const {
     return face(font).width(text) / kEm * font.size * kMmPerPoint;
+}
+
+Outlines QtFontMetrics::outlines(const PrintFont& font, std::string_view text, double unit) const {
+    Face& face = this->face(font);
+    const QString wide = QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+    const double pixel = unit / kEm * font.size * kMmPerPoint;
+    Outlines result;
+    result.indexes.reserve(wide.size());
+    result.places.reserve(wide.size());
+    double left = 0;
+    for (const QChar c : wide) {
+        const quint32 index = c.unicode() < kTableEnd ? face.index_of(c.unicode()) : 0;
+        if (index == 0) {
+            return {};
+        }
+        result.indexes.push_back(index);
+        result.places.push_back({left * pixel, 0});
+        left += face.width_of(c.unicode());
+    }
+    return result;
 }
 
 double QtFontMetrics::line_height(const PrintFont& font) const {

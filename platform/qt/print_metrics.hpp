@@ -3,6 +3,8 @@
 #include "platform/printing.hpp"
 
 #include <QFont>
+#include <QPointF>
+#include <QVector>
 
 #include <memory>
 #include <string>
@@ -15,6 +17,12 @@ namespace quittika {
 /// as wide as the sum of its characters. Well-known names lead to their metric-compatible free families.
 QFont paper_font(const PrintFont& font);
 
+/// A text as outlines of one font: which, and where each begins on the base line.
+struct Outlines {
+    QVector<quint32> indexes;
+    QVector<QPointF> places;
+};
+
 /// Measures with the outlines themselves, so that every device gets the same values.
 /// Widths of the usual characters are kept; for one thread only. Needs a `QGuiApplication`.
 class QtFontMetrics final : public FontMetrics {
@@ -24,6 +32,9 @@ public:
 
     double text_width(const PrintFont& font, std::string_view text) const override;
     double line_height(const PrintFont& font) const override;
+    /// The outlines of `text`, each as far from the one before as that is wide; `unit` is a millimetre. Empty
+    /// for a text that the font cannot show by itself, letter by letter.
+    Outlines outlines(const PrintFont& font, std::string_view text, double unit) const;
     /// From the top of a line to its base line, mm.
     double ascent(const PrintFont& font) const;
 

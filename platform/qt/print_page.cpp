@@ -6,13 +6,16 @@
 #include "platform/qt/print_paper.hpp"
 #include "platform/qt/qt_text.hpp"
 
-#include <QBuffer>
+#include <QIODevice>
 #include <QImageWriter>
 #include <QSizeF>
 
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
+#include <exception>
+#include <string>
+#include <string_view>
 
 namespace quittika {
 
@@ -45,6 +48,49 @@ public:
     void end_document() override {}
 };
 
+/// Lets the toolkit write a file of ours. It knows no exceptions: they wait until it is done.
+class FileContent final : public QIODevice {
+public:
+    explicit FileContent(const Bytesenke& target) : target_(target) { open(WriteOnly | Unbuffered); }
+    bool isSequential() const override { return true; }
+
+    /// Writes what is left. Throws what writing threw.
+    void finish() {
+        flush();
+        if (error_) {
+            std::rethrow_exception(error_);
+        }
+    }
+
+protected:
+    qint64 readData(char* /*data*/, qint64 /*most*/) override { return -1; }
+    qint64 writeData(const char* data, qint64 size) override {
+        waiting_.append(data, static_cast<std::size_t>(size));
+        if (waiting_.size() >= kPortion) {
+            flush();
+        }
+        return error_ ? -1 : size;
+    }
+
+private:
+    static constexpr std::size_t kPortion = 64U * 1024;
+
+    void flush() {
+        try {
+            if (!error_) {
+                target_(waiting_);
+            }
+        } catch (const Laufzeitfehler&) {
+            error_ = std::current_exception();
+        }
+        waiting_.clear();
+    }
+
+    const Bytesenke& target_;
+    std::string waiting_;
+    std::exception_ptr error_;
+};
+
 } // namespace
 
 QSize sheet_size(const Paper& paper, const QSize& room) {
@@ -74,14 +120,15 @@ void save_page(const DrawnPage& page, const std::string& path, int dpi, PaintToo
     }
     const QSizeF sheet = QSizeF(page.paper.width, page.paper.height) * (dpi / kMmPerInch);
     const QImage image = page_image(page, sheet.toSize(), tools);
-    QBuffer content;
-    content.open(QIODevice::WriteOnly);
     const bool png = to_qt(path).endsWith(QLatin1String(".png"), Qt::CaseInsensitive);
-    if (!QImageWriter(&content, png ? "png" : "bmp").write(image)) {
-        throw Laufzeitfehler(fehler::kSpeicher);
-    }
-    const QByteArray& bytes = content.data();
-    datei_ersetzen(path, {bytes.constData(), static_cast<std::size_t>(bytes.size())});
+    datei_ersetzen(path, [&](const Bytesenke& target) {
+        FileContent content(target);
+        const bool written = QImageWriter(&content, png ? "png" : "bmp").write(image);
+        content.finish();
+        if (!written) {
+            throw Laufzeitfehler(fehler::kSpeicher);
+        }
+    });
 }
 
 } // namespace quittika

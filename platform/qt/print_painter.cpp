@@ -3,6 +3,7 @@
 #include "platform/qt/colors.hpp"
 #include "platform/qt/print_paper.hpp"
 
+#include <QGlyphRun>
 #include <QPaintDevice>
 #include <QPen>
 
@@ -61,7 +62,8 @@ const PainterDevice::ReadyFont& PainterDevice::ready(const PrintFont& font) {
         ++index;
     }
     if (index == fonts_.size()) {
-        fonts_.push_back({font, QFont(paper_font(font), painter_.device()), tools_.metrics.ascent(font)});
+        const QFont paper(paper_font(font), painter_.device());
+        fonts_.push_back({font, paper, QRawFont::fromFont(paper), tools_.metrics.ascent(font)});
     }
     if (set_font_ != index + 1) {
         set_font_ = index + 1;
@@ -72,10 +74,19 @@ const PainterDevice::ReadyFont& PainterDevice::ready(const PrintFont& font) {
 
 void PainterDevice::text(double left, double top, double /*width*/, const PrintFont& font, Color color,
                          std::string_view text) {
-    const double baseline = top + ready(font).ascent;
+    const ReadyFont& face = ready(font);
+    const QPointF start = QPointF(left, top + face.ascent) * pixels_per_mm_;
     painter_.setPen(ink(color));
-    painter_.drawText(QPointF(left, baseline) * pixels_per_mm_,
-                      QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())));
+    const Outlines outlines = tools_.metrics.outlines(font, text, pixels_per_mm_);
+    if (outlines.indexes.isEmpty()) {
+        painter_.drawText(start, QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())));
+        return;
+    }
+    QGlyphRun run;
+    run.setRawFont(face.outlines);
+    run.setGlyphIndexes(outlines.indexes);
+    run.setPositions(outlines.places);
+    painter_.drawGlyphRun(start, run);
 }
 
 void PainterDevice::line(double x1, double y1, double x2, double y2, Color color) {

@@ -6,6 +6,7 @@
 #include <QFont>
 #include <QImage>
 #include <QPainter>
+#include <QRawFont>
 
 #include <string>
 #include <unordered_map>
@@ -39,6 +40,7 @@ private:
     struct ReadyFont {
         PrintFont font;
         QFont paper;
+        QRawFont outlines;
         double ascent; ///< mm
     };
     /// A picture in the colours and, at most, the resolution of the device.
