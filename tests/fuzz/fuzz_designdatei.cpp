@@ -39,7 +39,7 @@ void pruefen(std::string_view bytes, Druckprobe& p) {
         Papiergeraet geraet(papier);
         PrintSurface flaeche(geraet, p.schrift);
         DRUCKE_EIGENESLAYOUT(p.form1, p.einstellungen, p.werte, design, {}).DRUCKEN(flaeche, {-4, -6});
-        verlangen(papier.enden == 1 && papier.finden("Posten") != nullptr);
+        verlangen(papier.ended && papier.finden("Posten") != nullptr);
     } catch (const Laufzeitfehler&) { // no design
     }
 }

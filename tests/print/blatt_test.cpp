@@ -39,9 +39,10 @@ TEST(Drucktext, StehtLinksMittigOderRechtsUndLaesstDieMarke) {
         flaeche.CurrentY = 90;
         Blatt blatt{flaeche, {-4, 3}};
         f.routine(blatt, "Größ", f.x, f.y, f.absolut, f.behalten);
-        ASSERT_EQ(papier.texte.size(), 1U);
-        EXPECT_DOUBLE_EQ(papier.texte[0].links, f.links);
-        EXPECT_DOUBLE_EQ(papier.texte[0].oben, f.oben);
+        const drawn::Text* text = papier.finden("Größ");
+        ASSERT_NE(text, nullptr);
+        EXPECT_DOUBLE_EQ(text->left, f.links);
+        EXPECT_DOUBLE_EQ(text->top, f.oben);
         EXPECT_DOUBLE_EQ(flaeche.CurrentX, f.behalten ? f.links + 8 : 70);
         EXPECT_DOUBLE_EQ(flaeche.CurrentY, f.behalten ? f.oben : 90);
     }

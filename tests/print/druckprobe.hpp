@@ -1,8 +1,8 @@
 #pragma once
 
 #include "platform/print_surface.hpp"
+#include "platform/recording.hpp"
 #include "platform/text.hpp"
-#include "platform/zahlen.hpp"
 #include "print/belegdruck.hpp"
 #include "tests/feste_schrift.hpp"
 #include "tests/pruefstand.hpp"
@@ -12,81 +12,53 @@
 
 namespace quittika {
 
-struct GezeichneterText {
-    int seite;
-    double links;
-    double oben;
-    double rechts;
-    double groesse;
-    bool fett;
-    Color farbe;
-    std::string text;
-};
+/// What has reached the paper; every path on it is a picture.
+struct Papier : RecordedJob {
+    Papier() : RecordedJob(PrintDocument{}) {}
 
-struct GezeichneteLinie {
-    int seite;
-    double x1;
-    double y1;
-    double x2;
-    double y2;
-    Color farbe;
-};
-
-/// What has reached the paper.
-struct Papier {
-    std::vector<GezeichneterText> texte;
-    std::vector<GezeichneteLinie> linien;
-    std::vector<std::string> bilder;
-    int seite = 1;
-    int enden = 0;
-
+    int seiten() const { return static_cast<int>(pages.size()); }
+    const DrawnPage& seite(int nummer) const { return pages.at(static_cast<std::size_t>(nummer - 1)); }
     /// The first text of that beginning on a page, or null.
-    const GezeichneterText* finden(const std::string& anfang, int auf_seite = 1) const {
-        for (const GezeichneterText& t : texte) {
-            if (t.seite == auf_seite && beginnt_mit(t.text, anfang)) {
-                return &t;
+    const drawn::Text* finden(const std::string& anfang, int auf_seite = 1) const {
+        for (const Drawing& d : seite(auf_seite).drawings) {
+            if (const auto* text = std::get_if<drawn::Text>(&d); text && beginnt_mit(text->text, anfang)) {
+                return text;
             }
         }
         return nullptr;
     }
+    /// The texts, lines or pictures of a page.
+    template <class Art> std::vector<Art> alle(int auf_seite = 1) const {
+        std::vector<Art> gefunden;
+        for (const Drawing& d : seite(auf_seite).drawings) {
+            if (const auto* stueck = std::get_if<Art>(&d)) {
+                gefunden.push_back(*stueck);
+            }
+        }
+        return gefunden;
+    }
 };
 
-/// Draws on paper that outlives the job.
-class Papiergeraet : public PrintDevice {
-public:
-    /// `bildfehler` and `endfehler` are raised by pictures and at the end of the document, unless 0.
-    explicit Papiergeraet(Papier& papier, int bildfehler = 0, int endfehler = 0)
-        : papier_(papier), bildfehler_(bildfehler), endfehler_(endfehler) {}
+inline double rechts(const drawn::Text* text) {
+    return text->left + text->width;
+}
 
-    void text(double left, double top, double width, const PrintFont& font, Color color,
-              std::string_view text) override {
-        papier_.texte.push_back(
-            {papier_.seite, left, top, left + width, font.size, font.bold, color, std::string(text)});
+/// Takes any path for a picture, or none.
+struct Papierbilder : Pictures {
+    int fehler = 0;
+    PictureSize check(const std::string& /*path*/) override {
+        return fehler == 0 ? PictureSize{} : throw Laufzeitfehler(fehler);
     }
-    void line(double x1, double y1, double x2, double y2, Color color) override {
-        papier_.linien.push_back({papier_.seite, x1, y1, x2, y2, color});
-    }
-    void picture(double left, double top, double width, double height, const std::string& path) override {
-        melden(bildfehler_);
-        papier_.bilder.push_back(path + " " + format_zahl(left, "0") + " " + format_zahl(top, "0") + " " +
-                                 format_zahl(width, "0") + " " + format_zahl(height, "0.0"));
-    }
-    void new_page() override { ++papier_.seite; }
-    void end_document() override {
-        melden(endfehler_);
-        ++papier_.enden;
-    }
+};
 
-private:
-    static void melden(int nummer) {
-        if (nummer != 0) {
-            throw Laufzeitfehler(nummer);
-        }
-    }
+/// Draws on paper that outlives it.
+struct Papiergeraet {
+    explicit Papiergeraet(Papier& papier)
+        : geraet(std::shared_ptr<RecordedJob>(std::shared_ptr<void>(), &papier), bilder) {}
+    operator PrintDevice&() { return geraet; }
 
-    Papier& papier_;
-    int bildfehler_;
-    int endfehler_;
+    Papierbilder bilder;
+    RecordingDevice geraet;
 };
 
 /// An invoice without print adjustment, drawn on paper that can be read.

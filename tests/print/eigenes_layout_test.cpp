@@ -59,10 +59,10 @@ TEST(EigenesLayout, WasSichUeberdecktRuecktNachUnten) {
         Eigenprobe p;
         p.zeilen(f.zeilen);
         const Papier papier = p.gezeichnet(f.design);
-        const GezeichneterText* text = papier.finden(f.text);
+        const drawn::Text* text = papier.finden(f.text);
         ASSERT_NE(text, nullptr);
-        EXPECT_NEAR(text->links, f.x - 4, 0.01);
-        EXPECT_NEAR(text->oben, f.y - 6, 0.02);
+        EXPECT_NEAR(text->left, f.x - 4, 0.01);
+        EXPECT_NEAR(text->top, f.y - 6, 0.02);
         EXPECT_EQ(p.befund, "");
     }
 }
@@ -85,19 +85,20 @@ TEST(EigenesLayout, JedesTabellendesignSiehtAndersAusUndSagtDasselbe) {
             p.werte.FARBE_LINIEN = dunkel ? color::rgb(0, 60, 120) : color::rgb(255, 230, 120);
             const Papier papier = p.gezeichnet("LIST_OPTION:" + std::to_string(f.stil));
             std::vector<double> stellen;
-            for (const GezeichneterText& t : papier.texte) {
-                stellen.insert(stellen.end(), {t.links, t.oben});
+            for (const drawn::Text& t : papier.alle<drawn::Text>()) {
+                stellen.insert(stellen.end(), {t.left, t.top});
             }
             erste = erste.empty() ? stellen : erste;
             EXPECT_EQ(stellen, erste) << "all take the same room";
-            EXPECT_EQ(papier.finden("Leistung")->fett, f.fett);
-            EXPECT_EQ(papier.finden("Leistung")->farbe, dunkel ? f.schrift : 0);
-            EXPECT_EQ(papier.finden("Posten")->farbe, 0);
-            const auto senkrecht = [](const GezeichneteLinie& l) { return l.x1 == l.x2; };
-            EXPECT_EQ(std::count_if(papier.linien.begin(), papier.linien.end(), senkrecht), f.senkrecht);
-            EXPECT_EQ(papier.linien.size() > 60, f.flaechen);
-            const auto blass = [](const GezeichneteLinie& l) { return (l.farbe >> 8 & 0xFF) > 235; };
-            EXPECT_EQ(std::count_if(papier.linien.begin(), papier.linien.end(), blass), 0) << "seen in grey";
+            EXPECT_EQ(papier.finden("Leistung")->font.bold, f.fett);
+            EXPECT_EQ(papier.finden("Leistung")->color, dunkel ? f.schrift : 0);
+            EXPECT_EQ(papier.finden("Posten")->color, 0);
+            const auto senkrecht = [](const drawn::Line& l) { return l.x1 == l.x2; };
+            const auto linien = papier.alle<drawn::Line>();
+            EXPECT_EQ(std::count_if(linien.begin(), linien.end(), senkrecht), f.senkrecht);
+            EXPECT_EQ(linien.size() > 60, f.flaechen);
+            const auto blass = [](const drawn::Line& l) { return (l.color >> 8 & 0xFF) > 235; };
+            EXPECT_EQ(std::count_if(linien.begin(), linien.end(), blass), 0) << "seen in grey";
         }
     }
 }
@@ -114,9 +115,9 @@ TEST(EigenesLayout, VolleSeitenPassenAufDasBlatt) {
         p.einstellungen.Option_RN_BM_alleSeite.Value = f.bemerkungen;
         p.zeilen(f.zeilen);
         const Papier papier = p.gezeichnet("");
-        EXPECT_EQ(papier.seite, 3);
+        EXPECT_EQ(papier.seiten(), 3);
         EXPECT_EQ(p.befund, "");
-        EXPECT_LT(papier.finden("Rechnungsbetrag", 3)->oben + 4, 268 - 6) << "above the page number";
+        EXPECT_LT(papier.finden("Rechnungsbetrag", 3)->top + 4, 268 - 6) << "above the page number";
     }
 }
 
