@@ -3,6 +3,7 @@
 #   click form1.m_neu     a command for the script runner; @ORDNER@ stands for the folder
 #   #$ qk8 a.qk8          a command for the shell, in the folder; lesen and qk8 (below) print files
 #   #? form1 A B L*       the values of these controls of the form and the items of a list, in one line of answer
+#   #/ Seite|betrag       those lines of the recorded pages that match
 #   #+ 2|Stuhl|12,5       adds a row of this quantity, text and price
 #   #= 0,00               what the command above it answers, the closing "ok" left out
 # With NEU=1 in the environment the answers are written into the script instead of compared.
@@ -22,7 +23,7 @@ qk8() { lesen "$1" | awk -f "$here/qk8.awk"; }
 export -f lesen qk8
 export here
 
-# The answer of the runner to one command; recorded pages come one printed line a line.
+# The answer of the runner to one command.
 answer() {
     local line
     while IFS= read -r -u "${RUNNER[0]}" line; do
@@ -54,6 +55,12 @@ values() {
     printf '%s\n' "${row:3}"
 }
 
+# What was printed, one printed line a line, as far as it matches.
+pages() {
+    send pages >"$work/pages"
+    awk -f "$here/seiten.awk" "$work/pages" | grep -E "$1"
+}
+
 # Adds a row: quantity, text and price, parted by "|".
 add_row() {
     local menge leistung preis
@@ -75,15 +82,11 @@ play() {
             read -ra names <<<"${line#'#?'}"
             values "${names[@]}" >"$work/answer"
             ;;
+        pages) pages . >"$work/answer" ;;
+        '#/ '*) pages "${line#'#/ '}" >"$work/answer" ;;
         '#+ '*) add_row "${line#'#+ '}" >"$work/answer" ;;
         '' | '#'*) : >"$work/answer" ;;
-        *)
-            send "$line" >"$work/answer"
-            if [ "$line" = pages ]; then
-                awk -f "$here/seiten.awk" "$work/answer" >"$work/pages"
-                mv "$work/pages" "$work/answer"
-            fi
-            ;;
+        *) send "$line" >"$work/answer" ;;
         esac
         printf '%s\n' "$line"
         sed "s|$folder|@ORDNER@|g; s|^|#= |; s|^#= \$|#=|" "$work/answer"
