@@ -12,6 +12,7 @@ namespace {
 
 std::vector<std::string> texte(const std::vector<TextBox*>& felder) {
     std::vector<std::string> zeilen;
+    zeilen.reserve(felder.size());
     for (const TextBox* feld : felder) {
         zeilen.push_back(feld->Text());
     }

@@ -18,9 +18,12 @@ constexpr const char* kFeldgrenze = "#§#";
 void FENSTERSTATUS_LADEN(Form& fenster, const Programmverzeichnis& verzeichnis) {
     const std::string zeile = DATEI_ERSTE_ZEILE(verzeichnis.pfad(kDatei));
     const auto zustand = double_versuch(FELD_AUS_ZEILE(zeile, kFeldgrenze, 1));
-    if (zustand == window_state::kMinimised || zustand == window_state::kMaximised) {
+    if (!zustand) {
+        return;
+    }
+    if (*zustand == window_state::kMinimised || *zustand == window_state::kMaximised) {
         fenster.WindowState = window_state::kMaximised;
-    } else if (zustand == window_state::kNormal) {
+    } else if (*zustand == window_state::kNormal) {
         fenster.WindowState = window_state::kNormal;
     }
 }

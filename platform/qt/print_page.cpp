@@ -73,7 +73,7 @@ protected:
     }
 
 private:
-    static constexpr std::size_t kPortion = 64U * 1024;
+    static constexpr std::size_t kPortion = std::size_t{64} * 1024;
 
     void flush() {
         try {

@@ -67,7 +67,7 @@ private:
     bool exhausted_ = false;
 };
 
-QImage decode(PictureFile file) {
+QImage decode(const PictureFile& file) {
     PatientSource source(file.bytes);
     QImageReader reader(&source, name_of(file.outline.format));
     reader.setAutoDetectImageFormat(false);
@@ -114,12 +114,16 @@ const QtPictures::Kept& QtPictures::find(const std::string& path) {
         }
         kept_.erase(known);
     }
-    PictureFile file = read_picture_file(path);
-    make_room(4 * file.outline.width * file.outline.height);
-    QImage image = decode(std::move(file)); // the bytes go before the picture is reduced
+    QImage image = decoded(path); // the bytes of the file are gone before the picture is reduced
     const PictureSize size{image.width(), image.height()};
     kept_.push_front({path, info.lastModified(), info.size(), size, reduced(std::move(image))});
     return kept_.front();
+}
+
+QImage QtPictures::decoded(const std::string& path) {
+    const PictureFile file = read_picture_file(path);
+    make_room(4 * file.outline.width * file.outline.height);
+    return decode(file);
 }
 
 void QtPictures::make_room(qint64 bytes) {

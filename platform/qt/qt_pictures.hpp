@@ -28,6 +28,7 @@ private:
     };
 
     const Kept& find(const std::string& path);
+    QImage decoded(const std::string& path);
     void make_room(qint64 bytes);
 
     std::list<Kept> kept_; ///< the one used last is in front
