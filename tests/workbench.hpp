@@ -10,7 +10,8 @@
 
 namespace quittika::test {
 
-/// A window with what a big one is made of: pages behind tabs, a picture on a sheet, fields, long work.
+/// A window with what a big one is made of: pages behind tabs, a picture on a sheet, a patch and a frame that
+/// the program places, fields, long work.
 struct WorkbenchForm : Form {
     WorkbenchForm() : Form("Workbench", "Werkbank", {.width = twips(520), .height = twips(420)}) {}
     CommandButton Open{*this, "Open", "Artikel&liste"};
@@ -26,11 +27,12 @@ struct WorkbenchForm : Form {
     TextBox Service{FieldPage, "Service"};
     TextBox Remark{FieldPage, "Remark"};
     Slider Red{FieldPage, "Red", 0, 255, 0};
-    Frame Patch{FieldPage, "Patch"};
+    Shape Patch{FieldPage, Named("Patch").at({150, 75, 300, 450})};
 
     Container& WorkPage = Tabs.page(2);
     CommandButton Work{WorkPage, "Work", "&Zählen"};
     Label Result{WorkPage, "Result"};
+    Frame Choice{*this, Named("Choice").movable({5000, 0, 2000, 1000})};
 };
 
 /// A companion of the workbench.

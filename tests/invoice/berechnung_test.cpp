@@ -71,19 +71,6 @@ TEST(Berechnung, WasSichNichtBerechnenLaesstIstNull) {
     }
 }
 
-TEST(Berechnung, VersandWirdGeteilt) {
-    const Versandaufteilung bisher{1, 2};
-    const auto getrennt = VERSAND_AUFTEILEN(Versand_Modus::Getrennt, 11.9, 19, bisher);
-    EXPECT_EQ(format_zahl(getrennt.Versand_Netto, "0.00"), "10,00");
-    EXPECT_EQ(format_zahl(getrennt.Versand_MwSt, "0.00"), "1,90");
-    const auto enthalten = VERSAND_AUFTEILEN(Versand_Modus::Enthalten, 11.9, 19, bisher);
-    EXPECT_EQ(format_zahl(enthalten.Versand_Netto, "0.00"), "11,90") << "gross on purpose";
-    EXPECT_EQ(format_zahl(enthalten.Versand_MwSt, "0.00"), "1,90");
-    const auto sonst = VERSAND_AUFTEILEN(Versand_Modus::Unveraendert, 11.9, 19, bisher);
-    EXPECT_EQ(sonst.Versand_Netto, 1);
-    EXPECT_EQ(sonst.Versand_MwSt, 2);
-}
-
 __extension__ using Gross = __int128;
 
 /// The fraction z/n, rounded half away from zero to `stellen` decimals.

@@ -3,7 +3,6 @@
 #include "platform/forms/controls.hpp"
 #include "platform/laufzeitfehler.hpp"
 #include "platform/platform.hpp"
-#include "platform/print_surface.hpp"
 
 #include <memory>
 #include <stdexcept>
@@ -33,13 +32,9 @@ struct Haupt : Form {
     ListBox Liste{*this, "Liste"};
     ComboBox Offen{*this, "Offen", {"a"}, true};
     HScrollBar Rolle{*this, "Rolle", 1, 9, 5};
-    Label Ziel{*this, "Ziel", "hierher"};
     CommandButton Modal{*this, "Modal"};
     CommandButton Dialoge{*this, "Dialoge"};
-    CommandButton Drucken{*this, "Drucken"};
-    CommandButton Bild{*this, "Bild"};
     CommandButton Spaeter{*this, "Spaeter"};
-    CommandButton Arbeit{*this, "Arbeit"};
     DriveListBox Laufwerk{*this, "Laufwerk"};
     DirListBox Ordner{*this, "Ordner"};
     Timer Schnell{*this, "Schnell", 400, false};
@@ -114,9 +109,6 @@ private:
         haupt_.Liste.Click = [this] { log("Liste " + haupt_.Liste.Text()); };
         haupt_.Liste.DblClick = [this] { log("Doppelt"); };
         haupt_.Rolle.Change = [this] { log("Rolle " + haupt_.Rolle.main_value()); };
-        haupt_.Ziel.MouseDown = [this](const MouseEvent& e) {
-            log("Maus " + std::to_string(e.x + 1000 * e.y));
-        };
         haupt_.Schnell.Tick = [this] { log("schnell " + std::to_string(platform_.clock.now().sekunde)); };
         haupt_.Langsam.Tick = [this] {
             log("langsam " + std::to_string(platform_.clock.now().sekunde));
@@ -129,23 +121,12 @@ private:
             platform_.desktop.later([this] { log("danach"); });
             log("davor");
         };
-        haupt_.Arbeit.Click = [this] { work(); };
         haupt_.Dialoge.Click = [this] {
             attempt([this] { return platform_.dialogs.open_file({"Bild|*.bmp", "", ""}); });
             attempt([this] { return platform_.dialogs.save_file({"", "5/08\tx.txt", "Sichern"}); });
             attempt([this] { return std::to_string(platform_.dialogs.choose_color(0)); });
             attempt([this] { return platform_.dialogs.choose_font("Arial"); });
         };
-        haupt_.Drucken.Click = [this] { print(); };
-        haupt_.Bild.Click = [this] { platform_.printing.printer({"Bild"})->picture(1, 2, 3, 4, directory_); };
-    }
-
-    void work() {
-        platform_.progress.begin("nichts zu tun");
-        const auto progress = platform_.progress.begin("a|b");
-        for (int step = 1; step <= 3 && !progress->aborted(); ++step) {
-            progress->update(static_cast<std::size_t>(step), 3);
-        }
     }
 
     template <class Ask> void attempt(const Ask& ask) {
@@ -154,20 +135,6 @@ private:
         } catch (const Laufzeitfehler&) {
             log("nichts");
         }
-    }
-
-    void print() {
-        const auto device = platform_.printing.printer({"Blatt\t1"});
-        PrintSurface surface(*device, platform_.printing.metrics());
-        surface.CurrentX = -0.001;
-        surface.CurrentY = 12.345678;
-        surface.FontSize = 9.5;
-        surface.FontBold = true;
-        surface.ForeColor = 255;
-        surface.PrintOn("Nr. 1");
-        surface.NewPage();
-        surface.Line(0, 1, 210, 1, color::kBlack);
-        surface.EndDoc();
     }
 
     Platform platform_;

@@ -134,19 +134,6 @@ TEST(Textdatei, VerweisInsLeereUndImKreis) {
     EXPECT_TRUE(std::filesystem::is_symlink(o.pfad("kreis.txt")));
 }
 
-TEST(Textdatei, SehrLangeZeileBleibtGanz) {
-    constexpr std::size_t kLaenge = 10'000'000;
-    const Probenordner o;
-    const std::string lang(kLaenge, '\xE4');
-    o.schreiben("lang.txt", lang + "\r\nEnde");
-    const auto zeilen = zeilen_lesen(o.pfad("lang.txt"));
-    ASSERT_EQ(zeilen.size(), 2U);
-    EXPECT_EQ(zeilen[0].size(), 2 * kLaenge);
-    EXPECT_EQ(zeilen[1], "Ende");
-    EXPECT_EQ(zeilen_ersetzen(o.pfad("zurueck.txt"), zeilen), 0U);
-    EXPECT_TRUE(o.lesen("zurueck.txt") == lang + "\r\nEnde\r\n");
-}
-
 TEST(Programmpfad, RueckstrichWirdNurErsetztWoErTrennt) {
     const Probenordner o;
     std::filesystem::create_directory(o.pfad("d\\e"));

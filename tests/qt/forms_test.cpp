@@ -3,8 +3,6 @@
 #include "platform/qt/window_picture.hpp"
 #include "platform/qt/window_table.hpp"
 #include "tests/qt/form_table.hpp"
-#include "tests/qt/mouse/workbench_window.hpp"
-#include "tests/workbench.hpp"
 
 #include <gtest/gtest.h>
 
@@ -12,8 +10,6 @@
 
 namespace quittika::test {
 namespace {
-
-const std::vector<std::string> kNoFindings;
 
 class DesignTest : public ::testing::TestWithParam<MakeForm> {
 protected:
@@ -23,7 +19,7 @@ protected:
 TEST_P(DesignTest, EachControlHasItsWidgetAndEachWidgetItsControl) {
     const std::unique_ptr<QWidget> window = build_window(form->name());
     ASSERT_NE(window, nullptr);
-    EXPECT_EQ(check_binding(*form, *window), kNoFindings);
+    EXPECT_EQ(check_binding(*form, *window), std::vector<std::string>{});
 }
 
 TEST_P(DesignTest, ShowsAPicture) {
@@ -42,14 +38,6 @@ INSTANTIATE_TEST_SUITE_P(Designs, DesignTest, ::testing::ValuesIn(kForms),
 
 TEST(Designs, NoneIsWithoutItsForm) {
     EXPECT_EQ(window_table().size(), kForms.size());
-}
-
-TEST(Designs, TheWorkbenchHasAWidgetForEachControl) {
-    WorkbenchForm bench;
-    ArticlesForm articles;
-    for (Form* form : {static_cast<Form*>(&bench), static_cast<Form*>(&articles)}) {
-        EXPECT_EQ(check_binding(*form, *workbench_window(form->name())), kNoFindings);
-    }
 }
 
 } // namespace

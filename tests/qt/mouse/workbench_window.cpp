@@ -17,24 +17,30 @@ QWidget& add_page(QTabWidget& tabs) {
 std::unique_ptr<QWidget> workbench() {
     auto window = std::make_unique<QMainWindow>();
     window->setObjectName("Workbench");
-    auto* centre = new QWidget;
+    auto* centre = add<QWidget>(*window, "ui_Centre");
     window->setCentralWidget(centre);
     new QVBoxLayout(centre);
     add<QPushButton>(*centre, "Open");
     auto* tabs = add<QTabWidget>(*centre, "Tabs");
     QWidget& sheet_page = add_page(*tabs);
     add<QCheckBox>(sheet_page, "Movable");
-    auto* sheet = add<QFrame>(sheet_page, "Sheet");
+    auto* desk = add<QWidget>(sheet_page, "ui_Desk"); // the sheet is not measured in it
+    new QVBoxLayout(desk);
+    auto* sheet = add<QFrame>(*desk, "Sheet");
     sheet->setFrameShape(QFrame::Box);
     add<QLabel>(*sheet, "Block");
     QWidget& field_page = add_page(*tabs);
     add<QLineEdit>(field_page, "Service");
     add<QPlainTextEdit>(field_page, "Remark");
     add<QSlider>(field_page, "Red")->setOrientation(Qt::Horizontal);
-    add<QFrame>(field_page, "Patch")->setMinimumSize(40, 40);
+    (new QFrame(&field_page))->setObjectName("Patch");
     QWidget& work_page = add_page(*tabs);
     add<QPushButton>(work_page, "Work");
     add<QLabel>(work_page, "Result");
+    auto* choice = new QFrame(centre);
+    choice->setObjectName("Choice");
+    new QVBoxLayout(choice);
+    add<QLabel>(*choice, "ui_Text")->setText("Farbe auswählen");
     return window;
 }
 
