@@ -78,10 +78,8 @@ private:
 /// The program: both windows and what they do.
 class Workbench {
 public:
-    /// `step` is one step of the long work.
-    Workbench(
-        Desktop& desktop, Progress& progress, std::function<void()> step = [] {})
-        : progress_(progress), step_(std::move(step)), articles_(desktop, [this](ArticlesForm& form) {
+    Workbench(Desktop& desktop, Progress& progress)
+        : progress_(progress), articles_(desktop, [this](ArticlesForm& form) {
               return std::make_unique<ArticleWindow>(form, form_);
           }) {
         desktop.adopt(form_);
@@ -122,14 +120,12 @@ private:
         std::size_t done = 0;
         const auto display = progress_.begin("Nägel werden gezählt");
         while (done < kSteps && !display->aborted()) {
-            step_();
             display->update(++done, kSteps);
         }
         form_.Result.Caption = done == kSteps ? "gezählt" : "abgebrochen";
     }
 
     Progress& progress_;
-    std::function<void()> step_;
     WorkbenchForm form_;
     MouseEvent start_{};
     OpenedWindow<ArticlesForm, ArticleWindow> articles_;

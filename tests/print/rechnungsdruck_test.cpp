@@ -98,29 +98,6 @@ TEST(Druck, DasLieferdatumSchiebtDieTabelle) {
     EXPECT_DOUBLE_EQ(papier.finden("Leistung", 2)->top, 24 + 8 + 2 + 2) << "the table leaves room for it";
 }
 
-TEST(Druck, DieTitelzeileNenntDieArtInJedemKopf) {
-    const std::pair<OptionButton Form1::*, const char*> faelle[] = {
-        {&Form1::Option_RECHNUNG_KOPIE, "RECHNUNG 7         KOPIE   "},
-        {&Form1::Option_LIEFERSCHEIN, "LIEFERSCHEIN ZU: RECHNUNG 7"},
-        {&Form1::Option_LIEFERSCHEIN_KOPIE, "LIEFERSCHEIN ZU: RECHNUNG 7         KOPIE   "},
-    };
-    for (const auto& [art, titel] : faelle) {
-        for (const int kopf : {0, 1, 2}) {
-            Druckprobe p;
-            p.zeilen(18);
-            p.einstellungen.Option_RN_Kopf_alleSeiten.Value = kopf == 0;
-            p.einstellungen.Check_MitLogoadresseFFSeite.Value = kopf == 1 ? 1 : 0;
-            (p.form1.*art).Value = true;
-            const Papier papier = p.drucken();
-            for (const int seite : {1, 2}) {
-                const drawn::Text* text = papier.finden(titel, seite);
-                ASSERT_NE(text, nullptr) << titel << " on page " << seite;
-                EXPECT_EQ(text->text, titel);
-            }
-        }
-    }
-}
-
 TEST(Druck, SummenblockMitEnthaltenerMwst) {
     Druckprobe p;
     p.zeile("1", "Posten", "119");

@@ -10,16 +10,6 @@ namespace {
 // 880 by 740 pixels of 15 twips.
 constexpr Vorschauraum kRaum{13200, 11100};
 
-TEST(Vorschaumass, WasNichtPasstRolltVonRandZuRand) {
-    const Bildmass mass = scrollerJustierung({}, kRaum, 1);
-    EXPECT_EQ(mass.breite, 11905) << "210 mm of 1440 twips an inch";
-    EXPECT_EQ(mass.hoehe, 16837);
-    EXPECT_EQ(kBildanfang - mass.waagrecht.min, (13200 - 11905) / 2) << "in the middle";
-    EXPECT_EQ(mass.waagrecht.max, mass.waagrecht.min);
-    EXPECT_EQ(mass.senkrecht, (Rollbereich{450, 6487}));
-    EXPECT_EQ(600 - 6487 + 16837, 11100 - 150) << "at its end the page's end is seen with its margin";
-}
-
 TEST(Vorschaumass, VergroesserungenFuellenDenRaumUndBleibenInGrenzen) {
     struct Fall {
         const char* name;

@@ -32,18 +32,6 @@ protected:
     QObject context;
 };
 
-TEST_F(DesktopTest, BuildsAWindowAtItsFirstShow) {
-    form1.Text_Kunde_1.Text = "Frau Berg";
-    const int before = static_cast<int>(QApplication::topLevelWidgets().size());
-    EXPECT_EQ(form1.Text_Kunde_1.view(), nullptr);
-    form1.Show();
-    EXPECT_GT(QApplication::topLevelWidgets().size(), before);
-    auto* field = desktop.window(form1)->findChild<QLineEdit*>("Text_Kunde_1");
-    EXPECT_EQ(field->text(), "Frau Berg");
-    EXPECT_TRUE(desktop.window(form1)->isVisible());
-    EXPECT_EQ(desktop.window(form1)->parentWidget(), nullptr);
-}
-
 TEST_F(DesktopTest, ModalWindowKeepsTheCallerUntilItIsHidden) {
     form1.Show();
     std::string order;

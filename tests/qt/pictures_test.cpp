@@ -164,7 +164,7 @@ TEST_F(PictureTest, FilesThatCannotBeReadHaveTheirOwnNumbers) {
     }
 }
 
-TEST_F(PictureTest, ColoursTurnsAndNewContentAreSeen) {
+TEST_F(PictureTest, ColoursAndTurnsAreSeen) {
     const auto middle = [&](const std::string& path) {
         const QImage image = pictures.image(path);
         return image.pixelColor(image.rect().center());
@@ -174,13 +174,6 @@ TEST_F(PictureTest, ColoursTurnsAndNewContentAreSeen) {
     EXPECT_LT(red.green() + red.blue(), 30);
     const QImage upright = pictures.image(file("gedreht.jpg", turned()));
     EXPECT_GT(upright.pixelColor(19, 0).blue(), upright.pixelColor(0, 0).blue()) << "the corner moved right";
-
-    const std::string path = file("wechsel.png", encoded("png"));
-    EXPECT_EQ(middle(path), QColor(Qt::red));
-    file("wechsel.png", encoded("png", {400, 200}, Qt::green));
-    EXPECT_EQ(middle(path), QColor(Qt::green));
-    QFile::remove(QString::fromStdString(path));
-    EXPECT_THROW(pictures.check(path), Laufzeitfehler);
 }
 
 TEST_F(PictureTest, ControlsKeepTheirPictureWhereANewOneFails) {

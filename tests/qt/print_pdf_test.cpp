@@ -180,18 +180,5 @@ TEST_F(PdfTest, PicturesKeepTheirPixelsAndInGreyTheirTransparency) {
     }
 }
 
-TEST_F(PdfTest, MeasuresInMillimetres) {
-    // Arial and its twin have digits of 1139 units of 2048: ten of them at 72 points are 400,4 points wide.
-    EXPECT_NEAR(tools.metrics.text_width({"Arial", 72, false}, "0123456789"), 400.4 / kPointsPerMillimetre,
-                0.3);
-    EXPECT_NEAR(tools.metrics.text_width({"Courier New", 10, false}, "iiii"),
-                tools.metrics.text_width({"Courier New", 10, false}, "WWWW"), 1e-9);
-    EXPECT_NEAR(tools.metrics.text_width({"Arial", 10, false}, "AVAV"),
-                2 * tools.metrics.text_width({"Arial", 10, false}, "AV"), 1e-9)
-        << "no kerning";
-    EXPECT_GT(tools.metrics.text_width({"Arial", 10, true}, "Menge"),
-              tools.metrics.text_width({"Arial", 10, false}, "Menge"));
-}
-
 } // namespace
 } // namespace quittika::test

@@ -73,7 +73,8 @@ TEST_F(ProgressTest, NothingButTheDisplayTakesInputUntilItIsAborted) {
             click_main_window();
         } else if (shown_for == 40) {
             EXPECT_GT(window.findChild<QProgressBar*>()->value(), value_before);
-            QTest::mouseClick(&button, Qt::LeftButton);
+            QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {},
+                              button.mapTo(&window, button.rect().center()));
             EXPECT_FALSE(button.isEnabled());
         }
     }));

@@ -4,7 +4,6 @@
 #include "tests/ohne_vorrechte.hpp"
 #include "tests/pruefstand.hpp"
 
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <sys/stat.h>
@@ -13,13 +12,9 @@
 namespace quittika {
 namespace {
 
-using testing::ElementsAre;
-using testing::StartsWith;
-
 TEST(Rechnungsdatei, AlteUndUngewoehnlicheDateien) {
     Pruefstand p;
     const auto laden = [&p](const std::vector<std::string>& zeilen) {
-        p.dialoge.take_boxes();
         std::string bytes;
         for (const std::string& zeile : zeilen) {
             bytes += zeile + "\r\n";
@@ -50,12 +45,6 @@ TEST(Rechnungsdatei, AlteUndUngewoehnlicheDateien) {
     EXPECT_EQ(p.form1.List_Leistung.items(), (std::vector<std::string>{"Griff", "ERROR"}));
     EXPECT_EQ(p.form1.List_Preis.List(0), " rot");
     EXPECT_EQ(p.form1.List_Gesamtp.List(0), "2,00");
-
-    EXPECT_FALSE(laden({"qk7", "Titel", "#qk8LIST#;1;-;1;Rest;2,00;2,00"}));
-    EXPECT_THAT(p.dialoge.take_boxes(),
-                ElementsAre(StartsWith("box|Fehler...Datei ist keine >>*.qk8<< - Datei...|")));
-    EXPECT_EQ(p.form1.Text_rechnung.Text(), "RECHNUNG") << "no scalar values";
-    EXPECT_EQ(p.form1.List_Leistung.ListCount(), 1) << "but the positions";
 
     EXPECT_TRUE(laden({"qk8"})) << "the format of the former file does not linger";
     EXPECT_FALSE(laden({}));
@@ -88,41 +77,6 @@ TEST(Rechnungsdatei, EineZeileVonZehnMegabyteKostetNichts) {
     EXPECT_EQ(p.form1.List_DARSTELLUNG.ListCount(), 1);
     p.form1.Text_Datum.Text = "1.2.2008"; // the file has none
     EXPECT_TRUE(p.speichern("y.qk8"));
-}
-
-TEST(Rechnungsdatei, AbgeschnitteneDateiWirdNichtUeberschrieben) {
-    Pruefstand p;
-    std::string datei = "qk8\r\n";
-    for (int i = 0; i < 32001; ++i) {
-        datei += "#qk8LIST#;1;-;1;s;1,00;1,00\r\n";
-    }
-    p.ordner.schreiben("lang.qk8", datei);
-    EXPECT_TRUE(p.oeffnen("lang.qk8"));
-    EXPECT_EQ(p.form1.List_K.ListCount(), 32000);
-    EXPECT_EQ(p.zustand.AktuellerPfad(), "");
-    EXPECT_EQ(
-        p.form1.StatusBar1[3].Caption(),
-        "Achtung, Datei beschädigt: zu viele Zeilen (es fehlen Positionen), kürzer als üblich. Bitte vor "
-        "dem Speichern prüfen.");
-}
-
-TEST(Rechnungsdatei, EineAlteDateiErbtNichtsVonDerVorigen) {
-    Pruefstand p;
-    p.form1.Check_mwst.Value = 1;
-    p.form1.Check_RABATT.Value = 1;
-    p.form1.Check_VersandMwStEXTRA.Value = 1;
-    p.form1.Text_MwSt.Text = "50";
-    p.form1.Check_Versandkosten.Value = 1;
-    p.form1.Text_PreisVersankostenEingabe.Text = "70";
-    p.summen.jetztberechnen_List();
-    p.ordner.schreiben("alt.qk8", "qk8\r\nALT\r\n");
-    EXPECT_TRUE(p.oeffnen("alt.qk8"));
-    for (const CheckBox* haekchen :
-         {&p.form1.Check_mwst, &p.form1.Check_RABATT, &p.form1.Check_VersandMwStEXTRA}) {
-        EXPECT_EQ(haekchen->Value(), 0) << haekchen->name();
-    }
-    EXPECT_EQ(p.form1.Text_MwSt.Text(), "19,00");
-    EXPECT_EQ(p.form1.Text_gesamtbetrag.Text(), "0,00");
 }
 
 TEST(Rechnungsdatei, ImGesperrtenOrdnerWirdAmOrtGespeichert) {

@@ -26,8 +26,6 @@ public:
         ASSERT_EQ(hand.exitCode(), 0) << hand.readAllStandardError().toStdString();
         QTest::qWait(kPause);
     }
-    /// Begins to move and comes back at once.
-    void start() { QProcess::startDetached("xdotool", way_); }
 
 private:
     static constexpr int kLongest = 10000; ///< milliseconds

@@ -56,7 +56,7 @@ protected:
 
     QtDesktop desktop{workbench_window};
     QtProgress progress{desktop};
-    Workbench bench{desktop, progress, [] { QThread::msleep(3); }};
+    Workbench bench{desktop, progress};
 };
 
 TEST_F(RealMouse, MovesAPictureInItsFrameAndBeyondOnceThatIsAllowed) {
@@ -141,23 +141,6 @@ TEST_F(RealMouse, EachValueOfASliderComesOnce) {
     EXPECT_TRUE(std::is_sorted(values.begin(), values.end()));
     EXPECT_EQ(values.back(), 255);
     EXPECT_EQ(bench.form().Patch.BackColor(), 255) << "a click each";
-}
-
-TEST_F(RealMouse, AbortsLongWork) {
-    QTimer look;
-    QObject::connect(&look, &QTimer::timeout, [&look] {
-        for (QWidget* window : QApplication::topLevelWidgets()) {
-            const auto* button = window->findChild<QPushButton*>("Abbrechen");
-            if (button != nullptr && button->isVisible()) {
-                look.stop();
-                Mouse().to(button->mapToGlobal(QPointF(button->rect().center()))).click().start();
-            }
-        }
-    });
-    look.start(20);
-    Mouse().to(tab(2)).click().to(centre("Work")).click().go();
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !bench.form().Result.Caption().empty(); }));
-    EXPECT_EQ(bench.form().Result.Caption(), "abgebrochen");
 }
 
 } // namespace
