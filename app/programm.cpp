@@ -23,6 +23,8 @@
 #include "print/leistungsspalte.hpp"
 #include "print/lieferscheinoptionen.hpp"
 #include "print/seitenumbruch.hpp"
+#include "settings/einstellungsfelder.hpp"
+#include "settings/einstellungsfenster.hpp"
 #include "settings/logo.hpp"
 
 #include <utility>
@@ -38,7 +40,7 @@ struct Programm::Teile {
         platform.desktop.adopt(form_start);
         MENUE_LISTEN(form1, ereignisse, platform.dialogs);
         MENUE_DRUCKEN(form1, etiketten);
-        MENUE_EINSTELLUNGEN(form1);
+        MENUE_EINSTELLUNGEN(form1, ereignisse, einstellungsfenster);
         MENUE_EXTRAS(form1, eingabezeile);
     }
 
@@ -111,6 +113,10 @@ struct Programm::Teile {
     Einstellungsleser einstellungsleser{einstellungstabelle, verzeichnis, folgeschritte, uebernahme,
                                         einstellungsschreiber};
     Einstellungsstart einstellungsstart{einstellungen, programm, werte, verzeichnis, einstellungsleser};
+    Einstellungsfelder einstellungsfelder{einstellungen, werte, zustand, nummern, platform.dialogs};
+    Einstellungsfenster einstellungsfenster{einstellungen,         werte,   zustand, uebernahme,
+                                            einstellungsschreiber, nummern, logo,    summen,
+                                            platform.dialogs};
     ErsteRechnung erste_rechnung{form1, einstellungen, vorgaben, rechnung, nummern, platform.clock};
 
     // The main window: its areas, then the window, then its menus.

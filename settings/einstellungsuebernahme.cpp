@@ -7,7 +7,7 @@ namespace quittika {
 void Einstellungsuebernahme::ALLEUEBERNEHMEN(bool schliessen) {
     vorgaben_.SpaltenBenennen();
     werte_.WAEHRUNG = einstellungen_.Text_Waehrung.Text();
-    einstellungen_.logotab.Picture = einstellungen_.Picture1.Picture();
+    logo_.BilderNehmen();
     TexteUebernehmen();
     RechnungsartUebernehmen();
     werte_.MWST_SATZ1 = einstellungen_.Text_MwSt.Text();
@@ -18,6 +18,7 @@ void Einstellungsuebernahme::ALLEUEBERNEHMEN(bool schliessen) {
     stil_.Command_Vorschau_Click();
     form1_.Check_datum.Value = programm_.Check_datum.Value();
     DRUCKFARBEN_UEBERNEHMEN(werte_, einstellungen_);
+    schreiber_.VORLAEUFIG_ENDET();
     schreiber_.EINSTELLUNGEN_SPEICHERN();
     if (schliessen) {
         einstellungen_.Hide();

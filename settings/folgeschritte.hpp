@@ -33,7 +33,6 @@ private:
     void Anzeigen();
     void Gegenstuecke();
     void Spaltenkoepfe();
-    void Freigaben();
     void MwStUndWaehrung();
     void Individualfarben();
     void Layout();

@@ -17,13 +17,7 @@ struct Einstellungsstand : Pruefstand {
                                         einstellungsschreiber};
 
     /// What the owners of the lines hold.
-    std::vector<std::string> texte() const {
-        std::vector<std::string> alle;
-        for (const Einstellungszeile& zeile : einstellungstabelle) {
-            alle.push_back(ZEILENTEXT(zeile));
-        }
-        return alle;
-    }
+    std::vector<std::string> texte() const { return ZEILENTEXTE(einstellungstabelle); }
 };
 
 } // namespace quittika
