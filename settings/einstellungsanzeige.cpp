@@ -1,6 +1,9 @@
 #include "settings/einstellungsanzeige.hpp"
 
+#include "platform/text.hpp"
 #include "settings/schriftgroessen.hpp"
+
+#include <string>
 
 namespace quittika {
 
@@ -36,6 +39,18 @@ void FREIGABEN_ZEIGEN(frm_einstellungen& e) {
 
 void FETTSCHRIFT_ZEIGEN(frm_einstellungen& e) {
     e.Text_firma_1.FontBold = e.Check_FETT_firma1.ticked();
+}
+
+void WAEHRUNG_IN_PREISKOEPFE(frm_einstellungen& e, const PROGRAMMEINSTELLUNG& werte) {
+    for (Label* kopf : {&e.Label_preis, &e.Label_gesamtp}) {
+        for (const std::string anfang : {"Einzelpreis[", "Gesamtpreis["}) {
+            const std::string& text = kopf->Caption();
+            // What stands behind the currency is the user's own wording.
+            if (beginnt_mit(text, anfang) && text.find(']') == text.size() - 1) {
+                kopf->Caption = anfang + werte.WAEHRUNG + "]";
+            }
+        }
+    }
 }
 
 void DRUCKERSCHRIFT_ZEIGEN(frm_einstellungen& e, const PROGRAMMEINSTELLUNG& werte) {

@@ -23,6 +23,9 @@ void FREIGABEN_ZEIGEN(frm_einstellungen& einstellungen);
 /// The first company line as bold as it is printed.
 void FETTSCHRIFT_ZEIGEN(frm_einstellungen& einstellungen);
 
+/// Price headings of the program's own form name the currency, whatever they named before.
+void WAEHRUNG_IN_PREISKOEPFE(frm_einstellungen& einstellungen, const PROGRAMMEINSTELLUNG& werte);
+
 /// The name of the print font.
 void DRUCKERSCHRIFT_ZEIGEN(frm_einstellungen& einstellungen, const PROGRAMMEINSTELLUNG& werte);
 

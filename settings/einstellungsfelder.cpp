@@ -114,8 +114,8 @@ void Einstellungsfelder::farben_verdrahten() {
         frm_einstellungen::Farbzeile& zeile = form_.*farbe.zeile;
         zeile.Command_FARBE.Click = [this, &zeile] { FARBE_WAEHLEN(zeile); };
         for (Slider* regler : {&zeile.R, &zeile.G, &zeile.B}) {
-            regler->Click = vom_benutzer([&zeile] {
-                zeile.Muster.BackColor = color::rgb(zeile.R.Value(), zeile.G.Value(), zeile.B.Value());
+            regler->Click = vom_benutzer([this, &zeile] {
+                FARBE_SETZEN(zeile, color::rgb(zeile.R.Value(), zeile.G.Value(), zeile.B.Value()));
             });
         }
     }
@@ -139,7 +139,12 @@ void Einstellungsfelder::schrift_verdrahten() {
 /// The sliders do not follow: what is printed is the sample.
 void Einstellungsfelder::FARBE_WAEHLEN(frm_einstellungen::Farbzeile& zeile) {
     waehlen([&] { return dialogs_.choose_color(zeile.Muster.BackColor()); },
-            [&](Color farbe) { zeile.Muster.BackColor = farbe; });
+            [&](Color farbe) { FARBE_SETZEN(zeile, farbe); });
+}
+
+void Einstellungsfelder::FARBE_SETZEN(frm_einstellungen::Farbzeile& zeile, Color farbe) {
+    zeile.Muster.BackColor = farbe;
+    DRUCKFARBEN_UEBERNEHMEN(werte_, form_);
 }
 
 void Einstellungsfelder::Command_DRUCKERSCHRIFT_Click() {

@@ -31,6 +31,7 @@ private:
     void schrift_verdrahten();
 
     void FARBE_WAEHLEN(frm_einstellungen::Farbzeile& zeile);
+    void FARBE_SETZEN(frm_einstellungen::Farbzeile& zeile, Color farbe);
     void Command_DRUCKERSCHRIFT_Click();
     void DRUCKERSCHRIFT_SETZEN(const std::string& name);
 

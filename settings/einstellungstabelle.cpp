@@ -111,7 +111,7 @@ private:
     void druckfarben() {
         fest("PRINTCOLORS", "PRINTCOLORS");
         for (const Druckfarbe& farbe : kDruckfarben) {
-            neu(farbe.schluessel, Zeilenform::Long, &(w_.*farbe.wert));
+            neu(farbe.schluessel, Zeilenform::Long, &(w_.*farbe.wert)).im_fenster = true;
             frm_einstellungen::Farbzeile& zeile = e_.*farbe.zeile;
             for (RangeControl* regler : {&zeile.R, &zeile.G, &zeile.B}) {
                 neu(Zeilenform::Int, *regler).aus_prog_cfg = &zeile == &e_.Werbespruch;

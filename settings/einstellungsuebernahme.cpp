@@ -1,12 +1,14 @@
 #include "settings/einstellungsuebernahme.hpp"
 
 #include "settings/druckfarben.hpp"
+#include "settings/einstellungsanzeige.hpp"
 
 namespace quittika {
 
 void Einstellungsuebernahme::ALLEUEBERNEHMEN(bool schliessen) {
-    vorgaben_.SpaltenBenennen();
     werte_.WAEHRUNG = einstellungen_.Text_Waehrung.Text();
+    WAEHRUNG_IN_PREISKOEPFE(einstellungen_, werte_);
+    vorgaben_.SpaltenBenennen();
     logo_.BilderNehmen();
     TexteUebernehmen();
     RechnungsartUebernehmen();

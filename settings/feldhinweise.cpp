@@ -49,11 +49,12 @@ bool hat_form(const std::string& nummer) {
                        [](char c) { return ist_ziffer(c) || ist_buchstabe(c); });
 }
 
+/// A line with a number behind one of the usual words.
 bool nennt_steuernummer(const std::string& zeile) {
-    const std::string text = grossbuchstaben(zeile);
-    const bool genannt = text.find("STEUER") != std::string::npos || text.find("UST") != std::string::npos ||
-                         text.find("ST.") != std::string::npos || text.find("STNR") != std::string::npos;
-    return genannt && std::any_of(text.begin(), text.end(), ist_ziffer);
+    const std::string text = " " + grossbuchstaben(zeile);
+    const auto nennt = [&text](const char* wort) { return text.find(wort) != std::string::npos; };
+    return (nennt(" STEUER") || nennt(" UST") || nennt(" ST.") || nennt(" STNR")) &&
+           std::any_of(text.begin(), text.end(), ist_ziffer);
 }
 
 void zeigen(Label& hinweis, const std::string& text) {

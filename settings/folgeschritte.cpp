@@ -3,27 +3,13 @@
 #include "designer/designdatei.hpp"
 #include "invoice/rechnung.hpp"
 #include "platform/laufzeitfehler.hpp"
-#include "platform/text.hpp"
 #include "settings/druckfarben.hpp"
-#include "settings/einstellungsanzeige.hpp"
 
 #include <cstddef>
 #include <string>
 #include <utility>
 
 namespace quittika {
-
-void Folgeschritte::WAEHRUNG_IN_PREISKOEPFE() {
-    for (Label* kopf : {&einstellungen_.Label_preis, &einstellungen_.Label_gesamtp}) {
-        for (const std::string anfang : {"Einzelpreis[", "Gesamtpreis["}) {
-            const std::string& text = kopf->Caption();
-            // What stands behind the currency is the user's own wording.
-            if (beginnt_mit(text, anfang) && text.find(']') == text.size() - 1) {
-                kopf->Caption = anfang + werte_.WAEHRUNG + "]";
-            }
-        }
-    }
-}
 
 void Folgeschritte::ausfuehren() {
     Bildpfade();

@@ -15,11 +15,12 @@ Ruecknahme::Ruecknahme(frm_einstellungen& e, PROGRAMMEINSTELLUNG& werte) {
     }
     for (const Druckfarbe& farbe : kDruckfarben) {
         merken((e.*farbe.zeile).Muster.BackColor);
+        merken(werte.*farbe.wert);
     }
     for (const Schriftgroesse& groesse : kSchriftgroessen) {
-        schritte_.emplace_back([&ziel = werte.*groesse.wert, wert = werte.*groesse.wert] { ziel = wert; });
+        merken(werte.*groesse.wert);
     }
-    schritte_.emplace_back([&werte, nummer = werte.LAYOUTNUMMER] { werte.LAYOUTNUMMER = nummer; });
+    merken(werte.LAYOUTNUMMER);
     schrift_merken(werte);
 }
 
@@ -31,6 +32,10 @@ void Ruecknahme::zuruecknehmen() const {
 
 template <class T> void Ruecknahme::merken(Property<T>& property) {
     schritte_.emplace_back([&property, wert = property()] { property = wert; });
+}
+
+void Ruecknahme::merken(int& zahl) {
+    schritte_.emplace_back([&zahl, wert = zahl] { zahl = wert; });
 }
 
 void Ruecknahme::merken(Control& feld) {

@@ -19,6 +19,7 @@ public:
 
 private:
     template <class T> void merken(Property<T>& wert);
+    void merken(int& zahl);
     void merken(Control& feld);
     void schrift_merken(PROGRAMMEINSTELLUNG& werte);
 

@@ -1,6 +1,8 @@
 #pragma once
 
-#include "settings/einstellungsleser.hpp"
+#include "settings/einstellungsfelder.hpp"
+#include "settings/einstellungsfenster.hpp"
+#include "settings/einstellungsstart.hpp"
 #include "tests/pruefstand.hpp"
 
 namespace quittika {
@@ -16,6 +18,19 @@ struct Einstellungsstand : Pruefstand {
     Einstellungsleser einstellungsleser{einstellungstabelle, verzeichnis, folgeschritte, uebernahme,
                                         einstellungsschreiber};
 
+    Einstellungsstart start{einstellungen, programm, werte, verzeichnis, einstellungsleser};
+    Einstellungsfelder felder{einstellungen, werte, zustand, nummern, dialoge};
+    Einstellungsfenster fenster{einstellungen, werte, zustand, uebernahme, einstellungsschreiber,
+                                nummern,       logo,  summen,  dialoge};
+
+    /// Reads the settings as the program does when it starts.
+    void starten() {
+        const Rechnungszustand::Sperre still(zustand);
+        start.Laden();
+        logo.LayoutZeigen();
+        vorgaben.uebernehmen();
+        nummern.RNStartLesen();
+    }
     /// What the owners of the lines hold.
     std::vector<std::string> texte() const { return ZEILENTEXTE(einstellungstabelle); }
 };
