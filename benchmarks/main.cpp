@@ -29,6 +29,11 @@ const std::vector<Vergleich> kVergleiche{
     {"preview of 50 pages to its first page", "vorschau/50", "", 100},
     {"turning to another of 50 pages", "blaettern", "", 50},
     {"invoice of 60 rows to PDF, cold : as many texts", "rechnung_als_pdf", "texte_als_pdf", 2},
+    {"opening the invoice settings for the first time", "einstellungen_oeffnen", "", 150},
+    {"the same : an empty window", "einstellungen_oeffnen", "leerer_dialog", 200},
+    {"opening them again", "einstellungen_wieder", "", 30},
+    {"the same : an empty window", "einstellungen_wieder", "leerer_dialog", 60},
+    {"a letter typed into them", "einstellungen_taste", "", 16},
     {"start to main window : an empty window", "start", "start_grundlage", 3},
 };
 
