@@ -20,9 +20,12 @@
 #include "invoice/erste_rechnung.hpp"
 #include "invoice/file/textexport.hpp"
 #include "print/druckauftrag.hpp"
+#include "print/einstellungsmuster.hpp"
 #include "print/leistungsspalte.hpp"
 #include "print/lieferscheinoptionen.hpp"
 #include "print/seitenumbruch.hpp"
+#include "settings/bilderwahl.hpp"
+#include "settings/einstellungsaustausch.hpp"
 #include "settings/einstellungsfelder.hpp"
 #include "settings/einstellungsfenster.hpp"
 #include "settings/logo.hpp"
@@ -110,6 +113,13 @@ struct Programm::Teile {
                                 verzeichnis, platform.pictures, zuletzt,  stil};
     Einstellungsuebernahme uebernahme{form1,    einstellungen, programm, werte,
                                       vorgaben, logo,          stil,     einstellungsschreiber};
+    Bilderwahl bilderwahl{einstellungen, verzeichnis, platform.dialogs, platform.pictures};
+    Einstellungsmuster einstellungsmuster{einstellungen, [this] {
+                                              return std::make_unique<Musterbeleg>(
+                                                  form1, einstellungen, programm, werte, verzeichnis,
+                                                  platform.dialogs, platform.clock, platform.printing,
+                                                  platform.pictures);
+                                          }};
     Einstellungsleser einstellungsleser{einstellungstabelle, verzeichnis, folgeschritte, uebernahme,
                                         einstellungsschreiber};
     Einstellungsstart einstellungsstart{einstellungen, programm, werte, verzeichnis, einstellungsleser};
@@ -129,6 +139,9 @@ struct Programm::Teile {
     Ladefolge ladefolge{form1, zustand,        platform.desktop, verzeichnis, einstellungsstart,
                         logo,  erste_rechnung, raster,           summen};
     Hauptfenster hauptfenster{form1, zustand, ladefolge, kopf, dateibefehle, verzeichnis, platform.desktop};
+    Einstellungsaustausch einstellungsaustausch{
+        form1,       einstellungen,    einstellungsschreiber,
+        verzeichnis, platform.dialogs, [this] { hauptfenster.m_beenden_Click(); }};
     MenueDatei menue_datei{form1,        ereignisse,   dateibefehle, textexport,
                            druckauftrag, hauptfenster, kopf,         raster};
     Ausgabe ausgabe{form1, ereignisse, summen, vorschaufenster, bildausgabe, pdfausgabe};
