@@ -117,8 +117,8 @@ struct Programm::Teile {
     Einstellungsmuster einstellungsmuster{einstellungen, [this] {
                                               return std::make_unique<Musterbeleg>(
                                                   form1, einstellungen, programm, werte, verzeichnis,
-                                                  platform.dialogs, platform.clock, platform.printing,
-                                                  platform.pictures);
+                                                  platform.dialogs, platform.clock,
+                                                  platform.printing.metrics(), platform.pictures);
                                           }};
     Einstellungsleser einstellungsleser{einstellungstabelle, verzeichnis, folgeschritte, uebernahme,
                                         einstellungsschreiber};

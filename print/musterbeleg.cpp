@@ -34,12 +34,12 @@ void anfuegen(std::string& text, const std::string& satz) {
 Musterbeleg::Musterbeleg(const Form1& form1, const frm_einstellungen& einstellungen,
                          const frm_Programm& programm, const PROGRAMMEINSTELLUNG& werte,
                          const Programmverzeichnis& verzeichnis, Dialogs& dialogs, const Clock& uhr,
-                         Printing& printing, Pictures& bilder)
+                         const FontMetrics& metrics, Pictures& bilder)
     : form1_(form1),
       einstellungen_(einstellungen),
       werte_(werte),
       verzeichnis_(verzeichnis),
-      printing_(printing),
+      metrics_(metrics),
       bilder_(bilder),
       eingabezeile_(muster_.form1, dialogs),
       rechnung_(muster_.form1, muster_.zustand, eingabezeile_, uhr),
@@ -120,7 +120,7 @@ std::string Musterbeleg::ZEICHNEN(PictureControl& bild, int layout) {
     const auto blatt = std::make_shared<RecordedJob>(PrintDocument{});
     RecordingDevice geraet(blatt, bilder_);
     const Zeichenbefund befund =
-        AUSGEBEN(geraet, blatt->document, printing_.metrics(), kAusweg, [&](PrintSurface& surface) {
+        AUSGEBEN(geraet, blatt->document, metrics_, kAusweg, [&](PrintSurface& surface) {
             Blatt seite{surface, JUSTIERUNG_LESEN(muster_.einstellungen)};
             jetzt.SEITE_DRUCKEN(seite, 1);
         });

@@ -23,7 +23,7 @@ public:
     /// `dialogs` is never asked.
     Musterbeleg(const Form1& form1, const frm_einstellungen& einstellungen, const frm_Programm& programm,
                 const PROGRAMMEINSTELLUNG& werte, const Programmverzeichnis& verzeichnis, Dialogs& dialogs,
-                const Clock& uhr, Printing& printing, Pictures& bilder);
+                const Clock& uhr, const FontMetrics& metrics, Pictures& bilder);
 
     /// Takes what the windows show at present. An invoice without rows gives way to the sample invoice of the
     /// program folder, that of a new customer.
@@ -42,7 +42,7 @@ private:
     const frm_einstellungen& einstellungen_;
     const PROGRAMMEINSTELLUNG& werte_;
     const Programmverzeichnis& verzeichnis_;
-    Printing& printing_;
+    const FontMetrics& metrics_;
     Pictures& bilder_;
     std::string beschreibung_;
 
