@@ -2,7 +2,6 @@
 
 #include "platform/dialogs.hpp"
 #include "platform/shell.hpp"
-#include "settings/einstellungsuebernahme.hpp"
 
 #include <functional>
 
@@ -11,16 +10,17 @@ namespace quittika {
 /// The way from the settings dialog into the designer.
 class Designeraufruf {
 public:
-    Designeraufruf(Einstellungsuebernahme& uebernahme, Dialogs& dialogs, const Clock& uhr,
+    /// `uebernehmen` takes over all settings and leaves the dialog open.
+    Designeraufruf(Dialogs& dialogs, const Clock& uhr, std::function<void()> uebernehmen,
                    std::function<void()> designer_oeffnen);
 
     /// Takes over all settings and opens the designer; on the 15th of a month a notice comes first.
     void CMD_DESIGNER_Click();
 
 private:
-    Einstellungsuebernahme& uebernahme_;
     Dialogs& dialogs_;
     const Clock& uhr_;
+    std::function<void()> uebernehmen_;
     std::function<void()> designer_oeffnen_;
 };
 

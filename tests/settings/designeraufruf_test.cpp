@@ -12,7 +12,8 @@ TEST(Designeraufruf, UebernimmtVorherAllesUndMeldetSichAmFuenfzehnten) {
         Einstellungsstand p;
         p.uhr.zeit.tag = tag;
         int geoeffnet = 0;
-        Designeraufruf aufruf(p.uebernahme, p.dialoge, p.uhr, [&] {
+        const auto uebernehmen = [&p] { p.uebernahme.ALLEUEBERNEHMEN(false); };
+        Designeraufruf aufruf(p.dialoge, p.uhr, uebernehmen, [&] {
             ++geoeffnet;
             EXPECT_EQ(p.werte.WAEHRUNG, "CHF") << "taken over before";
         });
