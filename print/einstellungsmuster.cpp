@@ -11,6 +11,7 @@ namespace {
 constexpr int kPause = 200;    ///< ms without a change until the page is drawn
 constexpr int kNaechstes = 10; ///< ms from one small page to the next: keys and clicks come between
 constexpr Paper kA4;
+constexpr int kRand = twips(10); ///< of the ground around the page
 
 std::array<Image*, 8> layoutbilder(frm_einstellungen& e) {
     return {&e.Image1_Layout, &e.Image2_Layout, &e.Image3_Layout, &e.Image4_Layout,
@@ -106,11 +107,13 @@ void Einstellungsmuster::LAYOUTBILD_ZEICHNEN() {
     }
 }
 
-/// The page fills its frame as far as its proportions allow.
+/// The page fills its frame as far as its proportions allow, with a margin.
 void Einstellungsmuster::anordnen() {
     const Arbeit eigene(bei_der_arbeit_);
     const Frame& raum = einstellungen_.Frame_Muster;
-    const double mass = std::min(raum.Width() / kA4.width, raum.Height() / kA4.height);
+    const int breite = std::max(0, raum.Width() - 2 * kRand);
+    const int hoehe = std::max(0, raum.Height() - 2 * kRand);
+    const double mass = std::min(breite / kA4.width, hoehe / kA4.height);
     PictureBox& bild = einstellungen_.Picture_Muster;
     bild.Width = static_cast<int>(mass * kA4.width);
     bild.Height = static_cast<int>(mass * kA4.height);
