@@ -7,6 +7,7 @@
 namespace quittika {
 
 /// Wires the menu "Einstellungen" of the main window, and what else opens the settings.
-void MENUE_EINSTELLUNGEN(Form1& form1, const Ereignisse& ereignisse, Einstellungsfenster& fenster);
+void MENUE_EINSTELLUNGEN(Form1& form1, frm_einstellungen& einstellungen, const Ereignisse& ereignisse,
+                         Einstellungsfenster& fenster);
 
 } // namespace quittika

@@ -43,7 +43,7 @@ struct Programm::Teile {
         platform.desktop.adopt(form_start);
         MENUE_LISTEN(form1, ereignisse, platform.dialogs);
         MENUE_DRUCKEN(form1, etiketten);
-        MENUE_EINSTELLUNGEN(form1, ereignisse, einstellungsfenster);
+        MENUE_EINSTELLUNGEN(form1, einstellungen, ereignisse, einstellungsfenster);
         MENUE_EXTRAS(form1, eingabezeile);
     }
 
@@ -124,9 +124,9 @@ struct Programm::Teile {
                                         einstellungsschreiber};
     Einstellungsstart einstellungsstart{einstellungen, programm, werte, verzeichnis, einstellungsleser};
     Einstellungsfelder einstellungsfelder{einstellungen, werte, zustand, nummern, platform.dialogs};
-    Einstellungsfenster einstellungsfenster{einstellungen,         werte,   zustand, uebernahme,
-                                            einstellungsschreiber, nummern, logo,    summen,
-                                            platform.dialogs};
+    Einstellungsfenster einstellungsfenster{
+        einstellungen, werte, zustand,    uebernahme, einstellungsschreiber,
+        nummern,       logo,  bilderwahl, summen,     platform.dialogs};
     ErsteRechnung erste_rechnung{form1, einstellungen, vorgaben, rechnung, nummern, platform.clock};
 
     // The main window: its areas, then the window, then its menus.

@@ -1,7 +1,6 @@
 #include "print/einstellungsmuster.hpp"
 
 #include <algorithm>
-#include <array>
 #include <utility>
 
 namespace quittika {
@@ -12,11 +11,6 @@ constexpr int kPause = 200;    ///< ms without a change until the page is drawn
 constexpr int kNaechstes = 10; ///< ms from one small page to the next: keys and clicks come between
 constexpr Paper kA4;
 constexpr int kRand = twips(10); ///< of the ground around the page
-
-std::array<Image*, 8> layoutbilder(frm_einstellungen& e) {
-    return {&e.Image1_Layout, &e.Image2_Layout, &e.Image3_Layout, &e.Image4_Layout,
-            &e.Image5_Layout, &e.Image6_Layout, &e.Image7_Layout, &e.Image8_Layout};
-}
 
 /// Sets a flag for its lifetime.
 class Arbeit {
@@ -86,7 +80,7 @@ void Einstellungsmuster::Timer_Muster_Timer() {
     } else if (layouts_in_sicht()) {
         LAYOUTBILD_ZEICHNEN();
     }
-    if (layouts_in_sicht() && layoutbilder_ < layoutbilder(einstellungen_).size()) {
+    if (layouts_in_sicht() && layoutbilder_ < einstellungen_.Layoutbilder().size()) {
         warten(kNaechstes);
     }
 }
@@ -101,8 +95,8 @@ void Einstellungsmuster::MUSTER_ZEICHNEN() {
 }
 
 void Einstellungsmuster::LAYOUTBILD_ZEICHNEN() {
-    if (layoutbilder_ < layoutbilder(einstellungen_).size()) {
-        Image& bild = *layoutbilder(einstellungen_).at(layoutbilder_);
+    if (layoutbilder_ < einstellungen_.Layoutbilder().size()) {
+        Image& bild = *einstellungen_.Layoutbilder().at(layoutbilder_);
         beleg_->ZEICHNEN(bild, static_cast<int>(++layoutbilder_));
     }
 }

@@ -10,7 +10,7 @@ namespace quittika {
 Einstellungsfenster::Einstellungsfenster(frm_einstellungen& einstellungen, PROGRAMMEINSTELLUNG& werte,
                                          Rechnungszustand& zustand, Einstellungsuebernahme& uebernahme,
                                          Einstellungsschreiber& schreiber, Rechnungsnummern& nummern,
-                                         Logo& logo, Summen& summen, Dialogs& dialogs)
+                                         Logo& logo, Bilderwahl& bilder, Summen& summen, Dialogs& dialogs)
     : form_(einstellungen),
       werte_(werte),
       zustand_(zustand),
@@ -18,13 +18,14 @@ Einstellungsfenster::Einstellungsfenster(frm_einstellungen& einstellungen, PROGR
       schreiber_(schreiber),
       nummern_(nummern),
       logo_(logo),
+      bilder_(bilder),
       summen_(summen),
       dialogs_(dialogs) {
     form_.Load = [this] {
         form_.Label_Lieferschein.Caption = "LIEFERSCHEIN ZU: ";
         form_.Label_Kopie.Caption = "         KOPIE   ";
     };
-    form_.Command_uebernehmen2.Click = [this] { UEBERNEHMEN(true); };
+    form_.Command_uebernehmen2.Click = [this] { Command_uebernehmen2_Click(); };
     form_.Command_nichtuebernehmen.Click = [this] { Command_nichtuebernehmen_Click(); };
     form_.QueryUnload = [this](bool& abbrechen) {
         abbrechen = true; // the window only hides: its fields are needed until the program ends
@@ -58,6 +59,11 @@ void Einstellungsfenster::UEBERNEHMEN(bool schliessen) {
     }
 }
 
+void Einstellungsfenster::Command_uebernehmen2_Click() {
+    UEBERNEHMEN(true);
+    bilder_.DAUERHAFT_ANBIETEN();
+}
+
 void Einstellungsfenster::Command_nichtuebernehmen_Click() {
     if (dialogs_.message({"Sind Sie sicher, dass Sie keine Änderungen speichern möchten?", kProgrammname,
                           Buttons::YesNo, Symbol::Question, Answer::No}) != Answer::Yes) {
@@ -66,6 +72,7 @@ void Einstellungsfenster::Command_nichtuebernehmen_Click() {
     if (in_kraft_) {
         const Rechnungszustand::Sperre still(zustand_);
         in_kraft_->zuruecknehmen();
+        bilder_.verwerfen();
         in_kraft_.reset();
         schreiber_.VORLAEUFIG_ENDET();
         Anzeigen();
