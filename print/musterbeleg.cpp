@@ -29,6 +29,17 @@ void anfuegen(std::string& text, const std::string& satz) {
     text += (text.empty() || satz.empty() ? "" : " ") + satz;
 }
 
+/// Says that the picture in force is another than the field names. A design file that is missing leaves no
+/// path.
+std::string bildhinweis(const char* was, const TextBox& pfad, const PictureBox& bild) {
+    const std::string& text = pfad.Text();
+    const bool keiner = text.empty() || text == "ERROR";
+    return keiner || systempfad(text) == bild.Picture()
+               ? std::string()
+               : std::string("Als ") + was + " gilt noch das bisherige Bild: >>" + text +
+                     "<< ist nicht geladen.";
+}
+
 } // namespace
 
 Musterbeleg::Musterbeleg(const Form1& form1, const frm_einstellungen& einstellungen,
@@ -94,6 +105,13 @@ bool Musterbeleg::Beispiel_Lesen() {
 Druckvorlage Musterbeleg::vorlage(std::string& hinweis) const {
     const auto& [werte, form1, einstellungen, zustand, stand] = muster_;
     if (LAYOUT_GEWAEHLT(einstellungen) != kEigenesLayout) {
+        if (!einstellungen.Check_keinlogo.ticked()) {
+            anfuegen(hinweis, bildhinweis("Logo", einstellungen.Text_logopath, einstellungen.Picture1));
+        }
+        if (einstellungen.Check_mit_Wasserz.ticked()) {
+            anfuegen(hinweis, bildhinweis("Wasserzeichen", einstellungen.Text_bildpath,
+                                          einstellungen.Picture_wasserz));
+        }
         return rechnungsdruck_.vorbereiten();
     }
     Druckoptionen optionen;

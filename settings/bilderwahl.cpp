@@ -33,6 +33,8 @@ Bilderwahl::Bilderwahl(frm_einstellungen& einstellungen, const Programmverzeichn
     : einstellungen_(einstellungen), verzeichnis_(verzeichnis), dialogs_(dialogs), bilder_(bilder) {
     einstellungen.Command_durchsuchen.Click = [this] { Command_durchsuchen_Click(); };
     einstellungen.Command_Wasserz_Bild_suchen.Click = [this] { Wasserz_Bild_suchen(true); };
+    einstellungen.Text_logopath.LostFocus = [this] { getippten_pfad_nehmen(logo()); };
+    einstellungen.Text_bildpath.LostFocus = [this] { getippten_pfad_nehmen(wasserzeichen()); };
 }
 
 Bilderwahl::Bildplatz Bilderwahl::logo() {
@@ -56,6 +58,19 @@ void Bilderwahl::zeigen(const Bildplatz& platz, const std::string& pfad) {
     bilder_.load(platz.druckbild, systempfad(pfad));
     platz.ansicht.show_picture(platz.druckbild.Picture());
     platz.pfad.Text = pfad;
+}
+
+void Bilderwahl::getippten_pfad_nehmen(const Bildplatz& platz) {
+    const std::string pfad = platz.pfad.Text();
+    if (pfad.empty() || systempfad(pfad) == platz.druckbild.Picture()) {
+        return;
+    }
+    try {
+        zeigen(platz, pfad);
+        platz.gewaehlt = true;
+    } catch (const Laufzeitfehler&) {
+        // Fields refuse nothing; the page beside them tells that another picture prints.
+    }
 }
 
 void Bilderwahl::Command_durchsuchen_Click() {

@@ -33,6 +33,7 @@ private:
     struct Bildplatz;
     std::string dateiwahl(const char* titel);
     void zeigen(const Bildplatz& platz, const std::string& pfad);
+    void getippten_pfad_nehmen(const Bildplatz& platz);
     bool nur_fuer_diesen_lauf(const Bildplatz& platz) const;
     void speichern(const Bildplatz& platz);
     Bildplatz logo();
