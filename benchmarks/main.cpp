@@ -22,7 +22,6 @@ const std::vector<Vergleich> kVergleiche{
     {"writing and reading the settings : the same bytes by lines", "einstellungen", "einstellungen_grundlage",
      3},
     {"the page beside the settings, with 1,000 rows", "muster/1000", "", 16},
-    {"a key in a field of the settings, window included", "taste", "", 16},
     {"one more row on a list of 1,000, window included", "eine_zeile_mehr/1000", "", 16},
     {"one more row on a list of 5,000, window included", "eine_zeile_mehr/5000", "", 16},
     {"100 pages of PDF : the same calls on the PDF writer", "pdf_seiten", "pdf_seiten_grundlage", 1.3},

@@ -1,13 +1,7 @@
-#include "app/programm.hpp"
-#include "invoice/form1.hpp"
 #include "platform/qt/print_page.hpp"
-#include "platform/qt/qt_platform.hpp"
 #include "print/musterbeleg.hpp"
 #include "tests/einstellungsstand.hpp"
 
-#include <QApplication>
-#include <QKeyEvent>
-#include <QLineEdit>
 #include <benchmark/benchmark.h>
 
 namespace quittika {
@@ -34,33 +28,6 @@ void muster(benchmark::State& state, int zeilen) {
     }
 }
 BENCHMARK_CAPTURE(muster, 1000, 1000)->Unit(benchmark::kMillisecond);
-
-/// A key in a field of the settings, until the window has drawn it.
-void taste(benchmark::State& state) {
-    const Probenordner ordner;
-    QtPlatform plattform;
-    Programm programm(plattform.platform(), ordner.ordner());
-    programm.hauptfenster_zeigen();
-    dynamic_cast<Form1&>(programm.hauptfenster()).m_Rechnungsdaten.Click();
-    QApplication::processEvents();
-    QLineEdit* feld = nullptr;
-    for (const QWidget* fenster : QApplication::topLevelWidgets()) {
-        if (fenster->objectName() == QLatin1String("frm_einstellungen")) {
-            feld = fenster->findChild<QLineEdit*>(QStringLiteral("Text_firma_1"));
-        }
-    }
-    if (feld == nullptr) {
-        state.SkipWithError("no settings");
-        return;
-    }
-    for (auto _ : state) {
-        feld->clear();
-        QKeyEvent druck(QEvent::KeyPress, Qt::Key_A, Qt::NoModifier, QStringLiteral("a"));
-        QApplication::sendEvent(feld, &druck);
-        QApplication::processEvents();
-    }
-}
-BENCHMARK(taste)->Unit(benchmark::kMillisecond);
 
 } // namespace
 } // namespace quittika

@@ -20,8 +20,9 @@ struct Einstellungsstand : Pruefstand {
 
     Einstellungsstart start{einstellungen, programm, werte, verzeichnis, einstellungsleser};
     Einstellungsfelder felder{einstellungen, werte, zustand, nummern, dialoge};
-    Einstellungsfenster fenster{einstellungen, werte, zustand, uebernahme, einstellungsschreiber,
-                                nummern,       logo,  summen,  dialoge};
+    Bilderwahl bilderwahl{einstellungen, verzeichnis, dialoge, bilder};
+    Einstellungsfenster fenster{einstellungen, werte, zustand,    uebernahme, einstellungsschreiber,
+                                nummern,       logo,  bilderwahl, summen,     dialoge};
 
     /// Reads the settings as the program does when it starts.
     void starten() {
