@@ -1,7 +1,5 @@
 #include "app/menue_drucken.hpp"
 
-#include "app/ereignisse.hpp"
-
 namespace quittika {
 
 void MENUE_DRUCKEN(Form1& form1, Etiketten& etiketten) {
@@ -12,7 +10,6 @@ void MENUE_DRUCKEN(Form1& form1, Etiketten& etiketten) {
         etiketten.m_druckenpaketscheinHVersand_Click();
     };
     form1.m_druckenpaeckchenschein.Click = [&etiketten] { etiketten.m_druckenpaeckchenschein_Click(); };
-    SPERREN({&form1.m_druckjustierung});
 }
 
 } // namespace quittika

@@ -20,9 +20,14 @@
 #include "invoice/erste_rechnung.hpp"
 #include "invoice/file/textexport.hpp"
 #include "print/druckauftrag.hpp"
+#include "print/einstellungsmuster.hpp"
 #include "print/leistungsspalte.hpp"
 #include "print/lieferscheinoptionen.hpp"
 #include "print/seitenumbruch.hpp"
+#include "settings/bilderwahl.hpp"
+#include "settings/einstellungsaustausch.hpp"
+#include "settings/einstellungsfelder.hpp"
+#include "settings/einstellungsfenster.hpp"
 #include "settings/logo.hpp"
 
 #include <utility>
@@ -38,7 +43,7 @@ struct Programm::Teile {
         platform.desktop.adopt(form_start);
         MENUE_LISTEN(form1, ereignisse, platform.dialogs);
         MENUE_DRUCKEN(form1, etiketten);
-        MENUE_EINSTELLUNGEN(form1);
+        MENUE_EINSTELLUNGEN(form1, einstellungen, ereignisse, einstellungsfenster);
         MENUE_EXTRAS(form1, eingabezeile);
     }
 
@@ -108,9 +113,20 @@ struct Programm::Teile {
                                 verzeichnis, platform.pictures, zuletzt,  stil};
     Einstellungsuebernahme uebernahme{form1,    einstellungen, programm, werte,
                                       vorgaben, logo,          stil,     einstellungsschreiber};
+    Bilderwahl bilderwahl{einstellungen, verzeichnis, platform.dialogs, platform.pictures};
+    Einstellungsmuster einstellungsmuster{einstellungen, [this] {
+                                              return std::make_unique<Musterbeleg>(
+                                                  form1, einstellungen, programm, werte, verzeichnis,
+                                                  platform.dialogs, platform.clock,
+                                                  platform.printing.metrics(), platform.pictures);
+                                          }};
     Einstellungsleser einstellungsleser{einstellungstabelle, verzeichnis, folgeschritte, uebernahme,
                                         einstellungsschreiber};
     Einstellungsstart einstellungsstart{einstellungen, programm, werte, verzeichnis, einstellungsleser};
+    Einstellungsfelder einstellungsfelder{einstellungen, werte, zustand, nummern, platform.dialogs};
+    Einstellungsfenster einstellungsfenster{
+        einstellungen, werte, zustand,    uebernahme, einstellungsschreiber,
+        nummern,       logo,  bilderwahl, summen,     platform.dialogs};
     ErsteRechnung erste_rechnung{form1, einstellungen, vorgaben, rechnung, nummern, platform.clock};
 
     // The main window: its areas, then the window, then its menus.
@@ -123,6 +139,9 @@ struct Programm::Teile {
     Ladefolge ladefolge{form1, zustand,        platform.desktop, verzeichnis, einstellungsstart,
                         logo,  erste_rechnung, raster,           summen};
     Hauptfenster hauptfenster{form1, zustand, ladefolge, kopf, dateibefehle, verzeichnis, platform.desktop};
+    Einstellungsaustausch einstellungsaustausch{
+        form1,       einstellungen,    einstellungsschreiber,
+        verzeichnis, platform.dialogs, [this] { hauptfenster.m_beenden_Click(); }};
     MenueDatei menue_datei{form1,        ereignisse,   dateibefehle, textexport,
                            druckauftrag, hauptfenster, kopf,         raster};
     Ausgabe ausgabe{form1, ereignisse, summen, vorschaufenster, bildausgabe, pdfausgabe};

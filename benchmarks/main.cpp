@@ -21,6 +21,7 @@ const std::vector<Vergleich> kVergleiche{
     {"saving and opening 1,000 rows : the same bytes by lines", "datei", "datei_grundlage", 4},
     {"writing and reading the settings : the same bytes by lines", "einstellungen", "einstellungen_grundlage",
      3},
+    {"the page beside the settings, with 1,000 rows", "muster/1000", "", 16},
     {"one more row on a list of 1,000, window included", "eine_zeile_mehr/1000", "", 16},
     {"one more row on a list of 5,000, window included", "eine_zeile_mehr/5000", "", 16},
     {"100 pages of PDF : the same calls on the PDF writer", "pdf_seiten", "pdf_seiten_grundlage", 1.3},
@@ -29,6 +30,11 @@ const std::vector<Vergleich> kVergleiche{
     {"preview of 50 pages to its first page", "vorschau/50", "", 100},
     {"turning to another of 50 pages", "blaettern", "", 50},
     {"invoice of 60 rows to PDF, cold : as many texts", "rechnung_als_pdf", "texte_als_pdf", 2},
+    {"opening the invoice settings for the first time", "einstellungen_oeffnen", "", 150},
+    {"the same : an empty window", "einstellungen_oeffnen", "leerer_dialog", 200},
+    {"opening them again", "einstellungen_wieder", "", 30},
+    {"the same : an empty window", "einstellungen_wieder", "leerer_dialog", 60},
+    {"a letter typed into them", "einstellungen_taste", "", 16},
     {"start to main window : an empty window", "start", "start_grundlage", 3},
 };
 

@@ -14,6 +14,15 @@ namespace quittika {
 /// where the file cannot be read. Tells the user nothing.
 std::string DESIGN_WERT(const Programmverzeichnis& verzeichnis, std::string_view schluessel);
 
+/// Gives one key, in capitals, a value, all else in the file unchanged, byte for byte; where there is no file
+/// it becomes the standard design with that value. Throws the error of the file, and 52 for a value that the
+/// file cannot hold; nothing is written then.
+void DESIGN_WERT_SETZEN(const Programmverzeichnis& verzeichnis, std::string_view schluessel,
+                        std::string_view wert);
+
+/// What the file says. Throws its error, or that of a value. Tells the user nothing.
+Designlesung DESIGN_EINLESEN(const Programmverzeichnis& verzeichnis);
+
 /// The user's own page design and its file `design.dsg` in the program folder.
 class Designdatei {
 public:

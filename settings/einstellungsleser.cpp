@@ -99,7 +99,7 @@ void Einstellungsleser::ALTE_EINSTELLUNGEN_UEBERNEHMEN(std::string_view bytes) {
 
 std::size_t Einstellungsleser::Verteilen(const std::vector<std::string>& texte, Einstellungsquelle quelle) {
     const std::size_t genommen = EINSTELLUNGEN_VERTEILEN(tabelle_, texte, quelle);
-    folgeschritte_.WAEHRUNG_IN_PREISKOEPFE();
+    folgeschritte_.PreiskoepfeZeigen();
     return genommen;
 }
 

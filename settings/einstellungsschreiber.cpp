@@ -4,6 +4,8 @@
 #include "platform/datei.hpp"
 #include "platform/text.hpp"
 
+#include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace quittika {
@@ -19,12 +21,19 @@ std::string EINSTELLUNGSPFAD(const Programmverzeichnis& verzeichnis) {
     return verzeichnis.pfad("\\prog_n.cfg");
 }
 
-Textpuffer EINSTELLUNGSTEXT(const Einstellungstabelle& tabelle) {
+std::vector<std::string> ZEILENTEXTE(const Einstellungstabelle& tabelle) {
+    std::vector<std::string> texte;
+    texte.reserve(tabelle.size());
+    std::transform(tabelle.begin(), tabelle.end(), std::back_inserter(texte), ZEILENTEXT);
+    return texte;
+}
+
+Textpuffer EINSTELLUNGSTEXT(const std::vector<std::string>& texte) {
     Textpuffer datei;
-    for (const Einstellungszeile& zeile : tabelle) {
-        datei.zeile(einzeilig(ZEILENTEXT(zeile)));
+    for (const std::string& text : texte) {
+        datei.zeile(einzeilig(text));
     }
-    for (std::size_t n = tabelle.size(); n < kDateizeilen; ++n) {
+    for (std::size_t n = texte.size(); n < kDateizeilen; ++n) {
         datei.zeile(kFuellzeile);
     }
     return datei;
@@ -34,7 +43,7 @@ void Einstellungsschreiber::EINSTELLUNGEN_SPEICHERN() {
     if (SPEICHERN_GESPERRT) {
         return;
     }
-    const Textpuffer datei = EINSTELLUNGSTEXT(tabelle_);
+    const Textpuffer datei = EINSTELLUNGSTEXT(InKraft());
     try {
         FremdesBeiseiteLegen();
         datei_ersetzen(EINSTELLUNGSPFAD(verzeichnis_), datei.bytes());
@@ -46,6 +55,16 @@ void Einstellungsschreiber::EINSTELLUNGEN_SPEICHERN() {
                               std::to_string(fehler.nummer()) + "\r\n" + fehlertext(fehler.nummer()),
                           "Achtung!", Buttons::Ok, Symbol::Exclamation});
     }
+}
+
+std::vector<std::string> Einstellungsschreiber::InKraft() const {
+    std::vector<std::string> texte = ZEILENTEXTE(tabelle_);
+    for (std::size_t n = 0; in_kraft_ && n < texte.size(); ++n) {
+        if (tabelle_[n].im_fenster) {
+            texte[n] = (*in_kraft_)[n];
+        }
+    }
+    return texte;
 }
 
 void Einstellungsschreiber::FremdesBeiseiteLegen() {

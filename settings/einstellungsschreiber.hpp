@@ -7,14 +7,17 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace quittika {
 
 /// The settings file `prog_n.cfg` of the program folder.
 std::string EINSTELLUNGSPFAD(const Programmverzeichnis& verzeichnis);
 
-/// What the owners of all lines hold, as a whole file.
-Textpuffer EINSTELLUNGSTEXT(const Einstellungstabelle& tabelle);
+/// What the owners of all lines hold.
+std::vector<std::string> ZEILENTEXTE(const Einstellungstabelle& tabelle);
+/// The same as a whole file.
+Textpuffer EINSTELLUNGSTEXT(const std::vector<std::string>& texte);
 
 /// Writes the settings file.
 class Einstellungsschreiber {
@@ -29,16 +32,22 @@ public:
     /// Replaces the file by what the windows hold. A file that was changed elsewhere, or could not be read
     /// to its end, is put aside before. A failure is told in a box and in panel 3; the old file stays then.
     void EINSTELLUNGEN_SPEICHERN();
+    /// From now on the fields of the invoice settings hold what is not taken over yet: what is saved for them
+    /// is what they hold now.
+    void VORLAEUFIG_BEGINNT() { in_kraft_ = ZEILENTEXTE(tabelle_); }
+    void VORLAEUFIG_ENDET() { in_kraft_.reset(); }
     /// Everything that a file with these bytes holds is in the windows.
     void GELESEN_MERKEN(std::string bytes) { stand_ = std::move(bytes); }
 
 private:
+    std::vector<std::string> InKraft() const;
     void FremdesBeiseiteLegen();
 
     Form1& form1_;
     const Einstellungstabelle& tabelle_;
     const Programmverzeichnis& verzeichnis_;
     Dialogs& dialogs_;
+    std::optional<std::vector<std::string>> in_kraft_;
     std::optional<std::string> stand_; ///< content of the file that was read or written last
 };
 

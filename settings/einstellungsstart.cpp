@@ -11,9 +11,7 @@ void Einstellungsstart::Laden() {
     einstellungen_.ensure_loaded();
     programm_.ensure_loaded();
     leser_.EINSTELLUNGEN_LADEN();
-    for (const Schriftgroesse& groesse : kSchriftgroessen) {
-        werte_.*groesse.wert = (einstellungen_.*groesse.regler).Value();
-    }
+    SCHRIFTGROESSEN_UEBERNEHMEN(werte_, einstellungen_);
 }
 
 void Einstellungsstart::BilderLaden() {

@@ -50,7 +50,9 @@ private:
     }
     /// The line of a control has the control's name.
     template <class Steuerelement> Einstellungszeile& neu(Zeilenform form, Steuerelement& feld) {
-        return neu(feld.name(), form, &feld);
+        Einstellungszeile& zeile = neu(feld.name(), form, &feld);
+        zeile.im_fenster = &feld.form() == &e_;
+        return zeile;
     }
     void fest(const char* schluessel, std::string text) {
         neu(schluessel, Zeilenform::Fest, {}).vorgabe = std::move(text);
@@ -109,7 +111,7 @@ private:
     void druckfarben() {
         fest("PRINTCOLORS", "PRINTCOLORS");
         for (const Druckfarbe& farbe : kDruckfarben) {
-            neu(farbe.schluessel, Zeilenform::Long, &(w_.*farbe.wert));
+            neu(farbe.schluessel, Zeilenform::Long, &(w_.*farbe.wert)).im_fenster = true;
             frm_einstellungen::Farbzeile& zeile = e_.*farbe.zeile;
             for (RangeControl* regler : {&zeile.R, &zeile.G, &zeile.B}) {
                 neu(Zeilenform::Int, *regler).aus_prog_cfg = &zeile == &e_.Werbespruch;
@@ -117,8 +119,8 @@ private:
         }
     }
     void programmwerte() {
-        neu("LAYOUTNUMMER", Zeilenform::Int, &w_.LAYOUTNUMMER);
-        neu("DRUCKERSCHRIFT", Zeilenform::Text, &w_.DRUCKERSCHRIFT);
+        neu("LAYOUTNUMMER", Zeilenform::Int, &w_.LAYOUTNUMMER).im_fenster = true;
+        neu("DRUCKERSCHRIFT", Zeilenform::Text, &w_.DRUCKERSCHRIFT).im_fenster = true;
         // What the user chose last, which an opened invoice does not change.
         neu(form1_.Check_mengenartDECIMAL.name(), Zeilenform::Check, &w_.MENGE_DEZIMAL);
         neu("FARBE_INDIVIDUELL_HINTERGRUND", Zeilenform::Long, &w_.FARBE_INDIVIDUELL_HINTERGRUND);

@@ -27,9 +27,6 @@ public:
     void ALLEUEBERNEHMEN(bool schliessen);
 
 private:
-    void TexteUebernehmen();
-    void RechnungsartUebernehmen();
-
     Form1& form1_;
     frm_einstellungen& einstellungen_;
     const frm_Programm& programm_;

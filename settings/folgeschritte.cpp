@@ -3,9 +3,7 @@
 #include "designer/designdatei.hpp"
 #include "invoice/rechnung.hpp"
 #include "platform/laufzeitfehler.hpp"
-#include "platform/text.hpp"
 #include "settings/druckfarben.hpp"
-#include "settings/schriftgroessen.hpp"
 
 #include <cstddef>
 #include <string>
@@ -13,24 +11,12 @@
 
 namespace quittika {
 
-void Folgeschritte::WAEHRUNG_IN_PREISKOEPFE() {
-    for (Label* kopf : {&einstellungen_.Label_preis, &einstellungen_.Label_gesamtp}) {
-        for (const std::string anfang : {"Einzelpreis[", "Gesamtpreis["}) {
-            const std::string& text = kopf->Caption();
-            // What stands behind the currency is the user's own wording.
-            if (beginnt_mit(text, anfang) && text.find(']') == text.size() - 1) {
-                kopf->Caption = anfang + werte_.WAEHRUNG + "]";
-            }
-        }
-    }
-}
-
 void Folgeschritte::ausfuehren() {
     Bildpfade();
     Anzeigen();
     Gegenstuecke();
     Spaltenkoepfe();
-    Freigaben();
+    FREIGABEN_ZEIGEN(einstellungen_);
     zuletzt_.Zeigen();
     MwStUndWaehrung();
     Individualfarben();
@@ -46,12 +32,8 @@ void Folgeschritte::Bildpfade() {
 }
 
 void Folgeschritte::Anzeigen() {
-    frm_einstellungen& e = einstellungen_;
-    e.LabelDRUCKj_H.Caption = e.HScroll_druckj.Value.as_text() + " mm";
-    e.LabelDRUCKj_V.Caption = e.VScrollDruckj.Value.as_text() + " mm";
-    for (const Schriftgroesse& groesse : kSchriftgroessen) {
-        (e.*groesse.anzeige).Caption = (e.*groesse.regler).Value.as_text();
-    }
+    JUSTIERUNG_ZEIGEN(einstellungen_);
+    SCHRIFTGROESSEN_ZEIGEN(einstellungen_);
 }
 
 void Folgeschritte::Gegenstuecke() {
@@ -68,13 +50,6 @@ void Folgeschritte::Spaltenkoepfe() {
     form1_.Label_preis.Caption = einstellungen_.Label_preis.Caption();
     form1_.Label_gesamtp.Caption = einstellungen_.Label_gesamtp.Caption();
     ZweiteKopfzeileZeigen(form1_);
-}
-
-void Folgeschritte::Freigaben() {
-    frm_einstellungen& e = einstellungen_;
-    e.Text_Bankverb2.Enabled = e.Check_Bankverb_Zeile2.ticked();
-    e.Text_Bankverb3.Enabled = e.Check_Bankverb_Zeile3.ticked();
-    e.Check_MitLogoadresseFFSeite.Enabled = e.Option_RN_RK_Kopf_nurErsteSeite.Value();
 }
 
 void Folgeschritte::MwStUndWaehrung() {

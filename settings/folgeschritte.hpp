@@ -3,6 +3,7 @@
 #include "invoice/file/zuletzt_geoeffnet.hpp"
 #include "platform/pictures.hpp"
 #include "platform/verzeichnis.hpp"
+#include "settings/einstellungsanzeige.hpp"
 #include "settings/programmstil.hpp"
 
 namespace quittika {
@@ -22,8 +23,8 @@ public:
           zuletzt_(zuletzt),
           stil_(stil) {}
 
-    /// Price headings of the program's own form name the currency, whatever stood in the file.
-    void WAEHRUNG_IN_PREISKOEPFE();
+    /// What follows even from a file without its mark.
+    void PreiskoepfeZeigen() { WAEHRUNG_IN_PREISKOEPFE(einstellungen_, werte_); }
     /// Labels, companions of the option buttons, what can be used, rates, colours, page design and pictures.
     /// Paths come from the design file; a picture that does not load leaves the one that is there.
     void ausfuehren();
@@ -33,7 +34,6 @@ private:
     void Anzeigen();
     void Gegenstuecke();
     void Spaltenkoepfe();
-    void Freigaben();
     void MwStUndWaehrung();
     void Individualfarben();
     void Layout();

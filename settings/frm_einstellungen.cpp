@@ -28,7 +28,8 @@ frm_einstellungen::Farbzeile::Farbzeile(Container& seite, const char* rahmen, co
     Muster.BackColor.adopt(color::kBlack);
 }
 
-frm_einstellungen::frm_einstellungen() : Form("frm_einstellungen", " Rechnungsdaten") {
+frm_einstellungen::frm_einstellungen()
+    : Form("frm_einstellungen", " Rechnungsdaten", {twips(1024), twips(700)}) {
     for (CheckBox* an : {&Check_FETT_firma1, &Check_Faltmarke_MITDRUCKEN, &Check_SEITENZAHLDRUCKEN,
                          &Check_Positionendruck, &Check_MitLogoadresseFFSeite, &Check_mit_Wasserz}) {
         an->Value.adopt(1);
@@ -36,6 +37,10 @@ frm_einstellungen::frm_einstellungen() : Form("frm_einstellungen", " Rechnungsda
     for (OptionButton* an : {&Option_BankVerb_Vorgabe, &Option_RN_RK_Kopf_nurErsteSeite,
                              &Option_RN_BM_nurletzte_Seite, &Option2_Layout}) {
         an->Value.adopt(true);
+    }
+    for (Label* hinweis :
+         {&Label_Hinweis_Steuernr, &Label_Hinweis_IBAN, &Label_Hinweis_MwSt, &Label_Hinweis_MwSt2}) {
+        hinweis->Visible.adopt(false);
     }
     Frame_Bankverb_Zeilen.Visible.adopt(false);
     Text_Bankverb2.Enabled.adopt(false);
@@ -67,6 +72,11 @@ const ControlArray<TextBox, 2>& frm_einstellungen::Text_Bemerkung(int n) const {
 std::array<OptionButton*, frm_einstellungen::kLayouts> frm_einstellungen::Layouts() {
     return {&Option1_Layout, &Option2_Layout, &Option3_Layout, &Option4_Layout, &Option5_Layout,
             &Option6_Layout, &Option7_Layout, &Option8_Layout, &Option9_Layout};
+}
+
+std::array<Image*, frm_einstellungen::kLayouts - 1> frm_einstellungen::Layoutbilder() {
+    return {&Image1_Layout, &Image2_Layout, &Image3_Layout, &Image4_Layout,
+            &Image5_Layout, &Image6_Layout, &Image7_Layout, &Image8_Layout};
 }
 
 int LAYOUT_GEWAEHLT(const frm_einstellungen& einstellungen) {

@@ -5,6 +5,9 @@
 
 namespace quittika {
 
+/// The small page of the print adjustment where nothing is shifted, in twips.
+inline constexpr Place kJustierblatt{twips(47), twips(76), twips(120), twips(148)};
+
 /// Invoice settings: its controls are the store that printing, numbering and new invoices read.
 struct frm_einstellungen : Form {
     frm_einstellungen();
@@ -39,6 +42,7 @@ struct frm_einstellungen : Form {
     TextBox Text_firma_5{Frame1, "Text_firma_5", "Handy: 1234567890"};
     TextBox Text_firma_6{Frame1, "Text_firma_6", "E-Mail: info@musterfirma.example"};
     TextBox Text_firma_7{Frame1, "Text_firma_7", "Steuernr:1234/567/89"};
+    Label Label_Hinweis_Steuernr{Frame1, "Label_Hinweis_Steuernr"};
     TextBox Text_firma_8{Frame1, "Text_firma_8", "Faxnr.: 12345/56789"};
 
     // --- Bankdaten ---
@@ -51,6 +55,7 @@ struct frm_einstellungen : Form {
     TextBox Text_BLZ{Frame_Bankverb_Vorlage, "Text_BLZ", "BLZ: 123 456 78"};
     TextBox Text_KTO{Frame_Bankverb_Vorlage, "Text_KTO", "KTO-NR: 1234567"};
     TextBox Text_IBAN{Frame_Bankverb_Vorlage, "Text_IBAN", "IBAN: DE12 3456 3456 0054 0123 45"};
+    Label Label_Hinweis_IBAN{Frame_Bankverb_Vorlage, "Label_Hinweis_IBAN"};
     TextBox Text_BIC{Frame_Bankverb_Vorlage, "Text_BIC", "SWIFT -BIC: AB4DEFG1HIJK"};
     CheckBox Check_mit_IBAN_BIC_Drucken{Frame_Bankverb_Vorlage, "Check_mit_IBAN_BIC_Drucken",
                                         "IBAN und SWIFT-BIC mit drucken"};
@@ -104,8 +109,10 @@ struct frm_einstellungen : Form {
     Container& Seite_MwSt = SSTab1.page(3);
     Frame Frame7{Seite_MwSt, "Frame7", "Mehrwertsteuersatz 1:"};
     TextBox Text_MwSt{Frame7, "Text_MwSt", "19"};
+    Label Label_Hinweis_MwSt{Frame7, "Label_Hinweis_MwSt"};
     Frame Frame12{Seite_MwSt, "Frame12", "Mehrwertsteuersatz 2:"};
     TextBox Text_MwSt2{Frame12, "Text_MwSt2", "7"};
+    Label Label_Hinweis_MwSt2{Frame12, "Label_Hinweis_MwSt2"};
     Frame Frame6{Seite_MwSt, "Frame6", "Berechnungsart"};
     CheckBox Check_mwst{Frame6, "Check_mwst", "mit MwSt"};
     OptionButton Option_mwst_plus{Frame6, "Option_mwst_plus", "plus (+)"};
@@ -132,7 +139,8 @@ struct frm_einstellungen : Form {
     // --- Designer/Druckerschriftart ---
     Container& Seite_Designer = SSTab1.page(5);
     CommandButton CMD_DESIGNER{Seite_Designer, "CMD_DESIGNER", "Designer aufrufen..."};
-    Frame Frame_DRUCKERSCHRIFT{Seite_Designer, "Frame_DRUCKERSCHRIFT"};
+    Frame Frame_DRUCKERSCHRIFT{Seite_Designer, "Frame_DRUCKERSCHRIFT",
+                               "Aktuell eingestellte Schriftart: Arial"};
     CommandButton Command_DRUCKERSCHRIFT{Frame_DRUCKERSCHRIFT, "Command_DRUCKERSCHRIFT",
                                          "Schriftart wählen..."};
     CommandButton Command_DRUCKERSCHRIFT_Reset{Frame_DRUCKERSCHRIFT, "Command_DRUCKERSCHRIFT_Reset", "Arial"};
@@ -210,7 +218,7 @@ struct frm_einstellungen : Form {
     Container& Seite_Justierung = SSTab1.page(9);
     Frame Frame11{Seite_Justierung, "Frame11", "Justierung"};
     Frame Frame_JustierA4{Frame11, "Frame_JustierA4"};
-    Shape ShapejustierA4{Frame_JustierA4, "ShapejustierA4"};
+    Shape ShapejustierA4{Frame_JustierA4, Named("ShapejustierA4").at(kJustierblatt)};
     HScrollBar HScroll_druckj{Frame11, "HScroll_druckj", -12, 12, -4};
     VScrollBar VScrollDruckj{Frame11, "VScrollDruckj", -20, 20, -6};
     Label LabelDRUCKj_H{Frame11, "LabelDRUCKj_H", "-4 mm"};
@@ -236,6 +244,8 @@ struct frm_einstellungen : Form {
     const ControlArray<TextBox, 2>& Text_Bemerkung(int n) const;
     /// The buttons of the page designs 1 to 9 at index 0 to 8.
     std::array<OptionButton*, kLayouts> Layouts();
+    /// The pictures of the page designs 1 to 8 at index 0 to 7.
+    std::array<Image*, kLayouts - 1> Layoutbilder();
 };
 
 inline constexpr int kEigenesLayout = 9;

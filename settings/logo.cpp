@@ -25,6 +25,14 @@ Image& Logobild(Form1& f, int layout) {
 Logo::Logo(Form1& form1, frm_einstellungen& einstellungen, PROGRAMMEINSTELLUNG& werte)
     : form1_(form1), einstellungen_(einstellungen), werte_(werte) {}
 
+void Logo::BilderNehmen() {
+    const std::string& bild = einstellungen_.Picture1.Picture();
+    for (Image* logo : {&form1_.logo, &form1_.Logo200x400, &form1_.logo600x200Pixel, &form1_.logo760x140Pixel,
+                        &einstellungen_.logotab}) {
+        logo->Picture = bild;
+    }
+}
+
 void Logo::LayoutZeigen() {
     if (LAYOUT_GEWAEHLT(einstellungen_) == 0) {
         einstellungen_.Option9_Layout.Value = true;
@@ -33,13 +41,14 @@ void Logo::LayoutZeigen() {
     werte_.LAYOUTNUMMER = layout;
     const bool ohne = einstellungen_.Check_keinlogo.ticked() || layout == kEigenesLayout;
     const Image* sichtbar = ohne ? nullptr : &Logobild(form1_, layout);
-    const std::string& bild = einstellungen_.Picture1.Picture();
+    BilderNehmen();
     for (Image* logo :
          {&form1_.logo, &form1_.logo600x200Pixel, &form1_.Logo200x400, &form1_.logo760x140Pixel}) {
-        logo->Picture = bild;
         logo->Visible = logo == sichtbar;
     }
-    form1_.Image_WASSERZ.Picture = einstellungen_.Picture_wasserz.Picture();
+    for (Image* wasserzeichen : {&form1_.Image_WASSERZ, &einstellungen_.Image_WASSERZ}) {
+        wasserzeichen->Picture = einstellungen_.Picture_wasserz.Picture();
+    }
 }
 
 } // namespace quittika

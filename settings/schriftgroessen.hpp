@@ -28,4 +28,11 @@ inline constexpr Schriftgroesse kSchriftgroessen[] = {
      &PROGRAMMEINSTELLUNG::GROESSE_ZUSATZ_2, 10},
 };
 
+/// Takes the sizes that the dialog shows.
+inline void SCHRIFTGROESSEN_UEBERNEHMEN(PROGRAMMEINSTELLUNG& werte, const frm_einstellungen& einstellungen) {
+    for (const Schriftgroesse& groesse : kSchriftgroessen) {
+        werte.*groesse.wert = (einstellungen.*groesse.regler).Value();
+    }
+}
+
 } // namespace quittika

@@ -1,6 +1,8 @@
 #pragma once
 
-#include "settings/einstellungsleser.hpp"
+#include "settings/einstellungsfelder.hpp"
+#include "settings/einstellungsfenster.hpp"
+#include "settings/einstellungsstart.hpp"
 #include "tests/pruefstand.hpp"
 
 namespace quittika {
@@ -16,14 +18,22 @@ struct Einstellungsstand : Pruefstand {
     Einstellungsleser einstellungsleser{einstellungstabelle, verzeichnis, folgeschritte, uebernahme,
                                         einstellungsschreiber};
 
-    /// What the owners of the lines hold.
-    std::vector<std::string> texte() const {
-        std::vector<std::string> alle;
-        for (const Einstellungszeile& zeile : einstellungstabelle) {
-            alle.push_back(ZEILENTEXT(zeile));
-        }
-        return alle;
+    Einstellungsstart start{einstellungen, programm, werte, verzeichnis, einstellungsleser};
+    Einstellungsfelder felder{einstellungen, werte, zustand, nummern, dialoge};
+    Bilderwahl bilderwahl{einstellungen, verzeichnis, dialoge, bilder};
+    Einstellungsfenster fenster{einstellungen, werte, zustand,    uebernahme, einstellungsschreiber,
+                                nummern,       logo,  bilderwahl, summen,     dialoge};
+
+    /// Reads the settings as the program does when it starts.
+    void starten() {
+        const Rechnungszustand::Sperre still(zustand);
+        start.Laden();
+        logo.LayoutZeigen();
+        vorgaben.uebernehmen();
+        nummern.RNStartLesen();
     }
+    /// What the owners of the lines hold.
+    std::vector<std::string> texte() const { return ZEILENTEXTE(einstellungstabelle); }
 };
 
 } // namespace quittika

@@ -1,5 +1,6 @@
 #include "invoice/file/rechnungsnummern.hpp"
 
+#include "invoice/programmname.hpp"
 #include "platform/laufzeitfehler.hpp"
 #include "platform/textdatei.hpp"
 #include "platform/zahlen.hpp"
@@ -86,6 +87,37 @@ void Rechnungsnummern::NummerVerbrauchen() {
     ++zaehler_;
     ZaehlerZeigen();
     LesbarkeitMelden(stand);
+    ZaehlerSchreiben();
+}
+
+void Rechnungsnummern::Command_RNSTartwertSET_Click() {
+    const std::optional<int> wert = zaehler_aus(einstellungen_.Text_RNStartwert.Text());
+    if (!wert) {
+        dialogs_.message({"Bitte verwenden Sie nur Zahlenwerte!",
+                          std::string(kProgrammname) + "Information...          ", Buttons::Ok,
+                          Symbol::Information});
+        return;
+    }
+    zaehler_ = *wert;
+    ZaehlerSchreiben();
+    ZaehlerAuffrischen();
+}
+
+void Rechnungsnummern::NummerAuffrischen() {
+    const bool eigene = zustand_.IstDateiDesPfads() || form1_.Text_RNnr.Text() != gezeigt_;
+    if (eigene) {
+        form1_.Text_RNnr.Locked = automatisch();
+    } else {
+        NummerZeigen();
+    }
+}
+
+void Rechnungsnummern::ZaehlerAuffrischen() {
+    ZaehlerZeigen();
+    NummerAuffrischen();
+}
+
+void Rechnungsnummern::ZaehlerSchreiben() {
     try {
         DATEI_SCHREIBEN(verzeichnis_.pfad("\\RN.txt"), std::to_string(zaehler_));
     } catch (const Laufzeitfehler& fehler) {
@@ -119,7 +151,8 @@ std::string Rechnungsnummern::Nummer() const {
 
 void Rechnungsnummern::NummerZeigen() {
     const Rechnungszustand::Sperre still(zustand_);
-    form1_.Text_RNnr.Text = Nummer();
+    gezeigt_ = Nummer();
+    form1_.Text_RNnr.Text = gezeigt_;
     form1_.Text_RNnr.Locked = automatisch();
 }
 

@@ -32,6 +32,14 @@ public:
     /// Gives a new invoice another number where another program has used up its own since. Answers what to
     /// tell of it, which panel 3 says already; empty where the number stays.
     std::string NummerErneuern();
+    /// The start value of the settings becomes the counter, is written to RN.txt, and its number is shown. A
+    /// text that is no number of 32 bits is told in a box and changes nothing.
+    void Command_RNSTartwertSET_Click();
+    /// Shows the next number after its form, or the kind of numbering, has changed. An invoice that has its
+    /// own number, typed or out of its file, keeps it.
+    void NummerAuffrischen();
+    /// The same, and the counter in the settings.
+    void ZaehlerAuffrischen();
     /// Uses up a number: raises the higher of the counter and the one in RN.txt and writes it, if numbering
     /// is automatic.
     void NummerVerbrauchen();
@@ -44,6 +52,7 @@ private:
     void LesbarkeitMelden(const Zaehlerstand& stand);
     void NummerZeigen();
     void ZaehlerZeigen();
+    void ZaehlerSchreiben();
 
     Form1& form1_;
     frm_einstellungen& einstellungen_;
@@ -51,6 +60,7 @@ private:
     const Programmverzeichnis& verzeichnis_;
     Dialogs& dialogs_;
     int zaehler_ = 1;
+    std::string gezeigt_; ///< the number that was put into `Text_RNnr` last
 };
 
 } // namespace quittika

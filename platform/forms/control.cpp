@@ -98,6 +98,7 @@ void Control::changed(PropertyId id) {
         view_->property_changed(id);
     }
     fire_for(id);
+    form_.ControlChanged(*this);
 }
 
 void Control::notify_items() {

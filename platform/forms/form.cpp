@@ -2,6 +2,8 @@
 
 #include "platform/desktop.hpp"
 
+#include <utility>
+
 namespace quittika {
 
 Form::Form(std::string_view name, std::string caption, const FormDesign& design)
@@ -51,7 +53,9 @@ void Form::Show(Modality modality) {
     if (!loaded_) {
         return;
     }
-    shown_ = true;
+    if (!std::exchange(shown_, true)) {
+        Shown();
+    }
     if (desktop_ != nullptr) {
         desktop_->show(*this, modality);
     }

@@ -85,6 +85,9 @@ public:
     Property<int> Height;
 
     Handler<> Load{activity_};
+    Handler<> Shown{activity_}; ///< the form comes into sight, for the first time or once more
+    /// A property of a control of the form has changed, whoever changed it; after the control's own events.
+    Handler<const Control&> ControlChanged{activity_};
     Handler<bool&> QueryUnload{activity_}; ///< the argument set true keeps the form open
     Handler<> Unload{activity_};
     Handler<> Resize{activity_};

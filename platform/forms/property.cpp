@@ -36,4 +36,11 @@ const PropertyBase* PropertyHost::property(PropertyId id) const {
     return nullptr;
 }
 
+void PropertyHost::adopt_values(const PropertyHost& other) {
+    const PropertyBase* value = other.first_;
+    for (PropertyBase* p = first_; p != nullptr && value != nullptr; p = p->next_, value = value->next_) {
+        p->adopt_from(*value);
+    }
+}
+
 } // namespace quittika

@@ -74,6 +74,8 @@ public:
 
     /// The property of that kind, or null.
     const PropertyBase* property(PropertyId id) const;
+    /// Takes the values of another host of the same class without telling anybody.
+    void adopt_values(const PropertyHost& other);
 
 protected:
     template <class T> friend class Property;
@@ -107,6 +109,9 @@ protected:
 
 private:
     friend class PropertyHost;
+    /// Takes the value of the same property of another host without telling anybody.
+    virtual void adopt_from(const PropertyBase& other) = 0;
+
     PropertyHost& host_;
     PropertyBase* next_;
     PropertyId id_;
@@ -147,6 +152,10 @@ public:
     }
 
 private:
+    void adopt_from(const PropertyBase& other) override {
+        value_ = dynamic_cast<const Property&>(other).value_;
+    }
+
     T value_;
 };
 

@@ -29,11 +29,11 @@ std::string veraendert(std::vector<std::string> texte, std::string_view bytes, c
 void pruefen(Einstellungsstand& p) {
     for (int i = 0; i < 2; ++i) {
         verlangen(p.einstellungsleser.LETZTE_EINSTELLUNGEN_UEBERNEHMEN(
-            EINSTELLUNGSTEXT(p.einstellungstabelle).bytes()));
+            EINSTELLUNGSTEXT(ZEILENTEXTE(p.einstellungstabelle)).bytes()));
     }
-    const std::string bytes = EINSTELLUNGSTEXT(p.einstellungstabelle).bytes();
+    const std::string bytes = EINSTELLUNGSTEXT(ZEILENTEXTE(p.einstellungstabelle)).bytes();
     verlangen(p.einstellungsleser.LETZTE_EINSTELLUNGEN_UEBERNEHMEN(bytes));
-    verlangen(EINSTELLUNGSTEXT(p.einstellungstabelle).bytes() == bytes);
+    verlangen(EINSTELLUNGSTEXT(ZEILENTEXTE(p.einstellungstabelle)).bytes() == bytes);
     p.logo.LayoutZeigen();
     p.vorgaben.uebernehmen();
     p.summen.jetztberechnen_List();

@@ -6,6 +6,7 @@
 #include "print/form2_etiketten.hpp"
 #include "print/form_druckvorschau.hpp"
 #include "print/form_lieferschein_opt.hpp"
+#include "settings/frm_einstellungen.hpp"
 
 #include <memory>
 #include <vector>
@@ -18,7 +19,7 @@ template <class F> std::unique_ptr<Form> make() {
     return std::make_unique<F>();
 }
 
-/// Every form that has a window; the settings are forms without one.
+/// Every form that has a window; the program settings are a form without one.
 inline const std::vector<MakeForm> kForms{make<Form1>,
                                           make<Form_START>,
                                           make<Form_ueber_QUITTIKA>,
@@ -27,6 +28,7 @@ inline const std::vector<MakeForm> kForms{make<Form1>,
                                           make<Form2_PAKET_ETIKETT>,
                                           make<Form2_PAKETHRMS_ETIKETT>,
                                           make<Form2_PAECKCHEN_ETIKETT>,
-                                          make<Form2_Breiter_Brief>};
+                                          make<Form2_Breiter_Brief>,
+                                          make<frm_einstellungen>};
 
 } // namespace quittika::test

@@ -134,6 +134,7 @@ TEST(Einstellungen, OhneMarkeFolgtDemLesenNichts) {
         zeilen[27] = "16";
         zeilen[67] = "a.qk8";
         p.ordner.schreiben("prog_n.cfg", datei_aus(zeilen));
+        const Rechnungszustand::Sperre still(p.zustand);
         p.einstellungsleser.EINSTELLUNGEN_LADEN();
         EXPECT_EQ(p.werte.MWST_SATZ1, "16");
         EXPECT_EQ(p.einstellungen.Text_MwSt.Text(), "19");
@@ -152,6 +153,7 @@ TEST(Einstellungen, DieAlteDateiWirdEinmalUebernommen) {
     Einstellungsstand p;
     p.ordner.schreiben("prog.cfg", alt + "\r\nrest");
     p.ordner.schreiben("prog_n.cfg", "");
+    const Rechnungszustand::Sperre still(p.zustand);
     p.einstellungsleser.EINSTELLUNGEN_LADEN();
     EXPECT_EQ(p.werte.FARBE_LINIEN, 255);
     EXPECT_EQ(p.einstellungen.Linien.R.Value(), 0) << "only the slogan's sliders come back";

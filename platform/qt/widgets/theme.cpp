@@ -88,6 +88,9 @@ public:
     void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
                             const QWidget* widget) const override {
         QProxyStyle::drawComplexControl(control, option, painter, widget);
+        if (control == CC_Slider && dark()) {
+            draw_dark_handle(*option, *painter, widget);
+        }
         if ((control == CC_ScrollBar || control == CC_Slider) && option->state.testFlag(State_HasFocus)) {
             outline(*painter, option->rect, focus_color(), 0);
         }
@@ -141,6 +144,14 @@ private:
             outline(painter, option.rect, has_focus ? focus_color() : mix(text, ground, kFieldShare),
                     kRadius);
         }
+    }
+
+    void draw_dark_handle(const QStyleOptionComplex& option, QPainter& painter, const QWidget* widget) const {
+        constexpr double kShare = 0.5;
+        constexpr double kRadius = 2.0;
+        const QColor line =
+            mix(option.palette.color(QPalette::WindowText), option.palette.color(QPalette::Window), kShare);
+        outline(painter, subControlRect(CC_Slider, &option, SC_SliderHandle, widget), line, kRadius);
     }
 
     double scale_;

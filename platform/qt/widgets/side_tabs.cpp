@@ -1,0 +1,96 @@
+#include "platform/qt/widgets/side_tabs.hpp"
+
+#include "platform/qt/widgets/theme.hpp"
+
+#include <QKeyEvent>
+#include <QPainter>
+#include <QTabBar>
+
+#include <algorithm>
+
+namespace quittika {
+
+namespace {
+
+constexpr int kBeside = 10; ///< free room left and right of a caption
+constexpr int kAbove = 7;   ///< and above and beneath it
+constexpr int kGap = 8;     ///< between captions and pages
+constexpr double kRadius = 5.0;
+
+class SideTabBar : public QTabBar {
+public:
+    explicit SideTabBar(QWidget* parent) : QTabBar(parent) {
+        setExpanding(false);
+        setDrawBase(false);
+        setElideMode(Qt::ElideNone);
+        setMouseTracking(true);
+    }
+
+protected:
+    QSize tabSizeHint(int /*index*/) const override {
+        int width = 0;
+        for (int i = 0; i < count(); ++i) {
+            width = std::max(width, fontMetrics().size(Qt::TextShowMnemonic, tabText(i)).width());
+        }
+        return {width + 2 * kBeside + kGap, fontMetrics().height() + 2 * kAbove};
+    }
+    QSize minimumTabSizeHint(int index) const override { return tabSizeHint(index); }
+
+    void paintEvent(QPaintEvent* /*event*/) override {
+        QPainter painter(this);
+        painter.setRenderHint(QPainter::Antialiasing);
+        for (int i = 0; i < count(); ++i) {
+            paint_tab(painter, i);
+        }
+    }
+
+    void keyPressEvent(QKeyEvent* event) override {
+        const int step = event->key() == Qt::Key_Down ? 1 : event->key() == Qt::Key_Up ? -1 : 0;
+        if (step == 0) {
+            return QTabBar::keyPressEvent(event);
+        }
+        setCurrentIndex(std::clamp(currentIndex() + step, 0, count() - 1));
+    }
+
+    void mouseMoveEvent(QMouseEvent* event) override {
+        QTabBar::mouseMoveEvent(event);
+        update();
+    }
+
+private:
+    void paint_tab(QPainter& painter, int index) const {
+        constexpr double kHovered = 0.08;
+        const QRectF place = QRectF(tabRect(index)).adjusted(0.5, 0.5, -0.5 - kGap, -0.5);
+        const bool chosen = index == currentIndex();
+        const QColor text = palette().color(chosen ? QPalette::HighlightedText : QPalette::WindowText);
+        painter.setPen(Qt::NoPen);
+        if (chosen) {
+            painter.setBrush(palette().color(QPalette::Highlight));
+            painter.drawRoundedRect(place, kRadius, kRadius);
+        } else if (underMouse() && place.contains(mapFromGlobal(QCursor::pos()))) {
+            painter.setBrush(theme::mix(text, palette().color(QPalette::Window), kHovered));
+            painter.drawRoundedRect(place, kRadius, kRadius);
+        }
+        if (chosen && hasFocus()) {
+            constexpr double kInside = 2.0;
+            painter.setPen(text);
+            painter.setBrush(Qt::NoBrush);
+            painter.drawRoundedRect(place.adjusted(kInside, kInside, -kInside, -kInside), kRadius - kInside,
+                                    kRadius - kInside);
+        }
+        painter.setPen(text);
+        painter.drawText(place.adjusted(kBeside, 0, 0, 0),
+                         Qt::AlignLeft | Qt::AlignVCenter | Qt::TextShowMnemonic, tabText(index));
+    }
+};
+
+} // namespace
+
+SideTabs::SideTabs(QWidget* parent) : QTabWidget(parent) {
+    setTabBar(new SideTabBar(this));
+    setTabPosition(QTabWidget::West);
+    setDocumentMode(true);
+    tabBar()->setDrawBase(false);
+}
+
+} // namespace quittika

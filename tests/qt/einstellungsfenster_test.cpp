@@ -1,0 +1,105 @@
+#include "app/programm.hpp"
+#include "invoice/form1.hpp"
+#include "platform/qt/qt_platform.hpp"
+#include "tests/pruefstand.hpp"
+
+#include <gtest/gtest.h>
+
+#include <QtWidgets>
+
+#include <set>
+
+namespace quittika::test {
+namespace {
+
+/// The invoice settings in their real window.
+class Einstellungsfenstertest : public ::testing::Test {
+protected:
+    Einstellungsfenstertest() {
+        programm.hauptfenster_zeigen();
+        dynamic_cast<Form1&>(programm.hauptfenster()).m_Rechnungsdaten.Click();
+        for (QWidget* offen : QApplication::topLevelWidgets()) {
+            fenster = offen->objectName() == "frm_einstellungen" ? offen : fenster;
+        }
+        QApplication::setActiveWindow(fenster);
+        QTest::qWait(50);
+    }
+
+    template <class W = QWidget> W* feld(const char* name) {
+        return fenster->findChild<W*>(QLatin1String(name));
+    }
+    static void taste(Qt::Key key, Qt::KeyboardModifiers held = {}) {
+        QTest::keyClick(QApplication::focusWidget(), key, held);
+    }
+    /// Answers the box that comes up, and notes its text.
+    void antworten(QMessageBox::StandardButton knopf) {
+        QTimer::singleShot(100, qApp, [this, knopf] {
+            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            frage = box == nullptr ? QString() : box->text();
+            if (box != nullptr) {
+                box->button(knopf)->click();
+            }
+        });
+    }
+
+    Probenordner ordner;
+    QtPlatform plattform;
+    Programm programm{plattform.platform(), ordner.ordner()};
+    QWidget* fenster = nullptr;
+    QString frage;
+};
+
+TEST_F(Einstellungsfenstertest, DieTastaturErreichtJedesFeldJederSeite) {
+    auto* seiten = feld<QTabWidget>("SSTab1");
+    fenster->resize(1024, 700);
+    EXPECT_EQ(fenster->size(), QSize(1024, 700));
+    for (int seite = 0; seite < seiten->count(); ++seite) {
+        seiten->tabBar()->setFocus();
+        EXPECT_EQ(seiten->currentIndex(), seite);
+        std::set<const QWidget*> erreicht;
+        for (int i = 0; i < 100; ++i) {
+            taste(Qt::Key_Tab);
+            erreicht.insert(QApplication::focusWidget());
+            if (QApplication::focusWidget() == seiten->tabBar()) {
+                break;
+            }
+        }
+        for (const QWidget* widget : fenster->findChildren<QWidget*>()) {
+            const bool bedienbar = widget->isVisible() && widget->isEnabled() &&
+                                   (widget->focusPolicy() & Qt::TabFocus) != 0 &&
+                                   !widget->inherits("QScrollArea") && widget->focusProxy() == nullptr &&
+                                   !widget->objectName().startsWith("qt_");
+            EXPECT_TRUE(!bedienbar || erreicht.contains(widget))
+                << widget->objectName().toStdString() << " on page " << seite;
+        }
+        seiten->tabBar()->setFocus();
+        taste(Qt::Key_Down);
+    }
+}
+
+TEST_F(Einstellungsfenstertest, StrgEingabeUebernimmtUndEscFragt) {
+    feld<QLineEdit>("Text_firma_1")->setFocus();
+    QTest::keyClicks(feld("Text_firma_1"), "Neu");
+    antworten(QMessageBox::No);
+    taste(Qt::Key_Escape);
+    EXPECT_EQ(frage, "Sind Sie sicher, dass Sie keine Änderungen speichern möchten?");
+    EXPECT_TRUE(fenster->isVisible());
+    QApplication::setActiveWindow(fenster);
+    const QString text = feld<QLineEdit>("Text_firma_1")->text();
+    taste(Qt::Key_Return);
+    EXPECT_TRUE(fenster->isVisible()) << "Return alone takes nothing over";
+    taste(Qt::Key_Return, Qt::ControlModifier);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !fenster->isVisible(); })) << "the button is seen going down";
+    EXPECT_NE(ordner.lesen("prog_n.cfg").find("Neu"), std::string::npos);
+
+    dynamic_cast<Form1&>(programm.hauptfenster()).m_Rechnungsdaten.Click();
+    QApplication::setActiveWindow(fenster);
+    feld<QLineEdit>("Text_firma_1")->setText("Verworfen");
+    antworten(QMessageBox::Yes);
+    fenster->close();
+    EXPECT_FALSE(fenster->isVisible());
+    EXPECT_EQ(feld<QLineEdit>("Text_firma_1")->text(), text);
+}
+
+} // namespace
+} // namespace quittika::test

@@ -1,0 +1,260 @@
+#include "settings/druckfarben.hpp"
+#include "settings/feldhinweise.hpp"
+#include "tests/einstellungsstand.hpp"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <map>
+
+namespace quittika {
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+
+/// Everything that a form's controls show and allow.
+std::string abbild(const Form& form) {
+    std::string alles;
+    for (const Control* feld : form.controls()) {
+        alles += "\n" + feld->name() + ":";
+        for (const PropertyId id :
+             {PropertyId::Text, PropertyId::Value, PropertyId::Caption, PropertyId::Picture,
+              PropertyId::BackColor, PropertyId::Enabled, PropertyId::Visible, PropertyId::FontBold,
+              PropertyId::Left, PropertyId::Top}) {
+            const PropertyBase* wert = feld->property(id);
+            alles += wert == nullptr ? "" : "|" + wert->as_text();
+        }
+    }
+    return alles;
+}
+
+/// All that a page is drawn from.
+std::string abbild(const Einstellungsstand& p) {
+    std::string alles = abbild(p.form1) + abbild(p.einstellungen) + abbild(p.programm);
+    for (const Einstellungszeile& zeile : p.einstellungstabelle) {
+        alles += "\n" + zeile.schluessel + "=" + ZEILENTEXT(zeile);
+    }
+    const PROGRAMMEINSTELLUNG& w = p.werte;
+    for (const int groesse : {w.GROESSE_RECHNUNG, w.GROESSE_WERBUNG, w.GROESSE_ANSCHREIBEN,
+                              w.GROESSE_BEMERKUNGEN, w.GROESSE_ZUSATZ_1, w.GROESSE_ZUSATZ_2}) {
+        alles += "|" + std::to_string(groesse);
+    }
+    return alles + w.RECHNUNGSSCHRIFT;
+}
+
+/// Another choice of the same group: on if it was off, else its neighbour.
+void umschalten(OptionButton& option) {
+    if (!option.Value()) {
+        return option.user_click();
+    }
+    for (Control* andere : option.form().controls()) {
+        auto* nachbar = dynamic_cast<OptionButton*>(andere);
+        if (nachbar != nullptr && nachbar != &option && &nachbar->container() == &option.container()) {
+            return nachbar->user_click();
+        }
+    }
+}
+
+void umstellen(RangeControl& regler) {
+    regler.Value = regler.Value() == regler.Max() ? regler.Min() : regler.Max();
+}
+
+constexpr const char* kOhneBilder = "IMG_LOGO:;\r\nIMG_WASSERZEICHEN:;\r\n";
+
+/// Enters another value for a line, as a user does it in one of the two windows. False for a line that none
+/// of their fields holds.
+bool bearbeiten(Einstellungsstand& p, const Einstellungszeile& zeile) {
+    frm_einstellungen& e = p.einstellungen;
+    using Handgriff = std::function<void()>;
+    std::map<std::string, Handgriff> handgriffe{
+        {"MWST_SATZ1", [&] { e.Text_MwSt.Text = "8,1"; }},
+        {"MWST_SATZ2", [&] { e.Text_MwSt2.Text = "2,6"; }},
+        {"WAEHRUNG", [&] { e.Text_Waehrung.Text = "CHF"; }},
+        {"LAYOUTNUMMER", [&] { e.Image5_Layout.Click(); }},
+        {"DRUCKERSCHRIFT",
+         [&] {
+             p.dialoge.queue(choice::Font{"Courier New"});
+             e.Command_DRUCKERSCHRIFT.Click();
+         }},
+    };
+    for (const Druckfarbe& farbe : kDruckfarben) {
+        handgriffe[farbe.schluessel] = [&] {
+            p.dialoge.queue(choice::Colour{0x332211});
+            (e.*farbe.zeile).Command_FARBE.Click();
+        };
+    }
+    for (const auto& [name, spalte] : {std::pair<Label*, TextBox*>{&e.Label_Pos, &e.TName_Pos},
+                                       {&e.Label_Menge, &e.TName_Menge},
+                                       {&e.Label_Leistung, &e.TName_Leistung},
+                                       {&e.Label_preis, &e.TNameEinzelpr},
+                                       {&e.Label_gesamtp, &e.TNameGesamtpr}}) {
+        handgriffe[name->name()] = [&e, spalte = spalte] {
+            spalte->Text = "Eigene Spalte";
+            e.CMD_Zuordnung.Click();
+        };
+    }
+    if (const auto handgriff = handgriffe.find(zeile.schluessel); handgriff != handgriffe.end()) {
+        handgriff->second();
+    } else if (auto* const* text = std::get_if<TextBox*>(&zeile.besitzer)) {
+        (*text)->Text = "Eigener Text 1";
+    } else if (auto* const* haekchen = std::get_if<CheckBox*>(&zeile.besitzer)) {
+        (*haekchen)->user_click();
+    } else if (auto* const* option = std::get_if<OptionButton*>(&zeile.besitzer)) {
+        umschalten(**option);
+    } else if (auto* const* regler = std::get_if<RangeControl*>(&zeile.besitzer)) {
+        umstellen(**regler);
+    } else {
+        return false;
+    }
+    return true;
+}
+
+/// The design file is the master of what these two hold.
+bool gehoert_dem_design(const Einstellungszeile& zeile) {
+    return zeile.schluessel == "Text_logopath" || zeile.schluessel == "Text_bildpath";
+}
+
+TEST(Einstellungsfenster, JedesFeldWirdUebernommenGespeichertUndWiederGelesen) {
+    const Einstellungsstand neu;
+    int felder = 0;
+    for (std::size_t n = 0; n < neu.einstellungstabelle.size(); ++n) {
+        SCOPED_TRACE(neu.einstellungstabelle[n].schluessel);
+        Einstellungsstand p;
+        p.ordner.schreiben("design.dsg", kOhneBilder);
+        p.starten();
+        p.fenster.m_Rechnungsdaten_Click();
+        const Einstellungszeile& zeile = p.einstellungstabelle[n];
+        if (gehoert_dem_design(zeile) || !bearbeiten(p, zeile)) {
+            continue;
+        }
+        ++felder;
+        p.einstellungen.Command_uebernehmen2.Click();
+        EXPECT_FALSE(p.einstellungen.shown());
+        const std::vector<std::string> uebernommen = p.texte();
+        EXPECT_NE(uebernommen[n], neu.einstellungstabelle[n].vorgabe);
+
+        Einstellungsstand wieder;
+        wieder.ordner.schreiben("design.dsg", kOhneBilder);
+        wieder.ordner.schreiben("prog_n.cfg", p.ordner.lesen("prog_n.cfg"));
+        wieder.starten();
+        wieder.fenster.m_Rechnungsdaten_Click();
+        EXPECT_EQ(wieder.texte(), uebernommen);
+        for (const Druckfarbe& farbe : kDruckfarben) {
+            EXPECT_EQ((wieder.einstellungen.*farbe.zeile).Muster.BackColor(), wieder.werte.*farbe.wert);
+        }
+        EXPECT_EQ(wieder.einstellungen.Text_MwSt.Text(), p.einstellungen.Text_MwSt.Text());
+        wieder.einstellungen.Command_uebernehmen2.Click();
+        EXPECT_EQ(wieder.ordner.lesen("prog_n.cfg"), p.ordner.lesen("prog_n.cfg"))
+            << "taken over again without a change";
+    }
+    EXPECT_EQ(felder, 96) << "of 110 lines";
+}
+
+TEST(Einstellungsfenster, NichtUebernommenIstAllesWieVorher) {
+    Einstellungsstand p;
+    p.ordner.schreiben("logo.bmp", "");
+    p.starten();
+    p.fenster.m_Rechnungsdaten_Click();
+    p.einstellungen.Command_uebernehmen2.Click();
+    const std::string datei = p.ordner.lesen("prog_n.cfg");
+    p.fenster.m_Rechnungsdaten_Click();
+    const std::string vorher = abbild(p);
+    for (const Einstellungszeile& zeile : p.einstellungstabelle) {
+        const bool des_programms =
+            zeile.schluessel.starts_with("Option_stil") || zeile.schluessel == "Check_datum";
+        if (!des_programms) {
+            bearbeiten(p, zeile);
+        }
+    }
+    for (CheckBox& auch : p.einstellungen.check_uebern_f_aktuellerechnung) {
+        auch.user_click();
+    }
+    p.einstellungen.Picture1.Picture = p.ordner.pfad("logo.bmp");
+    p.einstellungen.Picture_wasserz.Picture = p.ordner.pfad("logo.bmp");
+    EXPECT_NE(abbild(p), vorher);
+    p.einstellungsschreiber.EINSTELLUNGEN_SPEICHERN();
+    EXPECT_EQ(p.ordner.lesen("prog_n.cfg"), datei) << "another save meanwhile";
+
+    p.dialoge.take_boxes();
+    p.dialoge.queue(Answer::No);
+    EXPECT_FALSE(p.einstellungen.Close());
+    EXPECT_TRUE(p.einstellungen.shown()) << "the question answered with No";
+    p.dialoge.queue(Answer::Yes);
+    EXPECT_FALSE(p.einstellungen.Close());
+    EXPECT_FALSE(p.einstellungen.shown());
+    EXPECT_TRUE(p.einstellungen.loaded());
+    EXPECT_THAT(p.dialoge.take_boxes(),
+                testing::Each(HasSubstr("Sind Sie sicher, dass Sie keine Änderungen speichern möchten?")));
+    p.fenster.m_Rechnungsdaten_Click();
+    EXPECT_EQ(abbild(p), vorher);
+    EXPECT_FALSE(p.zustand.geaendert());
+    p.einstellungen.Command_uebernehmen2.Click();
+    EXPECT_EQ(p.ordner.lesen("prog_n.cfg"), datei);
+}
+
+TEST(Einstellungsfenster, DieNummerFolgtStartwertUndStellen) {
+    Einstellungsstand p;
+    p.starten();
+    p.fenster.m_Rechnungsdaten_Click();
+    frm_einstellungen& e = p.einstellungen;
+    e.Check_RN_automatisch.user_click();
+    e.Text_RNStartwert.Text = "abc";
+    e.Command_RNSTartwertSET.Click();
+    EXPECT_FALSE(std::filesystem::exists(p.ordner.pfad("RN.txt")));
+    EXPECT_THAT(p.dialoge.take_boxes(), ElementsAre(HasSubstr("Bitte verwenden Sie nur Zahlenwerte!")));
+    e.Text_RNStartwert.Text = "41";
+    e.Command_RNSTartwertSET.Click();
+    EXPECT_EQ(p.ordner.lesen("RN.txt"), "41\r\n");
+    e.Slider_RNFORMAT.Value = 4;
+    EXPECT_EQ(p.form1.Text_RNnr.Text(), "0041");
+    EXPECT_EQ(e.Label_RNAKTUELL.Caption(), "41");
+
+    p.form1.Text_RNnr.Text = "2008-7";
+    e.Slider_RNFORMAT.Value = 2;
+    EXPECT_EQ(p.form1.Text_RNnr.Text(), "2008-7") << "the invoice's own number";
+}
+
+TEST(Einstellungsfenster, FelderSagenWasNichtStimmenKann) {
+    struct Fall {
+        const char* text;
+        std::string_view hinweis; ///< a part of it, empty for none
+        bool passt(const std::string& gezeigt) const {
+            return hinweis.empty() ? gezeigt.empty() : gezeigt.find(hinweis) != std::string::npos;
+        }
+    };
+    for (const Fall& fall : {Fall{"19", ""},
+                             {"5,0", ""},
+                             {"5.0", ""},
+                             {"", "nicht gerechnet"},
+                             {"19 %", "nicht gerechnet"},
+                             {"neunzehn", "nicht gerechnet"}}) {
+        EXPECT_TRUE(fall.passt(SATZHINWEIS(fall.text))) << fall.text;
+    }
+    // 3704 0044 0532 0130 00 at a German bank has the check digits 89, and the British example 82.
+    for (const Fall& fall : {Fall{"", ""},
+                             {"IBAN: ", ""},
+                             {"IBAN: DE89 3704 0044 0532 0130 00", ""},
+                             {"iban DE89370400440532013000", ""},
+                             {"GB82 WEST 1234 5698 7654 32", ""},
+                             {"IBAN: DE88 3704 0044 0532 0130 00", "Prüfziffer"},
+                             {"IBAN: DE89 3704 0044 0532 0103 00", "Prüfziffer"},
+                             {"IBAN: DE89 3704 0044 0532 0130 0", "hat 22 Stellen, diese hat 21"},
+                             {"Kontonummer 1234567", "keine IBAN"},
+                             {"DE89 ÄÖÜ0 0044 0532 0130", "keine IBAN"}}) {
+        EXPECT_TRUE(fall.passt(IBANHINWEIS(fall.text))) << fall.text;
+    }
+    Einstellungsstand p;
+    p.starten();
+    p.fenster.m_Rechnungsdaten_Click();
+    const Label& hinweis = p.einstellungen.Label_Hinweis_Steuernr;
+    EXPECT_FALSE(hinweis.Visible());
+    p.einstellungen.Text_firma_7.Text = "";
+    EXPECT_TRUE(hinweis.Visible());
+    p.einstellungen.Text_firma_8.Text = "USt-IdNr. DE123456789";
+    EXPECT_FALSE(hinweis.Visible());
+}
+
+} // namespace
+} // namespace quittika
