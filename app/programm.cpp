@@ -24,6 +24,7 @@
 #include "print/lieferscheinoptionen.hpp"
 #include "print/seitenumbruch.hpp"
 #include "settings/logo.hpp"
+#include "settings/programmfenster.hpp"
 
 #include <utility>
 
@@ -38,7 +39,7 @@ struct Programm::Teile {
         platform.desktop.adopt(form_start);
         MENUE_LISTEN(form1, ereignisse, platform.dialogs);
         MENUE_DRUCKEN(form1, etiketten);
-        MENUE_EINSTELLUNGEN(form1);
+        MENUE_EINSTELLUNGEN(form1, ereignisse, programmfenster);
         MENUE_EXTRAS(form1, eingabezeile);
     }
 
@@ -103,7 +104,7 @@ struct Programm::Teile {
                                     }};
     KundeAufnehmen kunde_aufnehmen{form1, verzeichnis, platform.dialogs};
     Logo logo{form1, einstellungen, werte};
-    Programmstil stil{form1, einstellungen, programm, werte};
+    Programmstil stil{form1, einstellungen, programm, werte, platform.desktop};
     Folgeschritte folgeschritte{form1,       einstellungen,     programm, werte,
                                 verzeichnis, platform.pictures, zuletzt,  stil};
     Einstellungsuebernahme uebernahme{form1,    einstellungen, programm, werte,
@@ -111,6 +112,9 @@ struct Programm::Teile {
     Einstellungsleser einstellungsleser{einstellungstabelle, verzeichnis, folgeschritte, uebernahme,
                                         einstellungsschreiber};
     Einstellungsstart einstellungsstart{einstellungen, programm, werte, verzeichnis, einstellungsleser};
+    Programmfenster programmfenster{
+        form1,       programm,         werte,           zustand, stil, einstellungsschreiber,
+        verzeichnis, platform.dialogs, platform.desktop};
     ErsteRechnung erste_rechnung{form1, einstellungen, vorgaben, rechnung, nummern, platform.clock};
 
     // The main window: its areas, then the window, then its menus.

@@ -23,7 +23,7 @@ void PictureView::push(PropertyId id) {
     ready_ = QPixmap();
     ready_for_ = QSize();
     if (tiled_ != nullptr) {
-        tiled_->setPixmap(QPixmap::fromImage(picture()));
+        tiled_->set_tile(picture());
     }
     widget_.update();
 }

@@ -6,6 +6,7 @@
 #include "print/form2_etiketten.hpp"
 #include "print/form_druckvorschau.hpp"
 #include "print/form_lieferschein_opt.hpp"
+#include "settings/frm_programm.hpp"
 
 #include <memory>
 #include <vector>
@@ -22,6 +23,7 @@ template <class F> std::unique_ptr<Form> make() {
 inline const std::vector<MakeForm> kForms{make<Form1>,
                                           make<Form_START>,
                                           make<Form_ueber_QUITTIKA>,
+                                          make<frm_Programm>,
                                           make<Form_Lieferschein_opt>,
                                           make<Form_Druckvorschau>,
                                           make<Form2_PAKET_ETIKETT>,

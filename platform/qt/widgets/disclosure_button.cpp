@@ -49,6 +49,13 @@ QPixmap DisclosureButton::arrow(bool down) const {
     return picture;
 }
 
+void DisclosureButton::changeEvent(QEvent* event) {
+    QToolButton::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange) {
+        setIcon(arrow(isChecked()));
+    }
+}
+
 void DisclosureButton::show_state(bool open) {
     setIcon(arrow(open));
     if (open) {

@@ -1,6 +1,7 @@
 #include "platform/qt/widgets/dress.hpp"
 
 #include "platform/qt/widgets/theme.hpp"
+#include "platform/qt/widgets/tile_button.hpp"
 #include "platform/qt/widgets/tint.hpp"
 
 #include <QAbstractButton>
@@ -65,17 +66,10 @@ void fit_to_text(QWidget& window) {
     window.resize((window.size() * factor).boundedTo(room));
 }
 
-QIcon lighter(const QIcon& icon) {
-    QIcon result;
-    for (const QSize& size : icon.availableSizes()) {
-        result.addPixmap(QPixmap::fromImage(theme::lighter(icon.pixmap(size, 1.0).toImage())));
-    }
-    return result;
-}
-
 template <class Part> void lighten_icons(QWidget& window) {
     for (Part* part : window.findChildren<Part*>()) {
-        if (!part->icon().isNull()) {
+        const bool by_itself = qobject_cast<TileButton*>(part) != nullptr;
+        if (!part->icon().isNull() && !by_itself) {
             part->setIcon(lighter(part->icon()));
         }
     }

@@ -1,6 +1,8 @@
 #include "platform/qt/widgets/tile_button.hpp"
 
+#include "platform/qt/widgets/contrast.hpp"
 #include "platform/qt/widgets/theme.hpp"
+#include "platform/qt/widgets/tint.hpp"
 
 #include <QPainter>
 
@@ -45,18 +47,29 @@ QColor TileButton::ground() const {
                : QColor(text.red(), text.green(), text.blue(), qRound(shade * 255));
 }
 
+QIcon TileButton::icon_on(const QColor& under) {
+    if (theme::readable_on(under) == QColor(Qt::black)) {
+        return icon();
+    }
+    if (light_.isNull()) {
+        light_ = theme::lighter(icon());
+    }
+    return light_;
+}
+
 void TileButton::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     const QColor fill = ground();
-    painter.setPen(hasFocus() ? QPen(theme::focus_color(), 1.4) : QPen(Qt::NoPen));
+    const QColor under = fill.alpha() == 255 ? fill : palette().color(QPalette::Window);
+    painter.setPen(hasFocus() ? QPen(theme::focus_color(under), 1.4) : QPen(Qt::NoPen));
     painter.setBrush(fill);
     painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), kRadius, kRadius);
 
     const QRect content = rect().adjusted(0, kPadding, 0, -kPadding);
     const QRect picture((width() - iconSize().width()) / 2, content.top(), iconSize().width(),
                         iconSize().height());
-    icon().paint(&painter, picture, Qt::AlignCenter, isEnabled() ? QIcon::Normal : QIcon::Disabled);
+    icon_on(under).paint(&painter, picture, Qt::AlignCenter, isEnabled() ? QIcon::Normal : QIcon::Disabled);
 
     const auto role = testAttribute(Qt::WA_SetPalette) ? QPalette::ButtonText : QPalette::WindowText;
     painter.setPen(palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, role));

@@ -43,6 +43,14 @@ QImage lighter(const QImage& picture) {
     });
 }
 
+QIcon lighter(const QIcon& icon) {
+    QIcon result;
+    for (const QSize& size : icon.availableSizes()) {
+        result.addPixmap(QPixmap::fromImage(lighter(icon.pixmap(size, 1.0).toImage())));
+    }
+    return result;
+}
+
 bool is_on_paper(const QImage& picture) {
     const int right = picture.width() - 1;
     const int bottom = picture.height() - 1;
