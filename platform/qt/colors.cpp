@@ -66,14 +66,6 @@ QColor ground_among(const QWidget& widget, const QColor& given, const Roles& rol
     return theme::mix(given, own, given.hsvSaturation() < kGrey ? kGreyShare : kColorShare);
 }
 
-/// A selection in the accent would not be seen on a ground much like it.
-void show_selection(QPalette& palette, const QColor& ground, const QColor& text) {
-    if (theme::contrast(palette.color(QPalette::Highlight), ground) < theme::kDisabledContrast) {
-        palette.setColor(QPalette::Highlight, text);
-        palette.setColor(QPalette::HighlightedText, ground);
-    }
-}
-
 } // namespace
 
 QColor to_qt(Color color) {
@@ -121,7 +113,7 @@ void WidgetColors::apply(QWidget& widget, Color back, Color fore) {
         if (roles.back.front() == QPalette::Window) {
             theme::set_ground(palette, ground);
         } else if (roles.back.front() == QPalette::Base) {
-            show_selection(palette, ground, text);
+            theme::show_selection(palette, ground, text);
         }
     }
     for (const QPalette::ColorRole role : roles.fore) {

@@ -1,5 +1,6 @@
 #include "platform/qt/widgets/amount_field.hpp"
 
+#include "platform/qt/widgets/contrast.hpp"
 #include "platform/qt/widgets/theme.hpp"
 
 #include <QEvent>
@@ -46,6 +47,7 @@ void AmountField::clear_ground() {
     for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
         clear.setColor(group, QPalette::Text, around.color(group, QPalette::WindowText));
     }
+    theme::show_selection(clear, around.color(QPalette::Window), around.color(QPalette::WindowText));
     setPalette(clear);
 }
 

@@ -52,4 +52,11 @@ void set_text(QPalette& palette, std::initializer_list<QPalette::ColorRole> role
     }
 }
 
+void show_selection(QPalette& palette, const QColor& ground, const QColor& text) {
+    if (contrast(palette.color(QPalette::Highlight), ground) < kDisabledContrast) {
+        palette.setColor(QPalette::Highlight, text);
+        palette.setColor(QPalette::HighlightedText, ground);
+    }
+}
+
 } // namespace quittika::theme

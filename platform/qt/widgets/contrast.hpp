@@ -21,4 +21,7 @@ QColor soft(const QColor& text, const QColor& ground, double share, double least
 void set_text(QPalette& palette, std::initializer_list<QPalette::ColorRole> roles, const QColor& text,
               const QColor& ground);
 
+/// Gives the selection the colours of text and ground where the accent would not be seen on that ground.
+void show_selection(QPalette& palette, const QColor& ground, const QColor& text);
+
 } // namespace quittika::theme

@@ -1,10 +1,8 @@
 #include "platform/qt/widgets/dress.hpp"
 
 #include "platform/qt/widgets/theme.hpp"
-#include "platform/qt/widgets/tile_button.hpp"
 #include "platform/qt/widgets/tint.hpp"
 
-#include <QAbstractButton>
 #include <QAction>
 #include <QFont>
 #include <QIcon>
@@ -66,22 +64,16 @@ void fit_to_text(QWidget& window) {
     window.resize((window.size() * factor).boundedTo(room));
 }
 
-template <class Part> void lighten_icons(QWidget& window) {
-    for (Part* part : window.findChildren<Part*>()) {
-        const bool by_itself = qobject_cast<TileButton*>(part) != nullptr;
-        if (!part->icon().isNull() && !by_itself) {
-            part->setIcon(lighter(part->icon()));
-        }
-    }
-}
-
 } // namespace
 
 void dress(QWidget& window) {
     fit_to_text(window);
     if (dark()) {
-        lighten_icons<QAbstractButton>(window);
-        lighten_icons<QAction>(window);
+        for (QAction* entry : window.findChildren<QAction*>()) {
+            if (!entry->icon().isNull()) {
+                entry->setIcon(lighter(entry->icon()));
+            }
+        }
     }
 }
 

@@ -1,6 +1,7 @@
 #include "platform/qt/widgets/theme.hpp"
 
 #include "platform/qt/widgets/contrast.hpp"
+#include "platform/qt/widgets/tint.hpp"
 
 #include <QAbstractItemView>
 #include <QApplication>
@@ -50,9 +51,9 @@ bool is_dark(const QColor& color) {
     return color.lightness() < kMiddle;
 }
 
-/// Entries of a menu bar in the text colour of the window that they stand on, and tabs with their pages on its
-/// ground, whatever its colour; ticks and icons as large as the text asks for; the focus to be seen on lists,
-/// long texts, scroll bars and sliders.
+/// Entries of a menu bar in the text colour of the window that they stand on, and tabs with their pages on
+/// its ground, whatever its colour; ticks and icons as large as the text asks for; the focus to be seen on
+/// lists, long texts, scroll bars and sliders.
 class ProgramStyle : public QProxyStyle {
 public:
     /// `scale`: of ticks and icons.
@@ -89,6 +90,13 @@ public:
             draw_page(*option, *painter);
             return;
         }
+        if (element == PE_FrameGroupBox) { // the style's own shades the ground
+            constexpr double kRadius = 4.0;
+            constexpr int kGap = 3; ///< between title and frame
+            const int title = option->fontMetrics.height() + kGap;
+            outline(*painter, option->rect.adjusted(0, title, 0, 0), line_color(palette), kRadius);
+            return;
+        }
         QProxyStyle::drawPrimitive(element, option, painter, widget);
         const bool has_focus = option->state.testFlag(State_HasFocus);
         if (element == PE_Frame && has_focus && qobject_cast<const QAbstractScrollArea*>(widget) != nullptr) {
@@ -96,7 +104,7 @@ public:
         } else if (element == PE_FrameFocusRect) {
             draw_focus(*option, *painter, widget);
         } else if (is_dark(palette.color(QPalette::Window))) {
-            draw_dark_outline(element, *option, *painter);
+            draw_dark_outline(element, *option, *painter, widget);
         }
     }
 
@@ -112,6 +120,13 @@ public:
                      const QWidget* widget) const override {
         if (element == CE_TabBarTabShape) {
             draw_tab(*option, *painter);
+            return;
+        }
+        const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option);
+        if (element == CE_PushButtonLabel && button != nullptr) {
+            QStyleOptionButton own(*button);
+            own.icon = icon_on(button->icon, button->palette.color(QPalette::Button));
+            QProxyStyle::drawControl(element, &own, painter, widget);
             return;
         }
         const auto* entry = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
@@ -173,7 +188,8 @@ private:
     }
 
     /// The style's own outlines are darker than the ground, which nobody sees on a dark one.
-    static void draw_dark_outline(PrimitiveElement element, const QStyleOption& option, QPainter& painter) {
+    static void draw_dark_outline(PrimitiveElement element, const QStyleOption& option, QPainter& painter,
+                                  const QWidget* widget) {
         constexpr double kShare = 0.4;
         constexpr double kFieldShare = 0.2;
         constexpr double kRadius = 2.0;
@@ -183,7 +199,8 @@ private:
             outline(painter, option.rect, mix(text, ground, kShare), kRadius);
         } else if (element == PE_IndicatorRadioButton) {
             outline(painter, option.rect, mix(text, ground, kShare), option.rect.width() / 2.0);
-        } else if (element == PE_FrameLineEdit || element == PE_Frame) {
+        } else if (element == PE_FrameLineEdit ||
+                   (element == PE_Frame && qobject_cast<const QAbstractScrollArea*>(widget) != nullptr)) {
             const bool has_focus = option.state.testFlag(State_HasFocus);
             outline(painter, option.rect, has_focus ? focus_color(ground) : mix(text, ground, kFieldShare),
                     kRadius);
@@ -202,15 +219,17 @@ void set_light(QPalette& palette) {
     }
 }
 
-/// Disabled text of a desktop's own palette may be too faint to be read.
+/// Disabled text of a dark desktop's own palette may be too faint to be read, above all on groups and
+/// buttons, which are lighter than their colour says.
 void soften_disabled(QPalette& palette) {
     constexpr double kShare = 0.55;
+    constexpr int kLighter = 160;
     constexpr std::pair<QPalette::ColorRole, QPalette::ColorRole> kTexts[] = {
         {QPalette::WindowText, QPalette::Window},
         {QPalette::Text, QPalette::Base},
         {QPalette::ButtonText, QPalette::Button}};
     for (const auto& [text, ground] : kTexts) {
-        const QColor under = palette.color(QPalette::Disabled, ground);
+        const QColor under = palette.color(QPalette::Disabled, ground).lighter(kLighter);
         if (contrast(palette.color(QPalette::Disabled, text), under) < kDisabledContrast) {
             palette.setColor(QPalette::Disabled, text,
                              soft(palette.color(QPalette::Active, text), under, kShare, kDisabledContrast));

@@ -1,6 +1,5 @@
 #include "platform/qt/widgets/tile_button.hpp"
 
-#include "platform/qt/widgets/contrast.hpp"
 #include "platform/qt/widgets/theme.hpp"
 #include "platform/qt/widgets/tint.hpp"
 
@@ -47,16 +46,6 @@ QColor TileButton::ground() const {
                : QColor(text.red(), text.green(), text.blue(), qRound(shade * 255));
 }
 
-QIcon TileButton::icon_on(const QColor& under) {
-    if (theme::readable_on(under) == QColor(Qt::black)) {
-        return icon();
-    }
-    if (light_.isNull()) {
-        light_ = theme::lighter(icon());
-    }
-    return light_;
-}
-
 void TileButton::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
@@ -69,7 +58,8 @@ void TileButton::paintEvent(QPaintEvent* /*event*/) {
     const QRect content = rect().adjusted(0, kPadding, 0, -kPadding);
     const QRect picture((width() - iconSize().width()) / 2, content.top(), iconSize().width(),
                         iconSize().height());
-    icon_on(under).paint(&painter, picture, Qt::AlignCenter, isEnabled() ? QIcon::Normal : QIcon::Disabled);
+    theme::icon_on(icon(), under)
+        .paint(&painter, picture, Qt::AlignCenter, isEnabled() ? QIcon::Normal : QIcon::Disabled);
 
     const auto role = testAttribute(Qt::WA_SetPalette) ? QPalette::ButtonText : QPalette::WindowText;
     painter.setPen(palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, role));

@@ -19,9 +19,6 @@ protected:
 
 private:
     QColor ground() const;
-    QIcon icon_on(const QColor& under);
-
-    QIcon light_; ///< made when it is needed
 };
 
 } // namespace quittika

@@ -1,5 +1,7 @@
 #include "platform/qt/widgets/tint.hpp"
 
+#include "platform/qt/widgets/contrast.hpp"
+
 #include <algorithm>
 #include <array>
 
@@ -49,6 +51,11 @@ QIcon lighter(const QIcon& icon) {
         result.addPixmap(QPixmap::fromImage(lighter(icon.pixmap(size, 1.0).toImage())));
     }
     return result;
+}
+
+QIcon icon_on(const QIcon& icon, const QColor& ground) {
+    const bool light_ground = readable_on(ground) == QColor(Qt::black);
+    return icon.isNull() || light_ground ? icon : lighter(icon);
 }
 
 bool is_on_paper(const QImage& picture) {
