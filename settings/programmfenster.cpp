@@ -3,6 +3,8 @@
 #include "platform/datei.hpp"
 #include "platform/laufzeitfehler.hpp"
 
+#include <string>
+
 namespace quittika {
 
 namespace {
@@ -82,7 +84,9 @@ void Programmfenster::FARBE_WAEHLEN(Color& farbe) {
         farbe = dialogs_.choose_color(farbe);
     } catch (const Laufzeitfehler& fehler) {
         if (fehler.nummer() != fehler::kDialogAbgebrochen) {
-            throw;
+            dialogs_.message({"Die Farbe ließ sich nicht wählen. Fehlernr.: " +
+                                  std::to_string(fehler.nummer()) + "\r\n" + fehlertext(fehler.nummer()),
+                              "Achtung!", Buttons::Ok, Symbol::Exclamation});
         }
         return;
     }

@@ -74,7 +74,8 @@ private:
         } else if (const auto* line = qobject_cast<const QLineEdit*>(&widget)) {
             add(widget, line->text(), widget.rect().adjusted(3, 3, -3, -3));
         } else if (const auto* area = qobject_cast<const QPlainTextEdit*>(&widget)) {
-            add(*area->viewport(), area->toPlainText(), area->viewport()->rect());
+            const QRect lines(0, 0, area->viewport()->width(), 2 * widget.fontMetrics().height());
+            add(*area->viewport(), area->toPlainText(), lines);
         } else if (const auto* choice = qobject_cast<const QComboBox*>(&widget)) {
             add(widget, choice->currentText(),
                 style.subControlRect(QStyle::CC_ComboBox, &combo, QStyle::SC_ComboBoxEditField, &widget));
@@ -172,7 +173,7 @@ public:
             QWidget& window = *desktop_.window(*form);
             for (const bool enabled : {true, false}) {
                 window.setEnabled(enabled);
-                look_at(window, found);
+                look_at_pages(window, found);
             }
             window.setEnabled(true);
         }
@@ -224,6 +225,16 @@ private:
         }
         if (window.focusWidget() != nullptr) {
             window.focusWidget()->clearFocus();
+        }
+    }
+
+    void look_at_pages(QWidget& window, std::string& found) {
+        auto* tabs = window.findChild<QTabWidget*>();
+        for (int page = 0; page < (tabs == nullptr ? 1 : tabs->count()); ++page) {
+            if (tabs != nullptr) {
+                tabs->setCurrentIndex(page);
+            }
+            look_at(window, found);
         }
     }
 

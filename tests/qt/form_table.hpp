@@ -19,7 +19,7 @@ template <class F> std::unique_ptr<Form> make() {
     return std::make_unique<F>();
 }
 
-/// Every form that has a window; the settings are forms without one.
+/// Every form that has a window; `frm_einstellungen` has none.
 inline const std::vector<MakeForm> kForms{make<Form1>,
                                           make<Form_START>,
                                           make<Form_ueber_QUITTIKA>,

@@ -3,6 +3,8 @@
 #include <QColor>
 #include <QPalette>
 
+#include <initializer_list>
+
 namespace quittika::theme {
 
 /// Contrast of two opaque colours as readers see it, 1 to 21: the ratio of their luminances.

@@ -265,12 +265,9 @@ void apply(QApplication& application) {
 
 QColor focus_color(const QColor& ground) {
     constexpr int kLighter = 140;
-    for (const QColor& color : {accent(), accent().lighter(kLighter)}) {
-        if (contrast(color, ground) >= kDisabledContrast) {
-            return color;
-        }
-    }
-    return readable_on(ground);
+    const QColor text = readable_on(ground);
+    const QColor color = text == QColor(Qt::white) ? accent().lighter(kLighter) : accent();
+    return contrast(color, ground) >= kDisabledContrast ? color : text;
 }
 
 void set_ground(QPalette& palette, const QColor& ground) {
