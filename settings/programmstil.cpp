@@ -1,5 +1,7 @@
 #include "settings/programmstil.hpp"
 
+#include "invoice/rechnung.hpp"
+
 #include <algorithm>
 #include <iterator>
 #include <vector>
@@ -148,6 +150,7 @@ void Programmstil::Command_Vorschau_Click() {
         teil->OwnLook = eigenes_aussehen;
         teil->BackColor = werte_.FORMULARFARBE;
     }
+    LieferdatumFreigeben(form1_);
     HINTERGRUNDBILD_NEHMEN();
     gezeigt_ = wahl();
 }

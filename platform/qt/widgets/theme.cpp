@@ -14,6 +14,7 @@
 #include <QProxyStyle>
 #include <QStyle>
 #include <QStyleOption>
+#include <QToolButton>
 #include <algorithm>
 #include <utility>
 
@@ -97,6 +98,13 @@ public:
             outline(*painter, option->rect.adjusted(0, title, 0, 0), line_color(palette), kRadius);
             return;
         }
+        if (element >= PE_IndicatorArrowDown && element <= PE_IndicatorArrowUp &&
+            qobject_cast<const QToolButton*>(widget) != nullptr) {
+            QStyleOption own(*option);
+            own.palette = arrow_palette(own.palette);
+            QProxyStyle::drawPrimitive(element, &own, painter, widget);
+            return;
+        }
         QProxyStyle::drawPrimitive(element, option, painter, widget);
         const bool has_focus = option->state.testFlag(State_HasFocus);
         if (element == PE_Frame && has_focus && qobject_cast<const QAbstractScrollArea*>(widget) != nullptr) {
@@ -110,7 +118,14 @@ public:
 
     void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
                             const QWidget* widget) const override {
-        QProxyStyle::drawComplexControl(control, option, painter, widget);
+        if (const auto* slider = qstyleoption_cast<const QStyleOptionSlider*>(option);
+            control == CC_ScrollBar && slider != nullptr) {
+            QStyleOptionSlider own(*slider);
+            own.palette = arrow_palette(own.palette);
+            QProxyStyle::drawComplexControl(control, &own, painter, widget);
+        } else {
+            QProxyStyle::drawComplexControl(control, option, painter, widget);
+        }
         if ((control == CC_ScrollBar || control == CC_Slider) && option->state.testFlag(State_HasFocus)) {
             outline(*painter, option->rect, focus_color(option->palette.color(QPalette::Window)), 0);
         }
@@ -155,6 +170,16 @@ private:
         const double shift = radius > 0 ? 0.5 : 0.0;
         painter.drawRoundedRect(QRectF(rect).adjusted(shift, shift, shift - 1, shift - 1), radius, radius);
         painter.restore();
+    }
+
+    /// The style draws arrows on buttons in the text colour of the window, which may be that of the buttons.
+    static QPalette arrow_palette(QPalette palette) {
+        const QColor button = palette.color(QPalette::Button);
+        if (contrast(palette.color(QPalette::WindowText), button) < kTextContrast) {
+            palette.setBrush(QPalette::WindowText, palette.buttonText());
+            palette.setColor(QPalette::Window, button);
+        }
+        return palette;
     }
 
     static QColor line_color(const QPalette& palette) {
