@@ -43,8 +43,9 @@ constexpr RoleColor kLight[] = {
 };
 
 constexpr RoleColor kLightDisabled[] = {
-    {QPalette::WindowText, 0xff737e8a}, {QPalette::Text, 0xff737e8a},      {QPalette::ButtonText, 0xff737e8a},
-    {QPalette::Base, 0xffeef1f4},       {QPalette::Highlight, 0xffb9c2cc},
+    {QPalette::WindowText, 0xff737e8a}, {QPalette::Text, 0xff737e8a},
+    {QPalette::ButtonText, 0xff737e8a}, {QPalette::Base, 0xffeef1f4},
+    {QPalette::Highlight, 0xffb9c2cc},  {QPalette::HighlightedText, 0xff4b5661},
 };
 
 bool is_dark(const QColor& color) {
@@ -249,6 +250,8 @@ void set_light(QPalette& palette) {
 void soften_disabled(QPalette& palette) {
     constexpr double kShare = 0.55;
     constexpr int kLighter = 160;
+    palette.setColor(QPalette::Disabled, QPalette::HighlightedText,
+                     readable_on(palette.color(QPalette::Disabled, QPalette::Highlight)));
     constexpr std::pair<QPalette::ColorRole, QPalette::ColorRole> kTexts[] = {
         {QPalette::WindowText, QPalette::Window},
         {QPalette::Text, QPalette::Base},
