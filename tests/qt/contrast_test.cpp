@@ -102,9 +102,14 @@ private:
 double drawn_contrast(const QImage& picture, const Text& text) {
     constexpr int kStem = 3; ///< pixels; a letter has more of its colour
     QHash<QRgb, int> colors;
-    for (int y = text.place.top(); y <= text.place.bottom(); ++y) {
-        for (int x = text.place.left(); x <= text.place.right(); ++x) {
-            ++colors[picture.pixel(x, y)];
+    const QRect place = text.place.intersected(picture.rect());
+    for (int y = place.top(); y <= place.bottom(); ++y) {
+        const auto* line = reinterpret_cast<const QRgb*>(picture.constScanLine(y));
+        const auto* end = line + place.right() + 1;
+        for (const auto* run = line + place.left(); run != end;) {
+            const auto* next = std::find_if(run, end, [run](QRgb color) { return color != *run; });
+            colors[*run] += static_cast<int>(next - run);
+            run = next;
         }
     }
     QRgb ground = 0;
