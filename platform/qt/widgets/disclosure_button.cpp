@@ -2,6 +2,7 @@
 
 #include "platform/qt/widgets/theme.hpp"
 
+#include <QEvent>
 #include <QPainter>
 #include <QPolygonF>
 #include <QScrollArea>
