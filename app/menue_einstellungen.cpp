@@ -3,11 +3,14 @@
 namespace quittika {
 
 void MENUE_EINSTELLUNGEN(Form1& form1, frm_einstellungen& einstellungen, const Ereignisse& ereignisse,
-                         Einstellungsfenster& fenster) {
-    form1.m_Rechnungsdaten.Click = ereignisse.befehl([&fenster] { fenster.m_Rechnungsdaten_Click(); });
-    form1.m_druckjustierung.Click = ereignisse.befehl([&fenster] { fenster.m_druckjustierung_Click(); });
-    SPERREN({&form1.m_Programmeinstellungen, &form1.m_startdesigner, &form1.Command2,
-             &einstellungen.CMD_DESIGNER});
+                         Einstellungsfenster& einstellungsfenster, Programmfenster& programmfenster) {
+    form1.m_Rechnungsdaten.Click =
+        ereignisse.befehl([&einstellungsfenster] { einstellungsfenster.m_Rechnungsdaten_Click(); });
+    form1.m_druckjustierung.Click =
+        ereignisse.befehl([&einstellungsfenster] { einstellungsfenster.m_druckjustierung_Click(); });
+    form1.m_Programmeinstellungen.Click =
+        ereignisse.befehl([&programmfenster] { programmfenster.m_Programmeinstellungen_Click(); });
+    SPERREN({&form1.m_startdesigner, &form1.Command2, &einstellungen.CMD_DESIGNER});
 }
 
 } // namespace quittika

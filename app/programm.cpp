@@ -29,6 +29,7 @@
 #include "settings/einstellungsfelder.hpp"
 #include "settings/einstellungsfenster.hpp"
 #include "settings/logo.hpp"
+#include "settings/programmfenster.hpp"
 
 #include <utility>
 
@@ -43,7 +44,7 @@ struct Programm::Teile {
         platform.desktop.adopt(form_start);
         MENUE_LISTEN(form1, ereignisse, platform.dialogs);
         MENUE_DRUCKEN(form1, etiketten);
-        MENUE_EINSTELLUNGEN(form1, einstellungen, ereignisse, einstellungsfenster);
+        MENUE_EINSTELLUNGEN(form1, einstellungen, ereignisse, einstellungsfenster, programmfenster);
         MENUE_EXTRAS(form1, eingabezeile);
     }
 
@@ -108,7 +109,7 @@ struct Programm::Teile {
                                     }};
     KundeAufnehmen kunde_aufnehmen{form1, verzeichnis, platform.dialogs};
     Logo logo{form1, einstellungen, werte};
-    Programmstil stil{form1, einstellungen, programm, werte};
+    Programmstil stil{form1, einstellungen, programm, werte, platform.desktop};
     Folgeschritte folgeschritte{form1,       einstellungen,     programm, werte,
                                 verzeichnis, platform.pictures, zuletzt,  stil};
     Einstellungsuebernahme uebernahme{form1,    einstellungen, programm, werte,
@@ -127,6 +128,9 @@ struct Programm::Teile {
     Einstellungsfenster einstellungsfenster{
         einstellungen, werte, zustand,    uebernahme, einstellungsschreiber,
         nummern,       logo,  bilderwahl, summen,     platform.dialogs};
+    Programmfenster programmfenster{
+        form1,       programm,         werte,           zustand, stil, einstellungsschreiber,
+        verzeichnis, platform.dialogs, platform.desktop};
     ErsteRechnung erste_rechnung{form1, einstellungen, vorgaben, rechnung, nummern, platform.clock};
 
     // The main window: its areas, then the window, then its menus.

@@ -45,7 +45,11 @@ void ZweiteKopfzeileZeigen(Form1& form1) {
 void LieferdatumFreigeben(Form1& form1) {
     const bool frei = form1.Check_LIEFERDATUM.ticked();
     form1.Text_LIEFERDATUM.Enabled = frei;
-    form1.Text_LIEFERDATUM.BackColor = frei ? color::kWhite : color::kGrey;
+    // Shut, it takes the colour of the frame, or looks as the desktop's own where the frame does.
+    const Frame& rahmen = form1.Frame_rechnung;
+    const bool gefaerbt = rahmen.BackColor() >= 0;
+    form1.Text_LIEFERDATUM.OwnLook = !frei && (rahmen.OwnLook() || !gefaerbt);
+    form1.Text_LIEFERDATUM.BackColor = frei ? color::kWhite : gefaerbt ? rahmen.BackColor() : color::kGrey;
 }
 
 Rechnung::Rechnung(Form1& form1, Rechnungszustand& zustand, Eingabezeile& eingabezeile, const Clock& uhr)

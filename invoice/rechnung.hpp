@@ -41,7 +41,7 @@ void SatzAuswahlZeigen(Form1& form1, const PROGRAMMEINSTELLUNG& einstellung);
 /// Takes the headings of the columns over the input line from those over the list.
 void ZweiteKopfzeileZeigen(Form1& form1);
 
-/// Enables the delivery date and its colour by `Check_LIEFERDATUM`.
+/// Enables the delivery date by `Check_LIEFERDATUM`: white then, else in the colour of its frame.
 void LieferdatumFreigeben(Form1& form1);
 
 } // namespace quittika

@@ -4,6 +4,13 @@
 
 namespace quittika {
 
+/// Colours of the windows and of the groups on them that have none of their own.
+struct Look {
+    Color window = color::kButtonFace;
+    Color group = color::kButtonFace;
+    bool operator==(const Look&) const = default;
+};
+
 /// The desktop's windows. Implemented with real windows and by the script runner.
 class Desktop {
 public:
@@ -24,6 +31,9 @@ public:
     virtual void raise(Form& form) = 0;
     /// Gives a control the focus, and its form with it.
     virtual void set_focus(Control& control) = 0;
+
+    /// Paints all windows so, those that are made later included.
+    virtual void set_look(const Look& look) = 0;
 
     /// Size of the screen in twips.
     virtual int screen_width() const = 0;

@@ -16,11 +16,13 @@ void Einstellungsstart::Laden() {
 
 void Einstellungsstart::BilderLaden() {
     struct Bild {
-        PictureBox& feld;
+        PictureControl& feld;
         const char* datei;
     };
     for (const Bild& bild : {Bild{einstellungen_.Picture1, "\\ihrlogo.bmp"},
-                             {einstellungen_.Picture_wasserz, "\\wasserzqk2008.bmp"}}) {
+                             {einstellungen_.Picture_wasserz, "\\wasserzqk2008.bmp"},
+                             {programm_.Image_Speicher_stroh, "\\stroh.png"},
+                             {programm_.Image_Speicher_strohbraun, "\\strohbraun.png"}}) {
         const std::string pfad = verzeichnis_.pfad(bild.datei);
         if (bild.feld.Picture().empty() && datei_vorhanden(pfad)) {
             bild.feld.Picture = systempfad(pfad);

@@ -105,7 +105,8 @@ private:
         haekchen({&e_.Check_mwst});
         optionen({&e_.Option_mwst_plus, &e_.Option_mwst_minus});
         texte({&e_.Text_logopath});
-        neu(Zeilenform::Bool, form1_.Image_hintergrund);
+        // As taken over; the window may show a style that is only tried.
+        neu(form1_.Image_hintergrund.name(), Zeilenform::Bool, &w_.HINTERGRUNDBILD);
         optionen({&programm_.Option_stil6stroh, &programm_.Option_stil7stroh});
     }
     void druckfarben() {
@@ -202,10 +203,11 @@ Einstellungstabelle EINSTELLUNGSTABELLE(Form1& form1, frm_einstellungen& einstel
 std::string ZEILENTEXT(const Einstellungszeile& zeile) {
     return std::visit(Je{[&](std::monostate) { return zeile.vorgabe; },
                          [](const OptionButton* option) { return option->Value.as_text(); },
-                         [](const Image* bild) { return bild->Visible.as_text(); },
                          [](const std::string* text) { return *text; },
                          [](const std::int32_t* zahl) { return std::to_string(*zahl); },
-                         [](const bool* an) { return std::string(*an ? "1" : "0"); },
+                         [&](const bool* an) {
+                             return std::string(!*an ? "0" : zeile.form == Zeilenform::Bool ? "-1" : "1");
+                         },
                          [](const auto* feld) { return feld->main_value(); }},
                       zeile.besitzer);
 }
@@ -216,12 +218,13 @@ void ZEILE_SETZEN(const Einstellungszeile& zeile, const std::string& text) {
                   [&](CheckBox* feld) { feld->Value = nach_int16(text); },
                   [&](OptionButton* feld) { feld->Value = bool_aus(text); },
                   [&](RangeControl* feld) { regler_setzen(*feld, zeile, text); },
-                  [&](Image* feld) { feld->Visible = bool_aus(text); },
                   [&](std::string* wert) { *wert = text; },
                   [&](std::int32_t* wert) {
                       *wert = zeile.form == Zeilenform::Long ? nach_int32(text) : nach_int16(text);
                   },
-                  [&](bool* wert) { *wert = nach_int16(text) == 1; }},
+                  [&](bool* wert) {
+                      *wert = zeile.form == Zeilenform::Bool ? bool_aus(text) : nach_int16(text) == 1;
+                  }},
                zeile.besitzer);
 }
 

@@ -31,7 +31,7 @@ enum class Zeilenform : std::uint8_t {
 /// A line of the settings file: what it is called, where its value lives, and what it begins with.
 struct Einstellungszeile {
     using Besitzer = std::variant<std::monostate, TextBox*, Label*, CheckBox*, OptionButton*, RangeControl*,
-                                  Image*, std::string*, std::int32_t*, bool*>;
+                                  std::string*, std::int32_t*, bool*>;
     std::string schluessel;
     Zeilenform form;
     Besitzer besitzer;

@@ -66,8 +66,7 @@ void Folgeschritte::MwStUndWaehrung() {
 }
 
 void Folgeschritte::Individualfarben() {
-    programm_.Frame_farbe_formular.BackColor = werte_.FARBE_INDIVIDUELL_FORMULAR;
-    programm_.Frame_farbe_hintergrund.BackColor = werte_.FARBE_INDIVIDUELL_HINTERGRUND;
+    stil_.DIALOG_ZEIGEN();
 }
 
 void Folgeschritte::Layout() {
@@ -82,7 +81,6 @@ void Folgeschritte::Programmfarben() {
     if (programm_.Option_stil5.Value()) {
         stil_.FARBEN_WAEHLEN();
     }
-    stil_.HINTERGRUNDBILD_NEHMEN();
     stil_.Command_Vorschau_Click();
 }
 

@@ -14,6 +14,7 @@ struct PROGRAMMEINSTELLUNG {
     Color HINTERGRUNDFARBE = 0x97785B;
     Color FARBE_INDIVIDUELL_HINTERGRUND = 0x97785B;
     Color FARBE_INDIVIDUELL_FORMULAR = 0xC0C0C0;
+    bool HINTERGRUNDBILD = false;  ///< the main window has a background picture
     std::string MWST_SATZ1 = "19"; ///< per cent, as typed
     std::string MWST_SATZ2 = "7";  ///< per cent, as typed
     std::string WAEHRUNG = "EUR";

@@ -1,5 +1,7 @@
 #include "settings/programmstil.hpp"
 
+#include "invoice/rechnung.hpp"
+
 #include <algorithm>
 #include <iterator>
 #include <vector>
@@ -16,6 +18,7 @@ struct Stil {
 };
 
 constexpr Color kHellgrau = 0xC0C0C0;
+constexpr int kIndividuell = 5; ///< number of the style of the user's own colours
 
 /// The user's own colours are none of the table's.
 constexpr Stil kStile[] = {
@@ -95,6 +98,16 @@ std::vector<Control*> formularteile(Form1& f) {
 
 } // namespace
 
+Programmstil::Programmstil(Form1& form1, frm_einstellungen& einstellungen, frm_Programm& programm,
+                           PROGRAMMEINSTELLUNG& werte, Desktop& desktop)
+    : form1_(form1), einstellungen_(einstellungen), programm_(programm), werte_(werte), desktop_(desktop) {
+    for (int n = programm.Shape_hintergrund.first(); n <= programm.Shape_hintergrund.size(); ++n) {
+        programm.Shape_hintergrund[n].BackColor = kStile[n - 1].hintergrund;
+        programm.Shape_formular[n].BackColor = kStile[n - 1].formular;
+    }
+    DIALOG_ZEIGEN();
+}
+
 void Programmstil::FARBEN_WAEHLEN() {
     const Stil* stil = stil_von(programm_);
     if (stil == nullptr) {
@@ -105,15 +118,30 @@ void Programmstil::FARBEN_WAEHLEN() {
     werte_.FORMULARFARBE = individuell ? werte_.FARBE_INDIVIDUELL_FORMULAR : stil->formular;
 }
 
+void Programmstil::Option_stil_Click() {
+    const Stil* stil = stil_von(programm_);
+    if (stil == nullptr) {
+        const PROGRAMMEINSTELLUNG anfang;
+        werte_.HINTERGRUNDFARBE = anfang.HINTERGRUNDFARBE;
+        werte_.FORMULARFARBE = anfang.FORMULARFARBE;
+    }
+    FARBEN_WAEHLEN();
+    werte_.HINTERGRUNDBILD = stil != nullptr && stil->bild != nullptr;
+    DIALOG_ZEIGEN();
+    Command_Vorschau_Click();
+}
+
 void Programmstil::HINTERGRUNDBILD_NEHMEN() {
     const Stil* stil = stil_von(programm_);
     if (stil != nullptr && stil->bild != nullptr) {
         form1_.Image_hintergrund.Picture = (programm_.*stil->bild).Picture();
     }
+    form1_.Image_hintergrund.Visible = werte_.HINTERGRUNDBILD;
 }
 
 void Programmstil::Command_Vorschau_Click() {
     const bool eigenes_aussehen = stil_von(programm_) == nullptr;
+    desktop_.set_look(eigenes_aussehen ? Look{} : Look{werte_.HINTERGRUNDFARBE, werte_.FORMULARFARBE});
     for (Form* fenster : std::initializer_list<Form*>{&form1_, &einstellungen_, &programm_}) {
         fenster->OwnLook = eigenes_aussehen;
         fenster->BackColor = werte_.HINTERGRUNDFARBE;
@@ -122,6 +150,42 @@ void Programmstil::Command_Vorschau_Click() {
         teil->OwnLook = eigenes_aussehen;
         teil->BackColor = werte_.FORMULARFARBE;
     }
+    LieferdatumFreigeben(form1_);
+    HINTERGRUNDBILD_NEHMEN();
+    gezeigt_ = wahl();
+}
+
+void Programmstil::DIALOG_ZEIGEN() {
+    programm_.Option_stil_standard.Value = stil_von(programm_) == nullptr;
+    programm_.Frame_Individuell.Visible = programm_.Option_stil5.Value();
+    for (Control* muster : std::initializer_list<Control*>{&programm_.Frame_farbe_formular,
+                                                           &programm_.Shape_formular[kIndividuell]}) {
+        muster->BackColor = werte_.FARBE_INDIVIDUELL_FORMULAR;
+    }
+    for (Control* muster : std::initializer_list<Control*>{&programm_.Frame_farbe_hintergrund,
+                                                           &programm_.Shape_hintergrund[kIndividuell]}) {
+        muster->BackColor = werte_.FARBE_INDIVIDUELL_HINTERGRUND;
+    }
+}
+
+Stilwahl Programmstil::wahl() const {
+    const Stil* stil = stil_von(programm_);
+    return {stil == nullptr ? &frm_Programm::Option_stil_standard : stil->knopf,
+            werte_.HINTERGRUNDFARBE,
+            werte_.FORMULARFARBE,
+            werte_.FARBE_INDIVIDUELL_HINTERGRUND,
+            werte_.FARBE_INDIVIDUELL_FORMULAR,
+            werte_.HINTERGRUNDBILD};
+}
+
+void Programmstil::setzen(const Stilwahl& wahl) {
+    (programm_.*wahl.knopf).Value = true;
+    werte_.HINTERGRUNDFARBE = wahl.hintergrund;
+    werte_.FORMULARFARBE = wahl.formular;
+    werte_.FARBE_INDIVIDUELL_HINTERGRUND = wahl.individuell_hintergrund;
+    werte_.FARBE_INDIVIDUELL_FORMULAR = wahl.individuell_formular;
+    werte_.HINTERGRUNDBILD = wahl.bild;
+    DIALOG_ZEIGEN();
 }
 
 } // namespace quittika

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/script/script_clock.hpp"
+#include "platform/script/script_desktop.hpp"
 #include "settings/einstellungsfelder.hpp"
 #include "settings/einstellungsfenster.hpp"
 #include "settings/einstellungsstart.hpp"
@@ -11,7 +13,9 @@ namespace quittika {
 struct Einstellungsstand : Pruefstand {
     PictureHeaders bilder;
     Logo logo{form1, einstellungen, werte};
-    Programmstil stil{form1, einstellungen, programm, werte};
+    ScriptClock skriptuhr;
+    ScriptDesktop desktop{skriptuhr};
+    Programmstil stil{form1, einstellungen, programm, werte, desktop};
     Folgeschritte folgeschritte{form1, einstellungen, programm, werte, verzeichnis, bilder, zuletzt, stil};
     Einstellungsuebernahme uebernahme{form1,    einstellungen, programm, werte,
                                       vorgaben, logo,          stil,     einstellungsschreiber};

@@ -12,6 +12,20 @@
 
 namespace quittika {
 
+namespace {
+
+/// Whether a design's text is the caption. It may mark a letter for the Alt key where the caption has none,
+/// and leave out blanks that only break lines.
+bool is_caption(const QString& text, const QString& caption) {
+    if (caption.contains(QLatin1Char('&'))) {
+        return text == caption;
+    }
+    QString plain = text;
+    return plain.remove(QLatin1Char('&')) == caption.simplified();
+}
+
+} // namespace
+
 template <class C, class W>
 ButtonView<C, W>::ButtonView(C& control, W& widget) : TypedView<C, W>(control, widget) {
     QObject::connect(&widget, &QAbstractButton::clicked, this, [this] { clicked(); });
@@ -20,7 +34,7 @@ ButtonView<C, W>::ButtonView(C& control, W& widget) : TypedView<C, W>(control, w
 template <class C, class W> void ButtonView<C, W>::push(PropertyId id) {
     if (id == PropertyId::Caption) {
         const QString caption = to_qt(this->control_.Caption());
-        if (caption != this->widget_.text()) {
+        if (!is_caption(this->widget_.text(), caption)) {
             this->widget_.setText(caption);
         }
     } else if (id == PropertyId::Value) {

@@ -1,6 +1,7 @@
 #include "platform/qt/colors.hpp"
 
 #include "platform/qt/widgets/card.hpp"
+#include "platform/qt/widgets/contrast.hpp"
 #include "platform/qt/widgets/theme.hpp"
 
 #include <QAbstractButton>
@@ -18,7 +19,6 @@ namespace quittika {
 
 namespace {
 
-constexpr double kDisabledShare = 0.55; ///< how much of the text's colour is left on a disabled control
 constexpr int kMiddle = 128;
 
 struct Roles {
@@ -46,25 +46,24 @@ Roles roles_of(const QWidget& widget) {
     return {{QPalette::Window}, {QPalette::WindowText}, !paints_itself};
 }
 
-/// On a dark desktop, buttons and fields take a light colour as a tinge of their own: white is then the
-/// desktop's own ground, a grey a shade above it.
-QColor ground_on_desktop(const QColor& given, const Roles& roles) {
+/// Among dark fields, buttons and fields take a light colour as a tinge of their own: white is then the
+/// ground that they have anyway, a grey a shade above it.
+QColor ground_among(const QWidget& widget, const QColor& given, const Roles& roles) {
     constexpr double kGreyShare = 0.2;
     constexpr double kColorShare = 0.45;
     constexpr int kGrey = 40; ///< largest saturation
     const QPalette::ColorRole role = roles.back.front();
-    if (!theme::dark() || role == QPalette::Window || given.lightness() < kMiddle) {
+    const QWidget* around = widget.parentWidget();
+    const QPalette palette = around == nullptr ? QApplication::palette() : around->palette();
+    const bool among_dark = palette.color(QPalette::Base).lightness() < kMiddle;
+    if (!among_dark || role == QPalette::Window || given.lightness() < kMiddle) {
         return given;
     }
-    const QColor own = QApplication::palette().color(role);
+    const QColor own = palette.color(role);
     if (given == QColor(Qt::white)) {
         return own;
     }
     return theme::mix(given, own, given.hsvSaturation() < kGrey ? kGreyShare : kColorShare);
-}
-
-QColor readable_on(const QColor& ground) {
-    return qGray(ground.rgb()) < kMiddle ? QColor(Qt::white) : QColor(Qt::black);
 }
 
 } // namespace
@@ -103,16 +102,22 @@ void WidgetColors::apply(QWidget& widget, Color back, Color fore) {
     const Roles roles = roles_of(widget);
     QPalette palette = before_;
     const QColor ground =
-        back < 0 ? widget.palette().color(roles.back.front()) : ground_on_desktop(to_qt(back), roles);
-    if (back >= 0) {
+        back < 0 ? widget.palette().color(roles.back.front()) : ground_among(widget, to_qt(back), roles);
+    const QColor text = own_fore ? theme::readable_on(ground) : to_qt(fore);
+    if (back >= 0 && widget.isWindow()) {
+        palette = theme::painted(ground);
+    } else if (back >= 0) {
         for (const QPalette::ColorRole role : roles.back) {
             palette.setColor(role, ground);
         }
+        if (roles.back.front() == QPalette::Window) {
+            theme::set_ground(palette, ground);
+        } else if (roles.back.front() == QPalette::Base) {
+            theme::show_selection(palette, ground, text);
+        }
     }
-    const QColor text = own_fore ? readable_on(ground) : to_qt(fore);
     for (const QPalette::ColorRole role : roles.fore) {
-        palette.setColor(role, text);
-        palette.setColor(QPalette::Disabled, role, theme::mix(text, ground, kDisabledShare));
+        theme::set_text(palette, {role}, text, ground);
     }
     widget.setPalette(palette);
     widget.setAutoFillBackground(had_fill_ || (roles.fill && back >= 0));

@@ -15,14 +15,19 @@ Color from_qt(const QColor& color);
 
 /// Puts a control's colours on its widget. A negative colour is the desktop's own; text on a given ground
 /// is then black or white, whichever can be read, and black text on the desktop's own ground is its own too.
-/// On a dark desktop light buttons and fields are only tinged, so that they do not blind.
+/// Among the dark fields of a dark desktop light buttons and fields are only tinged, so that they do not
+/// blind.
 class WidgetColors {
 public:
-    /// `owner`: a control or a form.
-    template <class Owner> void push(QWidget& widget, const Owner& owner) {
-        apply(widget, owner.OwnLook() ? color::kButtonFace : owner.BackColor(),
+    /// `owner`: a control or a form. `otherwise`: the ground of one that has none of its own.
+    template <class Owner>
+    void push(QWidget& widget, const Owner& owner, Color otherwise = color::kButtonFace) {
+        const Color back = owner.BackColor() < 0 ? otherwise : owner.BackColor();
+        apply(widget, owner.OwnLook() ? color::kButtonFace : back,
               owner.OwnLook() ? color::kWindowText : owner.ForeColor());
     }
+    /// A ground for what has no owner.
+    void push(QWidget& widget, Color back) { apply(widget, back, color::kWindowText); }
 
 private:
     void apply(QWidget& widget, Color back, Color fore);

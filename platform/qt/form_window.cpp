@@ -12,6 +12,7 @@
 #include "platform/qt/timer_view.hpp"
 #include "platform/qt/widget_place.hpp"
 #include "platform/qt/widget_view.hpp"
+#include "platform/qt/widgets/card.hpp"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -109,6 +110,11 @@ void FormWindow::start() {
         window.setWindowFlags(Qt::SplashScreen | Qt::FramelessWindowHint);
     }
     desktop_.built(window);
+    for (Card* group : window.findChildren<Card*>()) {
+        if (form_.find(from_qt(group->objectName())) == nullptr) {
+            groups_.emplace_back(group, WidgetColors());
+        }
+    }
     bind(form_, window, desktop_.tools());
     for (const PropertyId id :
          {PropertyId::Caption, PropertyId::Modified, PropertyId::Enabled, PropertyId::BackColor}) {
@@ -142,7 +148,7 @@ void FormWindow::property_changed(PropertyId id) {
     case PropertyId::BackColor:
     case PropertyId::ForeColor:
     case PropertyId::OwnLook:
-        return colors_.push(*window_, form_);
+        return push_look();
     case PropertyId::WindowState:
         return push_state();
     case PropertyId::Left:
@@ -153,6 +159,22 @@ void FormWindow::property_changed(PropertyId id) {
         return window_->resize(pixels(form_.Width()), pixels(form_.Height()));
     default:
         return;
+    }
+}
+
+void FormWindow::push_look() {
+    if (window_ == nullptr) {
+        return;
+    }
+    const Look& look = desktop_.look();
+    colors_.push(*window_, form_, look.window);
+    for (auto& [group, colors] : groups_) {
+        colors.push(*group, form_.OwnLook() ? color::kButtonFace : look.group);
+    }
+    for (Control* control : form_.controls()) { // a tinge depends on what is around
+        if (control->view() != nullptr) {
+            control->view()->property_changed(PropertyId::BackColor);
+        }
     }
 }
 

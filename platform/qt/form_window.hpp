@@ -8,6 +8,7 @@
 #include <QPointer>
 
 #include <memory>
+#include <utility>
 #include <vector>
 
 class QEventLoop;
@@ -15,6 +16,7 @@ class QWidget;
 
 namespace quittika {
 
+class Card;
 class FileDrop;
 class QtDesktop;
 class TimerView;
@@ -26,6 +28,8 @@ public:
     ~FormWindow() override;
 
     void property_changed(PropertyId id) override;
+    /// Paints the window, and what stands on it, as the desktop and the form want it.
+    void push_look();
 
     Form& form() const { return form_; }
     /// The window, built if need be; null without a design.
@@ -68,8 +72,9 @@ private:
     Form& form_;
     QtDesktop& desktop_;
     WidgetColors colors_;
-    QPointer<QWidget> window_;       ///< a parent window may take it along
-    std::vector<TimerView*> timers_; ///< owned by their controls
+    std::vector<std::pair<Card*, WidgetColors>> groups_; ///< those that no control stands for
+    QPointer<QWidget> window_;                           ///< a parent window may take it along
+    std::vector<TimerView*> timers_;                     ///< owned by their controls
     std::unique_ptr<FileDrop> file_drop_;
     QEventLoop* waiting_ = nullptr;
     Control* first_focus_ = nullptr; ///< asked for before the window was there

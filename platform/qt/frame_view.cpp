@@ -1,6 +1,8 @@
 #include "platform/qt/frame_view.hpp"
 
+#include "platform/qt/qt_desktop.hpp"
 #include "platform/qt/qt_text.hpp"
+#include "platform/qt/widgets/card.hpp"
 
 #include <QEvent>
 #include <QGroupBox>
@@ -37,6 +39,12 @@ void FrameView::push(PropertyId id) {
     } else if (group->title() != caption) {
         group->setTitle(caption);
     }
+}
+
+Color FrameView::ground() const {
+    const auto* desktop = dynamic_cast<const QtDesktop*>(control_.form().desktop());
+    const bool group = desktop != nullptr && qobject_cast<Card*>(&widget_) != nullptr;
+    return group && !control_.form().OwnLook() ? desktop->look().group : WidgetView::ground();
 }
 
 void FrameView::show_caption(const QString& caption) {

@@ -15,6 +15,7 @@ public:
 protected:
     void push(PropertyId id) override;
     Clicks clicks() const override { return Clicks::Taken; }
+    Color ground() const override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:

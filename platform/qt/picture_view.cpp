@@ -3,7 +3,7 @@
 #include "platform/laufzeitfehler.hpp"
 #include "platform/qt/print_page.hpp"
 #include "platform/qt/widgets/backdrop.hpp"
-#include "platform/qt/widgets/theme.hpp"
+#include "platform/qt/widgets/contrast.hpp"
 #include "platform/qt/widgets/tint.hpp"
 
 #include <QLabel>
@@ -12,6 +12,14 @@
 #include <QStyle>
 
 namespace quittika {
+
+namespace {
+
+bool on_dark_ground(const QWidget& widget) {
+    return theme::readable_on(widget.palette().color(QPalette::Window)) == QColor(Qt::white);
+}
+
+} // namespace
 
 PictureView::PictureView(PictureControl& control, QWidget& widget, PaintTools& tools)
     : TypedView(control, widget), tools_(tools), tiled_(qobject_cast<Backdrop*>(&widget)) {}
@@ -23,7 +31,7 @@ void PictureView::push(PropertyId id) {
     ready_ = QPixmap();
     ready_for_ = QSize();
     if (tiled_ != nullptr) {
-        tiled_->setPixmap(QPixmap::fromImage(picture()));
+        tiled_->set_tile(picture());
     }
     widget_.update();
 }
@@ -59,7 +67,7 @@ QPixmap PictureView::scene(const QSize& room) {
     const bool stretched = label != nullptr && label->hasScaledContents();
     const QSize size = stretched ? room : image.size().scaled(room, Qt::KeepAspectRatio);
     const QImage shown = image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-    const bool off_paper = !on_paper() && !stretched && theme::dark() && theme::is_on_paper(shown);
+    const bool off_paper = !on_paper() && !stretched && on_dark_ground(widget_) && theme::is_on_paper(shown);
     return QPixmap::fromImage(off_paper ? theme::for_dark_ground(shown) : shown);
 }
 

@@ -11,8 +11,8 @@ namespace quittika {
 class Backdrop;
 
 /// Image or picture box. A picture fills the widget as far as its proportions allow; a label whose design
-/// sets `scaledContents` stretches it over the whole widget. A drawn page keeps its proportions. On a dark
-/// desktop an image that is drawn on white paper is shown without the paper, unless it is stretched: then it
+/// sets `scaledContents` stretches it over the whole widget. A drawn page keeps its proportions. On dark
+/// ground an image that is drawn on white paper is shown without the paper, unless it is stretched: then it
 /// stands for a part of a page. A picture box shows all as it will be printed.
 /// A file is read when the picture comes to be seen.
 class PictureView final : public TypedView<PictureControl, QWidget> {

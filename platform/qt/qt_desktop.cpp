@@ -103,6 +103,15 @@ void QtDesktop::set_focus(Control& control) {
     }
 }
 
+void QtDesktop::set_look(const Look& look) {
+    if (look_ != look) {
+        look_ = look;
+        for (FormWindow* window : windows_) {
+            window->push_look();
+        }
+    }
+}
+
 int QtDesktop::screen_width() const {
     return twips(QApplication::primaryScreen()->availableGeometry().width());
 }

@@ -34,6 +34,7 @@ public:
     void hide(Form& form) override;
     void raise(Form& form) override;
     void set_focus(Control& control) override;
+    void set_look(const Look& look) override;
     int screen_width() const override;
     int screen_height() const override;
     void beep() override;
@@ -62,6 +63,7 @@ public:
     private:
         QtDesktop& desktop_;
     };
+    const Look& look() const { return look_; }
     /// What the windows draw pictures and pages with.
     PaintTools& tools() { return tools_; }
 
@@ -83,6 +85,7 @@ private:
 
     BuildWindow build_;
     PaintTools tools_;
+    Look look_;
     std::vector<FormWindow*> windows_; ///< owned by their forms
     std::optional<WindowPlaces> places_;
     QPointer<QWidget> main_;                     ///< the first main window that was built

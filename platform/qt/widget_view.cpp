@@ -171,7 +171,7 @@ void WidgetView::push_visible() {
 }
 
 void WidgetView::push_colors() {
-    colors_.push(widget_, control_);
+    colors_.push(widget_, control_, ground());
 }
 
 void WidgetView::push_bold() {

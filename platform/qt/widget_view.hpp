@@ -48,6 +48,8 @@ protected:
     /// The widget in which the mouse is pressed.
     virtual QWidget& surface() const;
     virtual Clicks clicks() const { return Clicks::Own; }
+    /// The ground of a control that has none of its own.
+    virtual Color ground() const { return color::kButtonFace; }
     /// A key press, before the widget gets it. Returns whether the widget shall not get it.
     virtual bool key_pressed(const QKeyEvent& /*event*/) { return false; }
 

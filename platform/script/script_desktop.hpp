@@ -27,6 +27,7 @@ public:
     void raise(Form& form) override;
     /// Fires `LostFocus` and `GotFocus`. A control that cannot be reached on an open window takes no focus.
     void set_focus(Control& control) override;
+    void set_look(const Look& /*look*/) override {} // nothing is painted
     int screen_width() const override { return 15360; }
     int screen_height() const override { return 11520; }
     void beep() override {}

@@ -9,10 +9,6 @@
 namespace quittika::test {
 namespace {
 
-QPalette dark_palette() {
-    return {QColor(49, 54, 59), QColor(42, 46, 50)};
-}
-
 struct Pushed {
     const char* what;
     void (*set)(AllKinds&);

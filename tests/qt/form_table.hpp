@@ -7,6 +7,7 @@
 #include "print/form_druckvorschau.hpp"
 #include "print/form_lieferschein_opt.hpp"
 #include "settings/frm_einstellungen.hpp"
+#include "settings/frm_programm.hpp"
 
 #include <memory>
 #include <vector>
@@ -19,10 +20,11 @@ template <class F> std::unique_ptr<Form> make() {
     return std::make_unique<F>();
 }
 
-/// Every form that has a window; the program settings are a form without one.
+/// Every form that has a window.
 inline const std::vector<MakeForm> kForms{make<Form1>,
                                           make<Form_START>,
                                           make<Form_ueber_QUITTIKA>,
+                                          make<frm_Programm>,
                                           make<Form_Lieferschein_opt>,
                                           make<Form_Druckvorschau>,
                                           make<Form2_PAKET_ETIKETT>,

@@ -1,5 +1,6 @@
 #include "platform/qt/widgets/card.hpp"
 
+#include "platform/qt/widgets/contrast.hpp"
 #include "platform/qt/widgets/theme.hpp"
 
 #include <QEvent>
@@ -55,7 +56,7 @@ void Card::paintEvent(QPaintEvent* /*event*/) {
         return;
     }
     painter.setFont(title_font());
-    painter.setPen(theme::mix(text, panel, 0.75));
+    painter.setPen(theme::soft(text, panel, 0.75));
     const QRect line(kTitleLeft, kTitleTop, width() - 2 * kTitleLeft, QFontMetrics(title_font()).height());
     painter.drawText(line, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextShowMnemonic, title());
 }

@@ -2,6 +2,7 @@
 
 #include "platform/qt/widgets/theme.hpp"
 
+#include <QEvent>
 #include <QPainter>
 #include <QPolygonF>
 #include <QScrollArea>
@@ -47,6 +48,13 @@ QPixmap DisclosureButton::arrow(bool down) const {
     painter.rotate(down ? 90 : 0);
     painter.drawPolygon(QPolygonF({{-side / 4, -side / 2}, {side / 3, 0}, {-side / 4, side / 2}}));
     return picture;
+}
+
+void DisclosureButton::changeEvent(QEvent* event) {
+    QToolButton::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange) {
+        setIcon(arrow(isChecked()));
+    }
 }
 
 void DisclosureButton::show_state(bool open) {

@@ -13,6 +13,7 @@ public:
     explicit DisclosureButton(QWidget* parent = nullptr);
 
 protected:
+    void changeEvent(QEvent* event) override;
     void initStyleOption(QStyleOptionToolButton* option) const override;
 
 private:

@@ -3,7 +3,6 @@
 #include "platform/qt/widgets/theme.hpp"
 #include "platform/qt/widgets/tint.hpp"
 
-#include <QAbstractButton>
 #include <QAction>
 #include <QFont>
 #include <QIcon>
@@ -65,29 +64,16 @@ void fit_to_text(QWidget& window) {
     window.resize((window.size() * factor).boundedTo(room));
 }
 
-QIcon lighter(const QIcon& icon) {
-    QIcon result;
-    for (const QSize& size : icon.availableSizes()) {
-        result.addPixmap(QPixmap::fromImage(theme::lighter(icon.pixmap(size, 1.0).toImage())));
-    }
-    return result;
-}
-
-template <class Part> void lighten_icons(QWidget& window) {
-    for (Part* part : window.findChildren<Part*>()) {
-        if (!part->icon().isNull()) {
-            part->setIcon(lighter(part->icon()));
-        }
-    }
-}
-
 } // namespace
 
 void dress(QWidget& window) {
     fit_to_text(window);
     if (dark()) {
-        lighten_icons<QAbstractButton>(window);
-        lighten_icons<QAction>(window);
+        for (QAction* entry : window.findChildren<QAction*>()) {
+            if (!entry->icon().isNull()) {
+                entry->setIcon(lighter(entry->icon()));
+            }
+        }
     }
 }
 

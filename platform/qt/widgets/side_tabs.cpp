@@ -1,5 +1,6 @@
 #include "platform/qt/widgets/side_tabs.hpp"
 
+#include "platform/qt/widgets/contrast.hpp"
 #include "platform/qt/widgets/theme.hpp"
 
 #include <QKeyEvent>
@@ -62,13 +63,16 @@ private:
         constexpr double kHovered = 0.08;
         const QRectF place = QRectF(tabRect(index)).adjusted(0.5, 0.5, -0.5 - kGap, -0.5);
         const bool chosen = index == currentIndex();
-        const QColor text = palette().color(chosen ? QPalette::HighlightedText : QPalette::WindowText);
+        QPalette colors = palette();
+        const QColor ground = colors.color(QPalette::Window);
+        theme::show_selection(colors, ground, colors.color(QPalette::WindowText));
+        const QColor text = colors.color(chosen ? QPalette::HighlightedText : QPalette::WindowText);
         painter.setPen(Qt::NoPen);
         if (chosen) {
-            painter.setBrush(palette().color(QPalette::Highlight));
+            painter.setBrush(colors.color(QPalette::Highlight));
             painter.drawRoundedRect(place, kRadius, kRadius);
         } else if (underMouse() && place.contains(mapFromGlobal(QCursor::pos()))) {
-            painter.setBrush(theme::mix(text, palette().color(QPalette::Window), kHovered));
+            painter.setBrush(theme::mix(text, ground, kHovered));
             painter.drawRoundedRect(place, kRadius, kRadius);
         }
         if (chosen && hasFocus()) {

@@ -1,6 +1,7 @@
 #include "platform/qt/widgets/tile_button.hpp"
 
 #include "platform/qt/widgets/theme.hpp"
+#include "platform/qt/widgets/tint.hpp"
 
 #include <QPainter>
 
@@ -49,14 +50,16 @@ void TileButton::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     const QColor fill = ground();
-    painter.setPen(hasFocus() ? QPen(theme::focus_color(), 1.4) : QPen(Qt::NoPen));
+    const QColor under = fill.alpha() == 255 ? fill : palette().color(QPalette::Window);
+    painter.setPen(hasFocus() ? QPen(theme::focus_color(under), 1.4) : QPen(Qt::NoPen));
     painter.setBrush(fill);
     painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), kRadius, kRadius);
 
     const QRect content = rect().adjusted(0, kPadding, 0, -kPadding);
     const QRect picture((width() - iconSize().width()) / 2, content.top(), iconSize().width(),
                         iconSize().height());
-    icon().paint(&painter, picture, Qt::AlignCenter, isEnabled() ? QIcon::Normal : QIcon::Disabled);
+    theme::icon_on(icon(), under)
+        .paint(&painter, picture, Qt::AlignCenter, isEnabled() ? QIcon::Normal : QIcon::Disabled);
 
     const auto role = testAttribute(Qt::WA_SetPalette) ? QPalette::ButtonText : QPalette::WindowText;
     painter.setPen(palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, role));

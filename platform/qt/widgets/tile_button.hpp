@@ -5,7 +5,8 @@
 namespace quittika {
 
 /// A flat button with its icon over its text, which is shortened where room is scarce. Only a palette of its
-/// own gives it a ground, in the palette's Button and ButtonText colours.
+/// own gives it a ground, in the palette's Button and ButtonText colours. The icon is one for light ground;
+/// on dark ground it is shown lighter.
 class TileButton : public QToolButton {
     Q_OBJECT
 public:

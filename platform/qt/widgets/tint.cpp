@@ -1,5 +1,7 @@
 #include "platform/qt/widgets/tint.hpp"
 
+#include "platform/qt/widgets/contrast.hpp"
+
 #include <algorithm>
 #include <array>
 
@@ -41,6 +43,19 @@ QImage lighter(const QImage& picture) {
         const auto half_way = [](int part) { return (part + kFull) / 2; };
         return qRgba(half_way(qRed(pixel)), half_way(qGreen(pixel)), half_way(qBlue(pixel)), qAlpha(pixel));
     });
+}
+
+QIcon lighter(const QIcon& icon) {
+    QIcon result;
+    for (const QSize& size : icon.availableSizes()) {
+        result.addPixmap(QPixmap::fromImage(lighter(icon.pixmap(size, 1.0).toImage())));
+    }
+    return result;
+}
+
+QIcon icon_on(const QIcon& icon, const QColor& ground) {
+    const bool light_ground = readable_on(ground) == QColor(Qt::black);
+    return icon.isNull() || light_ground ? icon : lighter(icon);
 }
 
 bool is_on_paper(const QImage& picture) {
