@@ -9,7 +9,7 @@ namespace quittika {
 struct Form_Kundenverwaltung : Form {
     Form_Kundenverwaltung()
         : Form("Form_Kundenverwaltung", "Kundenliste",
-               {.width = twips(900), .height = twips(520), .companion = true}) {
+               {.width = twips(940), .height = twips(520), .companion = true}) {
         List_Kundenverwaltung.ToolTipText.adopt(
             "Sie übertragen die Kundendaten durch einen schnellen DOPPELKLICK auf den Kunden. ");
         Command_delete.ToolTipText.adopt("Markierten Eintrag löschen");
