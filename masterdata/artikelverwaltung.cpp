@@ -287,7 +287,7 @@ void Artikelverwaltung::Command_delete_Click() {
     try {
         LISTE_NEU_SCHREIBEN(zustand_.ArtikelPfad, sicherung_, rest);
     } catch (const Laufzeitfehler& f) {
-        form1_.Hinweise.melden("Der Artikel wurde nicht gelöscht: " + std::string(fehlertext(f.nummer())));
+        form1_.Hinweise.melden("Fehler beim Löschen des Artikels: " + std::string(fehlertext(f.nummer())));
     }
     Auffrischen();
 }

@@ -89,7 +89,8 @@ void Kundenverwaltung::Command_delete_Click() {
             liste.RemoveItem(liste.ListIndex());
         }
     } catch (const Laufzeitfehler& f) {
-        form1_.Hinweise.melden("Der Kunde wurde nicht gelöscht: " + std::string(fehlertext(f.nummer())));
+        form1_.Hinweise.melden("Fehler beim Löschen des Kunden: " + std::string(fehlertext(f.nummer())));
+        Kundenliste_laden(pfad_);
     }
     TitelZeigen();
 }
