@@ -28,6 +28,11 @@ const std::vector<Vergleich> kVergleiche{
     {"preview of 1 page to its first page", "vorschau/1", "", 100},
     {"preview of 50 pages to its first page", "vorschau/50", "", 100},
     {"turning to another of 50 pages", "blaettern", "", 50},
+    {"opening the list of 7,000 customers", "kundenliste_oeffnen", "", 150},
+    {"opening the list of 12,000 articles", "artikelliste_oeffnen", "", 150},
+    {"deleting one of 7,000 customers", "kunde_loeschen", "", 100},
+    {"deleting one of 12,000 articles", "artikel_loeschen", "", 100},
+    {"searching 7,000 customers", "kunde_suchen", "", 16},
     {"invoice of 60 rows to PDF, cold : as many texts", "rechnung_als_pdf", "texte_als_pdf", 2},
     {"start to main window : an empty window", "start", "start_grundlage", 3},
 };

@@ -115,6 +115,7 @@ void Artikelverwaltung::Form_Load(Zweck zweck) {
     PLATZIEREN(form_, form1_, form1_.Left() + kAbstand, form1_.Top() + kAbstand);
     Auffrischen();
     form_.Text_suchen.SetFocus();
+    form_.Command_weitersuchen.Default = true;
 }
 
 void Artikelverwaltung::Auffrischen() {

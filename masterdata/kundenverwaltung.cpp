@@ -43,6 +43,7 @@ void Kundenverwaltung::Form_Load() {
     PLATZIEREN(form_, form1_, form1_.Width() - form_.Width() - kAbstand, kAbstand);
     Kundenliste_laden(pfad_);
     form_.Text_suchen.SetFocus();
+    form_.Command_weitersuchen.Default = true;
 }
 
 std::string Kundenverwaltung::Kundenliste_laden(const std::string& pfad) {
