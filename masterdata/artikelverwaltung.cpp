@@ -105,7 +105,7 @@ void Artikelverwaltung::ListeVerdrahten() {
     liste.KeyDown = TASTEN({{kEingabetaste, [this] { Command_OK_Click(); }},
                             {kEntfernen, [this] { Command_delete_Click(); }},
                             {kF3, [this] { suche_.weitersuchen(); }}});
-    liste.DragText = [this](int index) { return std::string(ARTIKEL_[index + 1].Leistung); };
+    liste.DragText = [this](int index) { return std::string(ARTIKEL_[Satznummer(index)].Leistung); };
 }
 
 void Artikelverwaltung::Form_Load(Zweck zweck) {
@@ -137,6 +137,14 @@ void Artikelverwaltung::Artikelliste_fuellen() {
     form_.Caption = LISTENTITEL("Artikelliste", form_.List_Artikelnverwaltung);
 }
 
+/// The record that an item of the list shows; 0, nobody's, where the table was read anew meanwhile and holds
+/// another one in that place.
+int Artikelverwaltung::Satznummer(int eintrag) const {
+    const bool da = eintrag >= 0 && eintrag < ARTIKEL_.Anzahl() &&
+                    ARTIKELREIHE(ARTIKEL_[eintrag + 1]) == form_.List_Artikelnverwaltung.List(eintrag);
+    return da ? eintrag + 1 : 0;
+}
+
 void Artikelverwaltung::Form_Unload() {
     if (zustand_.ArtikelAuswahl.empty()) {
         zustand_.ArtikelAuswahl = zustand_.ArtikelTrenner;
@@ -144,7 +152,7 @@ void Artikelverwaltung::Form_Unload() {
 }
 
 void Artikelverwaltung::Command_OK_Click() {
-    zustand_.ArtikelAuswahl = form_.List_Artikelnverwaltung.ListIndex() < 0 ? "" : markiert().Zeile;
+    zustand_.ArtikelAuswahl = markiert().Zeile;
     zustand_.ArtikelAuswahlAbgebrochen = false;
     form_.Close();
     if (gewaehlt_) {
@@ -277,8 +285,7 @@ bool Artikelverwaltung::Anhaengen() {
 }
 
 void Artikelverwaltung::Command_delete_Click() {
-    const int satz = form_.List_Artikelnverwaltung.ListIndex() + 1;
-    ARTIKEL_[satz].Zeile = artikelzeile::kGeloescht;
+    ARTIKEL_[Satznummer(form_.List_Artikelnverwaltung.ListIndex())].Zeile = artikelzeile::kGeloescht;
     Textpuffer rest;
     for (int i = 1; i <= ARTIKEL_.Anzahl(); ++i) {
         if (ARTIKEL_[i].Zeile != artikelzeile::kGeloescht) {

@@ -40,7 +40,10 @@ private:
     void Form_Load(Zweck zweck);
     void Form_Unload();
     void Auffrischen();
-    const Artikel& markiert() const { return ARTIKEL_[form_.List_Artikelnverwaltung.ListIndex() + 1]; }
+    int Satznummer(int eintrag) const;
+    const Artikel& markiert() const {
+        return ARTIKEL_[Satznummer(form_.List_Artikelnverwaltung.ListIndex())];
+    }
 
     void Command_OK_Click();
     void Command_Abbrechen_Click();

@@ -231,6 +231,22 @@ TEST(Listen, SpaltenDerArtikel) {
     EXPECT_EQ(fillup("abcd", 3, "-"), "");
 }
 
+TEST(Listen, EinAnderswoNeuGelesenerArtikelWirdNichtVerwechselt) {
+    Listenstand s;
+    const std::string pfad =
+        s.p.ordner.schreiben("Artikelliste.txt", "a$\xA7$1$\xA7$1$\xA7$\r\nb$\xA7$2$\xA7$2$\xA7$\r\n");
+    s.artikel.Artikelliste_fuellen();
+    s.artikelform.List_Artikelnverwaltung.ListIndex = 1;
+    EXPECT_TRUE(s.artikel.Gezogen("b"));
+    const std::string neu = "b$\xA7$2$\xA7$2$\xA7$\r\nc$\xA7$3$\xA7$3$\xA7$\r\n";
+    s.p.ordner.schreiben("Artikelliste.txt", neu);
+    s.ARTIKEL.Artikelliste_einlesen(pfad);
+    EXPECT_FALSE(s.artikel.Gezogen("c"));
+    s.artikelform.Command_delete.Click();
+    EXPECT_EQ(s.p.ordner.lesen("Artikelliste.txt"), neu);
+    EXPECT_EQ(s.artikelform.List_Artikelnverwaltung.ListCount(), 2);
+}
+
 TEST(Listen, SuchenVergleichtFelderDerEintraege) {
     Listenstand s;
     s.artikelform.List_Artikelnverwaltung.assign({"a$§$b$§$", "c$§$d$§$"});
