@@ -3,10 +3,11 @@
 namespace quittika {
 
 Eingabe::Eingabe(Form1& form1, const Ereignisse& ereignisse, Eingabezeile& eingabezeile,
-                 Positionen& positionen, Zeilenmenue& zeilenmenue)
+                 Positionen& positionen, Zeilenmenue& zeilenmenue, Artikeluebernahme& artikel)
     : form1_(form1), positionen_(positionen) {
     KnoepfeVerdrahten(ereignisse);
     ZeileVerdrahten(ereignisse, eingabezeile);
+    ArtikelVerdrahten(ereignisse, artikel);
     ListenVerdrahten(ereignisse);
     ZeilenmenueVerdrahten(ereignisse, zeilenmenue);
 }
@@ -19,7 +20,14 @@ void Eingabe::KnoepfeVerdrahten(const Ereignisse& ereignisse) {
     form1_.Command_Trennzeile.Click =
         ereignisse.befehl([&positionen] { positionen.Command_Trennzeile_Click(); });
     form1_.Check_K.Click = ereignisse.vom_benutzer([&positionen] { positionen.Check_K_Click(); });
-    SPERREN({&form1_.Command_PLUS_LIST});
+}
+
+void Eingabe::ArtikelVerdrahten(const Ereignisse& ereignisse, Artikeluebernahme& artikel) {
+    form1_.Command_PLUS_LIST.Click =
+        ereignisse.befehl([&artikel] { artikel.Command_PLUS_Click(artikel.Eingabezeile()); });
+    form1_.Text_leistung.OLEDragDrop = [&artikel](const std::string& text) {
+        artikel.Ablegen(artikel.Eingabezeile(), text);
+    };
 }
 
 void Eingabe::ZeileVerdrahten(const Ereignisse& ereignisse, Eingabezeile& eingabezeile) {
@@ -36,7 +44,6 @@ void Eingabe::ZeileVerdrahten(const Ereignisse& ereignisse, Eingabezeile& eingab
     }
     BetragsfeldVerdrahten(form1_.Text_Menge, ereignisse, eingabezeile);
     BetragsfeldVerdrahten(form1_.Text_preis, ereignisse, eingabezeile);
-    form1_.Text_leistung.OLEDragDrop = ABLEGEN(form1_.Text_leistung);
 }
 
 void Eingabe::BetragsfeldVerdrahten(TextBox& feld, const Ereignisse& ereignisse, Eingabezeile& eingabezeile) {

@@ -5,6 +5,7 @@
 #include "invoice/form1.hpp"
 #include "invoice/positionen.hpp"
 #include "invoice/zeilenmenue.hpp"
+#include "masterdata/artikeluebernahme.hpp"
 
 namespace quittika {
 
@@ -12,10 +13,11 @@ namespace quittika {
 class Eingabe {
 public:
     Eingabe(Form1& form1, const Ereignisse& ereignisse, Eingabezeile& eingabezeile, Positionen& positionen,
-            Zeilenmenue& zeilenmenue);
+            Zeilenmenue& zeilenmenue, Artikeluebernahme& artikel);
 
 private:
     void KnoepfeVerdrahten(const Ereignisse& ereignisse);
+    void ArtikelVerdrahten(const Ereignisse& ereignisse, Artikeluebernahme& artikel);
     void ZeileVerdrahten(const Ereignisse& ereignisse, Eingabezeile& eingabezeile);
     void BetragsfeldVerdrahten(TextBox& feld, const Ereignisse& ereignisse, Eingabezeile& eingabezeile);
     void ListenVerdrahten(const Ereignisse& ereignisse);

@@ -46,14 +46,6 @@ Ereignisse::Ereignis Ereignisse::rechnen() const {
     return [&summen = summen_] { summen.jetztberechnen_List(); };
 }
 
-std::function<void(int)> TASTEN(std::map<int, Ereignisse::Ereignis> belegung) {
-    return [belegung = std::move(belegung)](int taste) {
-        if (const auto gedrueckt = belegung.find(taste); gedrueckt != belegung.end()) {
-            gedrueckt->second();
-        }
-    };
-}
-
 std::function<void(const std::string&)> ABLEGEN(TextBox& feld) {
     return [&feld](const std::string& text) {
         feld.Text = ZEICHENERSETZEN(ZEICHENERSETZEN(text, "\r", " "), "\n", " ");

@@ -2,10 +2,10 @@
 
 #include "invoice/rechnungszustand.hpp"
 #include "invoice/summen.hpp"
+#include "platform/forms/tasten.hpp"
 
 #include <functional>
 #include <initializer_list>
-#include <map>
 #include <string>
 
 namespace quittika {
@@ -33,13 +33,6 @@ private:
     Rechnungszustand& zustand_;
     Summen& summen_;
 };
-
-constexpr int kEingabetaste = 13;
-constexpr int kEscape = 27;
-constexpr int kEntfernen = 46;
-
-/// What each of these keys does.
-std::function<void(int)> TASTEN(std::map<int, Ereignisse::Ereignis> belegung);
 
 /// Takes dropped text over in one line: each character of a line end becomes a blank.
 std::function<void(const std::string&)> ABLEGEN(TextBox& feld);

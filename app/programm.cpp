@@ -42,7 +42,7 @@ struct Programm::Teile {
         platform.desktop.adopt(einstellungen);
         platform.desktop.adopt(programm);
         platform.desktop.adopt(form_start);
-        MENUE_LISTEN(form1, ereignisse, platform.dialogs);
+        MENUE_LISTEN(form1, ereignisse, platform.dialogs, kundenfenster, artikeluebernahme);
         MENUE_DRUCKEN(form1, etiketten);
         MENUE_EINSTELLUNGEN(form1, einstellungen, ereignisse, einstellungsfenster, programmfenster);
         MENUE_EXTRAS(form1, eingabezeile);
@@ -107,7 +107,15 @@ struct Programm::Teile {
                                         return std::make_unique<Druckvorschau>(
                                             form, vorschauzeichnung, druckauftrag, bildausgabe, pdfausgabe);
                                     }};
-    KundeAufnehmen kunde_aufnehmen{form1, verzeichnis, platform.dialogs};
+    Artikelzustand artikelzustand{verzeichnis};
+    Artikeltabelle ARTIKEL{artikelzustand};
+    Kundenfenster kundenfenster{platform.desktop, [this](Form_Kundenverwaltung& form) {
+                                    return std::make_unique<Kundenverwaltung>(form, form1, artikelzustand,
+                                                                              verzeichnis, platform.dialogs);
+                                }};
+    KundeAufnehmen kunde_aufnehmen{form1, verzeichnis, platform.dialogs, kundenfenster};
+    Artikeluebernahme artikeluebernahme{form1,         artikelzustand, ARTIKEL,          summen,
+                                        kundenfenster, verzeichnis,    platform.desktop, platform.dialogs};
     Logo logo{form1, einstellungen, werte};
     Programmstil stil{form1, einstellungen, programm, werte, platform.desktop};
     Folgeschritte folgeschritte{form1,       einstellungen,     programm, werte,
@@ -136,9 +144,9 @@ struct Programm::Teile {
     // The main window: its areas, then the window, then its menus.
     Ereignisse ereignisse{form1.Hinweise, zustand, summen};
     Kopf kopf{form1, ereignisse, kunde_aufnehmen, platform.clock};
-    Eingabe eingabe{form1, ereignisse, eingabezeile, positionen, zeilenmenue};
+    Eingabe eingabe{form1, ereignisse, eingabezeile, positionen, zeilenmenue, artikeluebernahme};
     Betraege betraege{form1, ereignisse, zustand, eingabezeile, summen, werte, einstellungsschreiber};
-    Raster raster{form1, ereignisse};
+    Raster raster{form1, ereignisse, artikeluebernahme};
     Erinnerung erinnerung{form1, zustand};
     Ladefolge ladefolge{form1, zustand,        platform.desktop, verzeichnis, einstellungsstart,
                         logo,  erste_rechnung, raster,           summen};

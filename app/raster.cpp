@@ -2,7 +2,7 @@
 
 namespace quittika {
 
-Raster::Raster(Form1& form1, const Ereignisse& ereignisse) : form1_(form1) {
+Raster::Raster(Form1& form1, const Ereignisse& ereignisse, Artikeluebernahme& artikel) : form1_(form1) {
     for (int seite = 0; seite < Form1::kSeiten; ++seite) {
         form1.CMD_Seite1[seite].Click = [this, seite] { CMD_Seite1_Click(seite); };
         for (Form1::Rasterzeile& zeile : form1.Raster) {
@@ -16,8 +16,12 @@ Raster::Raster(Form1& form1, const Ereignisse& ereignisse) : form1_(form1) {
             }
             zeile.Text_menge[seite].LostFocus = ereignisse.rechnen();
             zeile.Text_preis[seite].LostFocus = ereignisse.rechnen();
-            zeile.Text_leistung[seite].OLEDragDrop = ABLEGEN(zeile.Text_leistung[seite]);
-            SPERREN({&zeile.Command_PLUS_[seite]});
+            const auto ziel = Artikeluebernahme::Rasterzeile(zeile, seite);
+            zeile.Text_leistung[seite].OLEDragDrop = [&artikel, ziel](const std::string& text) {
+                artikel.Ablegen(ziel, text);
+            };
+            zeile.Command_PLUS_[seite].Click =
+                ereignisse.befehl([&artikel, ziel] { artikel.Command_PLUS_Click(ziel); });
         }
     }
 }

@@ -2,13 +2,14 @@
 
 #include "app/ereignisse.hpp"
 #include "invoice/form1.hpp"
+#include "masterdata/artikeluebernahme.hpp"
 
 namespace quittika {
 
 /// The grid of four pages beside the position list.
 class Raster {
 public:
-    Raster(Form1& form1, const Ereignisse& ereignisse);
+    Raster(Form1& form1, const Ereignisse& ereignisse, Artikeluebernahme& artikel);
 
     /// Shows page `seite` (0 to 3).
     void CMD_Seite1_Click(int seite);

@@ -236,6 +236,8 @@ struct Form1 : Form {
     Timer Timer_blink{*this, "Timer_blink", 1000};
     Timer Timer_chronjob{*this, "Timer_chronjob", 1000};
 
+    bool Direktuebernahme = true; ///< a double click on an article takes it over at once
+
     /// Line `n` (1 to 4) of a text block.
     ControlArray<TextBox, 2>& Text_Bemerkung(int n);
     /// The six lists that hold the positions, in the order in which rows are taken out of them.

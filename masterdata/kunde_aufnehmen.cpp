@@ -15,9 +15,13 @@ namespace quittika {
 
 namespace {
 
+std::string wie_in_der_datei(const std::string& zeile) {
+    return aus_ansi(nach_ansi(zeile).bytes);
+}
+
 /// Compares with the line as it would read in the file. A list that cannot be read holds nothing.
 bool schon_in_der_liste(const std::string& pfad, const std::string& zeile) {
-    const std::string gesucht = aus_ansi(nach_ansi(zeile).bytes);
+    const std::string gesucht = wie_in_der_datei(zeile);
     try {
         const std::vector<std::string> zeilen = zeilen_lesen(pfad);
         return std::find(zeilen.begin(), zeilen.end(), gesucht) != zeilen.end();
@@ -37,10 +41,17 @@ std::string KUNDENZEILE(const Form1& form1) {
     return zeile;
 }
 
-KundeAufnehmen::KundeAufnehmen(Form1& form1, const Programmverzeichnis& verzeichnis, Dialogs& dialogs)
-    : form1_(form1), verzeichnis_(verzeichnis), dialogs_(dialogs) {}
+KundeAufnehmen::KundeAufnehmen(Form1& form1, const Programmverzeichnis& verzeichnis, Dialogs& dialogs,
+                               Kundenfenster& kundenfenster)
+    : form1_(form1), verzeichnis_(verzeichnis), dialogs_(dialogs), kundenfenster_(kundenfenster) {}
 
 void KundeAufnehmen::Command_KD_Add_Click() {
+    form1_.Command_Kundenliste.Enabled = false;
+    Aufnehmen();
+    form1_.Command_Kundenliste.Enabled = true;
+}
+
+void KundeAufnehmen::Aufnehmen() {
     const std::string pfad = verzeichnis_.pfad("\\Kundenliste.txt");
     const std::string zeile = KUNDENZEILE(form1_);
     if (!Bestaetigt(pfad, zeile)) {
@@ -51,6 +62,9 @@ void KundeAufnehmen::Command_KD_Add_Click() {
     form1_.Hinweise.melden(ZEICHENERSATZ_MELDUNG(ergebnis.ersetzt));
     if (ergebnis) {
         form1_.StatusBar1[2].Caption = "Kunde aufgenommen.";
+        if (Kundenverwaltung* offen = kundenfenster_.module()) {
+            offen->Aufgenommen(wie_in_der_datei(zeile));
+        }
     } else {
         FehlerMelden(pfad, ergebnis.fehlernummer);
     }

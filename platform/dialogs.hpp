@@ -29,8 +29,9 @@ struct FileDialog {
     std::string title;
     /// Whether `open_file` takes the names of existing files only.
     bool must_exist = true;
-    /// Whether `save_file` asks before it takes the name of an existing file. Off where the program asks, for
-    /// it may write another file than the one chosen.
+    /// Whether the dialog asks before it takes the name of an existing file for a new one: `save_file`, and
+    /// `open_file` where the file need not exist. Off where the program asks, for it may write another file
+    /// than the one chosen.
     bool asks_before_replacing = true;
 };
 

@@ -226,8 +226,9 @@ void FormWindow::take_state() {
 
 Qt::WindowFlags FormWindow::flags_in_front(bool modal) const {
     if (form_.companion() && !modal) {
-        // Without a button that makes it an icon, which nobody would find off the task bar.
-        return Qt::Tool | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
+        // Without a button that makes it an icon, which nobody would find off the task bar. No tool window:
+        // that one would answer to the keys of the main window, too.
+        return Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
                Qt::WindowMaximizeButtonHint | Qt::WindowCloseButtonHint;
     }
     const Qt::WindowFlags hints = window_->windowFlags() & ~Qt::WindowType_Mask;

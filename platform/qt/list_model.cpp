@@ -2,15 +2,18 @@
 
 #include "platform/qt/qt_text.hpp"
 #include "platform/qt/widgets/column_list.hpp"
+#include "platform/text.hpp"
 
+#include <algorithm>
 #include <string_view>
 
 namespace quittika {
 
 namespace {
 
+constexpr int kShown = 1000; ///< characters of a row
+
 QString line_of(std::string_view item) {
-    constexpr int kShown = 1000;         // characters
     constexpr std::size_t kBytes = 4000; // enough for them in any case
     QString text = to_qt(item.substr(0, kBytes)).left(kShown);
     for (QChar& character : text) {
@@ -34,6 +37,8 @@ QVariant ListModel::data(const QModelIndex& index, int role) const {
         return line_of(list_.List(index.row()));
     case ColumnList::kColumnTexts:
         return parts(index.row());
+    case ColumnList::kLongestRow:
+        return longest_;
     case Qt::AccessibleTextRole: {
         QStringList said = parts(index.row());
         said.removeIf([](const QString& part) { return part.trimmed().isEmpty(); });
@@ -44,7 +49,22 @@ QVariant ListModel::data(const QModelIndex& index, int role) const {
     }
 }
 
+QStringList ListModel::separated(int row) const {
+    QStringList parts = line_of(list_.List(row)).split(separator_);
+    if (parts.size() > 1 && parts.back().isEmpty()) {
+        parts.removeLast(); // it stands behind the last part, too
+    }
+    while (parts.size() > most_parts_ && parts.size() > 1) {
+        const QString last = parts.takeLast();
+        parts.back() += separator_ + last;
+    }
+    return parts;
+}
+
 QStringList ListModel::parts(int row) const {
+    if (!separator_.isEmpty()) {
+        return separated(row);
+    }
     QStringList parts;
     for (const ListBox* column : columns_) {
         parts.append(line_of(column->List(row)));
@@ -55,6 +75,13 @@ QStringList ListModel::parts(int row) const {
 void ListModel::reload() {
     beginResetModel();
     rows_ = list_.ListCount();
+    std::size_t longest = 0;
+    for (const std::string& item : list_.items()) {
+        if (item.size() > longest) { // bytes are never fewer than characters
+            longest = std::max(longest, zeichenzahl(item));
+        }
+    }
+    longest_ = static_cast<int>(std::min<std::size_t>(longest, kShown));
     endResetModel();
 }
 

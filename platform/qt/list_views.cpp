@@ -42,6 +42,7 @@ ListBoxView::ListBoxView(ListBox& control, QListView& widget)
       menu_(widget.findChild<QMenu*>(QString(), Qt::FindDirectChildrenOnly)) {
     if (const auto* in_columns = qobject_cast<ColumnList*>(&widget)) {
         model_.set_columns(lists_of(control.form(), in_columns->sources()));
+        model_.set_separator(in_columns->separator(), in_columns->sources().size());
     }
     widget.setUniformItemSizes(true);
     widget.setSelectionMode(QAbstractItemView::SingleSelection);

@@ -6,6 +6,7 @@
 #include "platform/qt/message_box.hpp"
 #include "platform/qt/print_dialog.hpp"
 #include "platform/qt/qt_text.hpp"
+#include "platform/verzeichnis.hpp"
 
 #include <QColorDialog>
 #include <QFileDialog>
@@ -34,6 +35,11 @@ QString one_filter(QString text, const QString& pattern) {
         patterns.append(QStringLiteral("*"));
     }
     return QStringLiteral("%1 (%2)").arg(text.trimmed(), patterns.join(QLatin1Char(' ')));
+}
+
+bool may_replace(const std::string& path) {
+    return show_message({"Die Datei >" + path + "< gibt es schon. Soll sie ersetzt werden?",
+                         "Datei ersetzen?", Buttons::YesNo, Symbol::Question, Answer::No}) == Answer::Yes;
 }
 
 } // namespace
@@ -99,7 +105,12 @@ std::string QtDialogs::open_file(const FileDialog& dialog) {
         prepare_for_new(window, dialog);
         window.setLabelText(QFileDialog::Accept, QStringLiteral("Auswählen"));
     }
-    return run(window);
+    std::string chosen = run(window);
+    while (!dialog.must_exist && dialog.asks_before_replacing && datei_vorhanden(chosen) &&
+           !may_replace(chosen)) {
+        chosen = run(window);
+    }
+    return chosen;
 }
 
 std::string QtDialogs::save_file(const FileDialog& dialog) {

@@ -65,6 +65,8 @@ const Zeilen kGriffe[] = {
     {"#$ [ -f a.qk8 ] && head -c 1500 a.qk8 >halb.qk8"},
     {"#$ [ -f a.qk8 ] && tail -c 200 a.qk8 >>halb.qk8"},
     {"#$ echo x >>b.qk8; rm -f a.qk8"},
+    {"#$ printf 'Nagel$\\247$0.10$\\247$4711$\\247$\\r\\nab\\nQ#*#' >>Artikelliste.txt"},
+    {"answer yes", "file @ORDNER@/%d", "click form1.Command_KD_Add", "click form1.Command_PLUS_LIST"},
     {"#$ printf 99999999999 >RN.txt"},
     {"#$ printf '7\\r\\n' >RN.txt"}};
 

@@ -3,6 +3,8 @@
 #include "app/form_start.hpp"
 #include "app/form_ueber_quittika.hpp"
 #include "invoice/form1.hpp"
+#include "masterdata/form_artikelverwaltung.hpp"
+#include "masterdata/form_kundenverwaltung.hpp"
 #include "print/form2_etiketten.hpp"
 #include "print/form_druckvorschau.hpp"
 #include "print/form_lieferschein_opt.hpp"
@@ -31,6 +33,8 @@ inline const std::vector<MakeForm> kForms{make<Form1>,
                                           make<Form2_PAKETHRMS_ETIKETT>,
                                           make<Form2_PAECKCHEN_ETIKETT>,
                                           make<Form2_Breiter_Brief>,
-                                          make<frm_einstellungen>};
+                                          make<frm_einstellungen>,
+                                          make<Form_Kundenverwaltung>,
+                                          make<Form_Artikelverwaltung>};
 
 } // namespace quittika::test

@@ -9,6 +9,7 @@
 #include <QScrollBar>
 #include <QStyledItemDelegate>
 #include <QToolTip>
+#include <QtMath>
 
 #include <algorithm>
 
@@ -45,7 +46,7 @@ public:
     void paint(QPainter* painter, const QStyleOptionViewItem& given,
                const QModelIndex& index) const override {
         const QStringList texts = index.data(kColumnTexts).toStringList();
-        if (texts.isEmpty()) {
+        if (texts.isEmpty() && !list_.columns_in_text()) {
             QStyledItemDelegate::paint(painter, given, index);
             return;
         }
@@ -58,6 +59,11 @@ public:
         painter->setPen(option.palette.color(
             option.state.testFlag(QStyle::State_Enabled) ? QPalette::Active : QPalette::Disabled,
             selected ? QPalette::HighlightedText : QPalette::Text));
+        if (list_.columns_in_text()) {
+            painter->drawText(option.rect.adjusted(kPadding, 0, 0, 0), Qt::AlignVCenter | Qt::TextSingleLine,
+                              index.data().toString());
+            return;
+        }
         const qsizetype count = std::min(texts.size(), list_.columns_.size());
         for (int i = 0; i < count; ++i) {
             const QRect room = list_.cell(i, option.rect);
@@ -68,8 +74,11 @@ public:
     }
 
     QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
-        return list_.columns_.isEmpty() ? QStyledItemDelegate::sizeHint(option, index)
-                                        : QSize(0, list_.row_height());
+        if (list_.columns_.isEmpty()) {
+            return QStyledItemDelegate::sizeHint(option, index);
+        }
+        const int longest = list_.columns_in_text() ? index.data(kLongestRow).toInt() : 0;
+        return {longest == 0 ? 0 : qCeil(list_.text_width(longest)) + 2 * kPadding, list_.row_height()};
     }
 
 private:
@@ -83,6 +92,11 @@ ColumnList::ColumnList(QWidget* parent) : QListView(parent) {
     setEditTriggers(NoEditTriggers);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setItemDelegate(new Delegate(*this)); // its parent takes care of it
+    connect(horizontalScrollBar(), &QScrollBar::valueChanged, this, [this] {
+        if (columns_in_text()) {
+            arrange(); // what stands over the columns goes along
+        }
+    });
 }
 
 void ColumnList::setColumns(const QString& columns) {
@@ -94,9 +108,10 @@ void ColumnList::setColumns(const QString& columns) {
         const bool grows = form.endsWith(QLatin1Char('+'));
         form.chop(grows ? 1 : 0);
         const QChar letter = form.isEmpty() ? QLatin1Char('l') : form.at(0);
-        columns_.append(
-            {source, alignment_of(letter), letter == QLatin1Char('n'), grows, form.mid(1).toInt()});
+        columns_.append({source, alignment_of(letter), letter == QLatin1Char('n'), letter == QLatin1Char('t'),
+                         grows, form.mid(1).toInt()});
     }
+    setHorizontalScrollBarPolicy(columns_in_text() ? Qt::ScrollBarAsNeeded : Qt::ScrollBarAlwaysOff);
     arrange();
     updateGeometry();
 }
@@ -128,22 +143,50 @@ int ColumnList::needed_width(int column) const {
     return width;
 }
 
+qreal ColumnList::text_width(int characters) const {
+    constexpr int kMany = 100; // characters, so that a fraction of a pixel counts
+    return QFontMetricsF(font()).horizontalAdvance(QString(kMany, QLatin1Char('0'))) * characters / kMany;
+}
+
 void ColumnList::arrange() {
-    QList<int> widths;
-    int spare = width() - chrome_width();
-    for (int i = 0; i < columns_.size(); ++i) {
-        widths.append(needed_width(i));
-        spare -= widths.last();
-    }
     spans_.clear();
-    int left = frameWidth();
-    for (int i = 0; i < columns_.size(); ++i) {
-        const int right = left + widths.at(i) + (columns_.at(i).grows ? std::max(spare, 0) : 0);
-        spans_.append({left, right});
-        left = right;
+    if (columns_in_text()) {
+        arrange_text();
+    } else {
+        arrange_columns();
     }
     viewport()->update();
     emit arranged();
+}
+
+void ColumnList::arrange_text() {
+    const int start = frameWidth() + kPadding - horizontalScrollBar()->value();
+    int characters = 0;
+    for (const Column& column : columns_) {
+        const int left = start + qRound(text_width(characters));
+        characters += column.characters;
+        spans_.append({left - kPadding, start + qRound(text_width(characters)) + kPadding});
+    }
+}
+
+void ColumnList::arrange_columns() {
+    QList<int> widths;
+    int spare = width() - chrome_width();
+    int growing = 0;
+    for (int i = 0; i < columns_.size(); ++i) {
+        widths.append(needed_width(i));
+        spare -= widths.last();
+        growing += columns_.at(i).grows ? 1 : 0;
+    }
+    int left = frameWidth();
+    for (int i = 0; i < columns_.size(); ++i) {
+        const int share = columns_.at(i).grows ? std::max(spare, 0) / growing : 0;
+        spare -= share;
+        growing -= columns_.at(i).grows ? 1 : 0;
+        const int right = left + widths.at(i) + share;
+        spans_.append({left, right});
+        left = right;
+    }
 }
 
 int ColumnList::chrome_width() const {
@@ -167,6 +210,11 @@ QRect ColumnList::cell(int column, const QRect& row) const {
 
 QStringList ColumnList::shortened(const QModelIndex& index) const {
     QStringList longer;
+    if (columns_in_text()) {
+        const QString text = index.data().toString();
+        const bool fits = text_width(static_cast<int>(text.size())) + 2 * kPadding <= viewport()->width();
+        return fits ? longer : QStringList(text.simplified());
+    }
     const QStringList texts = index.data(kColumnTexts).toStringList();
     const qsizetype count = std::min(texts.size(), columns_.size());
     for (int i = 0; i < count; ++i) {
@@ -178,12 +226,20 @@ QStringList ColumnList::shortened(const QModelIndex& index) const {
 }
 
 QSize ColumnList::sizeHint() const {
-    return minimumSizeHint();
+    if (!columns_in_text()) {
+        return minimumSizeHint();
+    }
+    int characters = 0;
+    for (const Column& column : columns_) {
+        characters += column.characters;
+    }
+    return {chrome_width() + qCeil(text_width(characters)) + 2 * kPadding, minimumSizeHint().height()};
 }
 
 QSize ColumnList::minimumSizeHint() const {
-    int width = chrome_width();
-    for (int i = 0; i < columns_.size(); ++i) {
+    constexpr int kFewestCharacters = 40; // the rest can be scrolled
+    int width = chrome_width() + (columns_in_text() ? qCeil(text_width(kFewestCharacters)) : 0);
+    for (int i = 0; i < columns_.size() && !columns_in_text(); ++i) {
         width += needed_width(i);
     }
     return {width, kFewestRows * row_height() + 2 * frameWidth()};

@@ -8,18 +8,24 @@ namespace quittika {
 
 class ColumnRow;
 
-/// A list whose rows stand in columns, in a fixed-pitch font of the window's size. One column takes the room
-/// that the others leave; what is too long for its column is shortened and tells itself as a tool tip.
+/// A list whose rows stand in columns, in a fixed-pitch font of the window's size. Those that grow share the
+/// room that the others leave; what is too long for its column is shortened and tells itself as a tool tip.
 ///
 /// `columns` has a word a column: where its texts come from, a colon, the alignment (l left, c centred, r
-/// right, n a number with leading zeros), the characters that fit at least, and a plus on the one that grows.
+/// right, n a number with leading zeros), the characters that fit at least, and a plus on those that grow.
 /// A row's texts come from its model under `kColumnTexts`; a row without them is drawn as any list draws it.
+/// `separator` is what parts the text of a row where the texts come from no other lists.
+///
+/// Columns of the kind "t" are counted characters of rows that have their columns in their text: such rows
+/// are drawn as they are, as wide as the longest one, and can be scrolled.
 class ColumnList : public QListView {
     Q_OBJECT
     Q_PROPERTY(QString columns READ columns WRITE setColumns)
+    Q_PROPERTY(QString separator READ separator WRITE setSeparator)
 public:
-    static constexpr int kColumnTexts = Qt::UserRole; ///< QStringList
-    static constexpr int kPadding = 5;                ///< pixels between a column's edge and its text
+    static constexpr int kColumnTexts = Qt::UserRole;    ///< QStringList
+    static constexpr int kLongestRow = Qt::UserRole + 1; ///< characters, the same for each row
+    static constexpr int kPadding = 5;                   ///< pixels between a column's edge and its text
 
     /// Edges of a column in pixels from the list's left edge.
     struct Span {
@@ -31,6 +37,8 @@ public:
 
     QString columns() const { return written_; }
     void setColumns(const QString& columns);
+    QString separator() const { return separator_; }
+    void setSeparator(const QString& separator) { separator_ = separator; }
     /// Where the texts of each column come from.
     QStringList sources() const;
     Span span(int column) const;
@@ -56,10 +64,16 @@ private:
         QString source;
         Qt::Alignment alignment;
         bool leading_zeros;
+        bool in_text;
         bool grows;
         int characters;
     };
 
+    bool columns_in_text() const { return !columns_.isEmpty() && columns_.front().in_text; }
+    void arrange_text();
+    void arrange_columns();
+    /// Pixels that so many characters take.
+    qreal text_width(int characters) const;
     int needed_width(int column) const;
     int chrome_width() const;
     int row_height() const;
@@ -71,6 +85,7 @@ private:
     QStringList shortened(const QModelIndex& index) const;
 
     QString written_;
+    QString separator_;
     QList<Column> columns_;
     QList<Span> spans_;
     QList<QPointer<ColumnRow>> rows_;
