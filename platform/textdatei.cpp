@@ -5,14 +5,11 @@
 
 namespace quittika {
 
-namespace {
-
-/// Calls `weiter` with the bytes of each line until it answers false.
-template <class Weiter> void zeilen_teilen(std::string_view inhalt, Weiter weiter) {
-    while (!inhalt.empty()) {
-        const std::size_t ende = inhalt.find('\n');
-        std::string_view zeile = inhalt.substr(0, ende);
-        inhalt.remove_prefix(ende == std::string_view::npos ? inhalt.size() : ende + 1);
+void zeilen_teilen(std::string_view text, const std::function<bool(std::string_view zeile)>& weiter) {
+    while (!text.empty()) {
+        const std::size_t ende = text.find('\n');
+        std::string_view zeile = text.substr(0, ende);
+        text.remove_prefix(ende == std::string_view::npos ? text.size() : ende + 1);
         if (ende != std::string_view::npos && !zeile.empty() && zeile.back() == '\r') {
             zeile.remove_suffix(1);
         }
@@ -21,8 +18,6 @@ template <class Weiter> void zeilen_teilen(std::string_view inhalt, Weiter weite
         }
     }
 }
-
-} // namespace
 
 void zeilen_durchgehen(std::string_view bytes, const std::function<bool(std::string_view zeile)>& weiter) {
     std::string puffer;
@@ -79,7 +74,7 @@ Dateiergebnis ZEILE_ANHAENGEN(const std::string& pfad, const std::string& zeile)
     }
 }
 
-std::string FELD_AUS_ZEILE(std::string_view zeile, std::string_view trenner, int index) {
+std::string_view FELD_AUS_ZEILE(std::string_view zeile, std::string_view trenner, int index) {
     constexpr const char* kFehlt = "ERROR";
     if (zeile.empty() || trenner.empty() || index < 0) {
         return kFehlt;
@@ -91,7 +86,7 @@ std::string FELD_AUS_ZEILE(std::string_view zeile, std::string_view trenner, int
         }
         zeile.remove_prefix(ende + trenner.size());
     }
-    return std::string(zeile.substr(0, zeile.find(trenner)));
+    return zeile.substr(0, zeile.find(trenner));
 }
 
 } // namespace quittika

@@ -16,6 +16,9 @@ namespace quittika {
 /// Hands over line after line of a file's bytes until `weiter` answers false.
 void zeilen_durchgehen(std::string_view bytes, const std::function<bool(std::string_view zeile)>& weiter);
 
+/// The same with the lines of a text in memory, as views of it.
+void zeilen_teilen(std::string_view text, const std::function<bool(std::string_view zeile)>& weiter);
+
 /// At most `hoechstens` lines of a file.
 std::vector<std::string> zeilen_lesen(const std::string& pfad,
                                       std::size_t hoechstens = std::numeric_limits<std::size_t>::max());
@@ -54,8 +57,8 @@ struct Dateiergebnis {
 /// back.
 Dateiergebnis ZEILE_ANHAENGEN(const std::string& pfad, const std::string& zeile);
 
-/// Field `index`, counted from 0, of a line split at `trenner`; "ERROR" if there is none, and for an empty
-/// line.
-std::string FELD_AUS_ZEILE(std::string_view zeile, std::string_view trenner, int index);
+/// Field `index`, counted from 0, of a line split at `trenner`, as a view of the line; "ERROR" if there is
+/// none, and for an empty line.
+std::string_view FELD_AUS_ZEILE(std::string_view zeile, std::string_view trenner, int index);
 
 } // namespace quittika
