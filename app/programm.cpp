@@ -39,7 +39,7 @@ struct Programm::Teile {
         MENUE_LISTEN(form1, ereignisse, platform.dialogs);
         MENUE_DRUCKEN(form1, etiketten);
         MENUE_EINSTELLUNGEN(form1);
-        MENUE_EXTRAS(form1, eingabezeile);
+        MENUE_EXTRAS(form1, ereignisse, eingabezeile, barcodefenster);
     }
 
     Platform platform;
@@ -102,6 +102,12 @@ struct Programm::Teile {
                                             form, vorschauzeichnung, druckauftrag, bildausgabe, pdfausgabe);
                                     }};
     KundeAufnehmen kunde_aufnehmen{form1, verzeichnis, platform.dialogs};
+    Artikelzustand artikel{verzeichnis};
+    Artikeltabelle ARTIKEL{artikel};
+    Barcodefenster barcodefenster{platform.desktop, [this](Form_Etp_Barcode& form) {
+                                      return std::make_unique<Barcodemodus>(
+                                          form, form1, werte, ARTIKEL, artikel, summen, platform.desktop);
+                                  }};
     Logo logo{form1, einstellungen, werte};
     Programmstil stil{form1, einstellungen, programm, werte};
     Folgeschritte folgeschritte{form1,       einstellungen,     programm, werte,

@@ -12,6 +12,7 @@
 #include <QToolButton>
 #include <QWidget>
 
+#include <cmath>
 #include <vector>
 
 namespace quittika {
@@ -63,8 +64,18 @@ QColor ground_on_desktop(const QColor& given, const Roles& roles) {
     return theme::mix(given, own, given.hsvSaturation() < kGrey ? kGreyShare : kColorShare);
 }
 
+/// Light that a colour gives off, 0 to 1, as the eye takes it.
+double luminance(const QColor& color) {
+    const auto linear = [](double part) {
+        return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
+}
+
+/// Black or white, whichever stands out more: never less than 4.5 to 1.
 QColor readable_on(const QColor& ground) {
-    return qGray(ground.rgb()) < kMiddle ? QColor(Qt::white) : QColor(Qt::black);
+    constexpr double kAsFarFromBlackAsFromWhite = 0.179;
+    return luminance(ground) < kAsFarFromBlackAsFromWhite ? QColor(Qt::white) : QColor(Qt::black);
 }
 
 } // namespace

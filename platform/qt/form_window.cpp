@@ -246,6 +246,7 @@ void FormWindow::show(Modality modality) {
         if (form_.companion() && !modal) {
             keep_off_task_bar(*window_);
         }
+        window_->setAttribute(Qt::WA_ShowWithoutActivating, !desktop_.may_take_focus(form_));
         window_->show();
         listen_for_files();
     }
@@ -315,6 +316,12 @@ void FormWindow::activate() {
             window_->setWindowState(window_->windowState() & ~Qt::WindowMinimized);
         }
         window_->raise();
+        take_focus();
+    }
+}
+
+void FormWindow::take_focus() {
+    if (desktop_.may_take_focus(form_)) {
         window_->activateWindow();
     }
 }
@@ -328,7 +335,7 @@ void FormWindow::focus(Control& control) {
     if (auto* view = dynamic_cast<WidgetView*>(control.view())) {
         view->focus();
         if (window_->isVisible() && !window_->isActiveWindow()) {
-            window_->activateWindow();
+            take_focus();
         }
     }
 }

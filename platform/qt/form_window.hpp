@@ -49,6 +49,7 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    void take_focus();
     void start();
     void push_place();
     void push_state();

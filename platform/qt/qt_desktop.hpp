@@ -34,6 +34,7 @@ public:
     void hide(Form& form) override;
     void raise(Form& form) override;
     void set_focus(Control& control) override;
+    void hold_focus(const Form* form) override { focus_holder_ = form; }
     int screen_width() const override;
     int screen_height() const override;
     void beep() override;
@@ -68,6 +69,8 @@ public:
     // For the windows themselves.
     QWidget* main_window() const { return main_; }
     std::unique_ptr<QWidget> new_window(const Form& form) const { return build_(form.name()); }
+    /// Whether no other form holds the keyboard.
+    bool may_take_focus(const Form& form) const { return focus_holder_ == nullptr || focus_holder_ == &form; }
     /// The window in use, in front of which a modal one comes.
     QWidget* active_window() const;
     void built(QWidget& window);
@@ -88,6 +91,7 @@ private:
     QPointer<QWidget> main_;                     ///< the first main window that was built
     QObject context_;                            ///< work that is still to be done goes with it
     std::vector<std::function<void()>> waiting_; ///< for the end of a standstill
+    const Form* focus_holder_ = nullptr;
     int standstills_ = 0;
     bool ended_ = false;
 };

@@ -2,6 +2,7 @@
 
 #include "app/form_start.hpp"
 #include "app/form_ueber_quittika.hpp"
+#include "barcode/form_etp_barcode.hpp"
 #include "invoice/form1.hpp"
 #include "print/form2_etiketten.hpp"
 #include "print/form_druckvorschau.hpp"
@@ -24,6 +25,7 @@ inline const std::vector<MakeForm> kForms{make<Form1>,
                                           make<Form_ueber_QUITTIKA>,
                                           make<Form_Lieferschein_opt>,
                                           make<Form_Druckvorschau>,
+                                          make<Form_Etp_Barcode>,
                                           make<Form2_PAKET_ETIKETT>,
                                           make<Form2_PAKETHRMS_ETIKETT>,
                                           make<Form2_PAECKCHEN_ETIKETT>,
