@@ -246,13 +246,21 @@ void FormWindow::show(Modality modality) {
         if (form_.companion() && !modal) {
             keep_off_task_bar(*window_);
         }
-        window_->setAttribute(Qt::WA_ShowWithoutActivating, !desktop_.may_take_focus(form_));
-        window_->show();
+        show_window();
         listen_for_files();
     }
     activate();
     if (modal && waiting_ == nullptr) {
         wait();
+    }
+}
+
+void FormWindow::show_window() {
+    const bool with_focus = desktop_.may_take_focus(form_);
+    window_->setAttribute(Qt::WA_ShowWithoutActivating, !with_focus);
+    window_->show();
+    if (!with_focus) {
+        desktop_.focus_endangered();
     }
 }
 

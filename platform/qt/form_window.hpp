@@ -50,6 +50,7 @@ protected:
 
 private:
     void take_focus();
+    void show_window();
     void start();
     void push_place();
     void push_state();
