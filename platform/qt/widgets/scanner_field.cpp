@@ -1,7 +1,10 @@
 #include "platform/qt/widgets/scanner_field.hpp"
 
-#include <QCoreApplication>
+#include <QApplication>
+#include <QEventLoop>
 #include <QKeyEvent>
+
+#include <chrono>
 
 namespace quittika {
 
@@ -56,14 +59,42 @@ void ScannerField::end_line() {
 }
 
 bool ScannerField::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::KeyPress && event->spontaneous()) {
-        return keep(static_cast<const QKeyEvent&>(*event));
+    const auto* window = qobject_cast<const QWidget*>(watched);
+    switch (event->type()) {
+    case QEvent::Show:
+        if (window != nullptr && window->isWindow() && window->isModal()) {
+            await_pause();
+        }
+        return false;
+    case QEvent::KeyPress:
+        return event->spontaneous() &&
+               (keep(static_cast<const QKeyEvent&>(*event)) || QApplication::activeModalWidget() == nullptr);
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::Wheel:
+    case QEvent::Close:
+        return event->spontaneous() && QApplication::activeModalWidget() == nullptr;
+    default:
+        return false;
     }
-    return QLineEdit::eventFilter(watched, event);
+}
+
+/// The toolkit drops keys for other windows from the moment on at which a modal one is shown, but the desktop
+/// sends them there until it has given that one the keyboard.
+void ScannerField::await_pause() {
+    constexpr auto kPause = std::chrono::milliseconds(150);
+    QEventLoop waiting;
+    connect(&pause_, &QTimer::timeout, &waiting, &QEventLoop::quit);
+    pause_.start(kPause);
+    waiting.exec();
+    pause_.stop();
 }
 
 /// Keys that work a message box pass: Return and blank unless they belong to a text, and all that is no text.
 bool ScannerField::keep(const QKeyEvent& event) {
+    if (pause_.isActive()) {
+        pause_.start();
+    }
     const bool within_text = !kept_.isEmpty() && !kept_.endsWith(kLineEnd);
     if (is_line_feed(event) || (is_return(event) && within_text)) {
         kept_ += within_text ? QString(kLineEnd) : QString();
