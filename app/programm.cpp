@@ -45,7 +45,7 @@ struct Programm::Teile {
         MENUE_LISTEN(form1, ereignisse, platform.dialogs, kundenfenster, artikeluebernahme);
         MENUE_DRUCKEN(form1, etiketten);
         MENUE_EINSTELLUNGEN(form1, einstellungen, ereignisse, einstellungsfenster, programmfenster);
-        MENUE_EXTRAS(form1, eingabezeile);
+        MENUE_EXTRAS(form1, ereignisse, eingabezeile, barcodefenster);
     }
 
     Platform platform;
@@ -116,6 +116,11 @@ struct Programm::Teile {
     KundeAufnehmen kunde_aufnehmen{form1, verzeichnis, platform.dialogs, kundenfenster};
     Artikeluebernahme artikeluebernahme{form1,         artikelzustand, ARTIKEL,          summen,
                                         kundenfenster, verzeichnis,    platform.desktop, platform.dialogs};
+    Barcodefenster barcodefenster{platform.desktop, [this](Form_Etp_Barcode& form) {
+                                      return std::make_unique<Barcodemodus>(form, form1, werte, ARTIKEL,
+                                                                            artikelzustand, summen,
+                                                                            platform.desktop);
+                                  }};
     Logo logo{form1, einstellungen, werte};
     Programmstil stil{form1, einstellungen, programm, werte, platform.desktop};
     Folgeschritte folgeschritte{form1,       einstellungen,     programm, werte,

@@ -31,6 +31,8 @@ public:
     virtual void raise(Form& form) = 0;
     /// Gives a control the focus, and its form with it.
     virtual void set_focus(Control& control) = 0;
+    /// From now on no other form takes the keyboard from this one, see `FocusHold`; null ends that.
+    virtual void hold_focus(const Form* form) = 0;
 
     /// Paints all windows so, those that are made later included.
     virtual void set_look(const Look& look) = 0;
@@ -47,6 +49,19 @@ public:
 
     /// Ends the program's event loop.
     virtual void end() = 0;
+};
+
+/// While one lives, the keyboard stays with a form's window whatever else is shown or asks for the focus:
+/// what is typed without a pause must not end up in another one. Message boxes are not kept from it.
+class FocusHold {
+public:
+    FocusHold(Desktop& desktop, const Form& form) : desktop_(desktop) { desktop_.hold_focus(&form); }
+    FocusHold(const FocusHold&) = delete;
+    FocusHold& operator=(const FocusHold&) = delete;
+    ~FocusHold() { desktop_.hold_focus(nullptr); }
+
+private:
+    Desktop& desktop_;
 };
 
 } // namespace quittika

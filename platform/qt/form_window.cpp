@@ -269,12 +269,21 @@ void FormWindow::show(Modality modality) {
         if (form_.companion() && !modal) {
             keep_off_task_bar(*window_);
         }
-        window_->show();
+        show_window();
         listen_for_files();
     }
     activate();
     if (modal && waiting_ == nullptr) {
         wait();
+    }
+}
+
+void FormWindow::show_window() {
+    const bool with_focus = desktop_.may_take_focus(form_);
+    window_->setAttribute(Qt::WA_ShowWithoutActivating, !with_focus);
+    window_->show();
+    if (!with_focus) {
+        desktop_.focus_endangered();
     }
 }
 
@@ -338,6 +347,12 @@ void FormWindow::activate() {
             window_->setWindowState(window_->windowState() & ~Qt::WindowMinimized);
         }
         window_->raise();
+        take_focus();
+    }
+}
+
+void FormWindow::take_focus() {
+    if (desktop_.may_take_focus(form_)) {
         window_->activateWindow();
     }
 }
@@ -351,7 +366,7 @@ void FormWindow::focus(Control& control) {
     if (auto* view = dynamic_cast<WidgetView*>(control.view())) {
         view->focus();
         if (window_->isVisible() && !window_->isActiveWindow()) {
-            window_->activateWindow();
+            take_focus();
         }
     }
 }

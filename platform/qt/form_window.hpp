@@ -53,6 +53,8 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    void take_focus();
+    void show_window();
     void start();
     void push_place();
     void push_state();

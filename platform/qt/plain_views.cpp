@@ -3,6 +3,8 @@
 #include "platform/qt/guard.hpp"
 #include "platform/qt/qt_text.hpp"
 
+#include <QAccessible>
+
 namespace quittika {
 
 namespace {
@@ -29,6 +31,10 @@ void LabelView::push(PropertyId id) {
     }
     if (caption != widget_.text()) {
         widget_.setText(caption);
+        if (widget_.property("announced").toBool()) { // of the design: read out when it changes
+            QAccessibleEvent alert(&widget_, QAccessible::Alert);
+            QAccessible::updateAccessibility(&alert);
+        }
     }
 }
 

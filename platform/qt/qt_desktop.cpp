@@ -112,6 +112,15 @@ void QtDesktop::set_look(const Look& look) {
     }
 }
 
+void QtDesktop::hold_focus(const Form* form) {
+    const Form* former = std::exchange(focus_holder_, form);
+    if (form == nullptr && std::exchange(focus_endangered_, false)) {
+        if (FormWindow* window = find(*former)) {
+            window->activate();
+        }
+    }
+}
+
 int QtDesktop::screen_width() const {
     return twips(QApplication::primaryScreen()->availableGeometry().width());
 }

@@ -35,6 +35,7 @@ public:
     void raise(Form& form) override;
     void set_focus(Control& control) override;
     void set_look(const Look& look) override;
+    void hold_focus(const Form* form) override;
     int screen_width() const override;
     int screen_height() const override;
     void beep() override;
@@ -70,6 +71,10 @@ public:
     // For the windows themselves.
     QWidget* main_window() const { return main_; }
     std::unique_ptr<QWidget> new_window(const Form& form) const { return build_(form.name()); }
+    /// Whether no other form holds the keyboard.
+    bool may_take_focus(const Form& form) const { return focus_holder_ == nullptr || focus_holder_ == &form; }
+    /// A window is shown that may not take the keyboard. Not every desktop heeds that.
+    void focus_endangered() { focus_endangered_ = true; }
     /// The window in use, in front of which a modal one comes.
     QWidget* active_window() const;
     void built(QWidget& window);
@@ -91,6 +96,8 @@ private:
     QPointer<QWidget> main_;                     ///< the first main window that was built
     QObject context_;                            ///< work that is still to be done goes with it
     std::vector<std::function<void()>> waiting_; ///< for the end of a standstill
+    const Form* focus_holder_ = nullptr;
+    bool focus_endangered_ = false;
     int standstills_ = 0;
     bool ended_ = false;
 };

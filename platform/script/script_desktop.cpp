@@ -94,7 +94,8 @@ bool ScriptDesktop::takes_focus(const Control& control) const {
 }
 
 void ScriptDesktop::set_focus(Control& control) {
-    if (focus_ == &control || !takes_focus(control)) {
+    const bool held = focus_holder_ != nullptr && focus_holder_ != &control.form();
+    if (held || focus_ == &control || !takes_focus(control)) {
         return;
     }
     drop_focus();

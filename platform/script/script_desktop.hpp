@@ -28,9 +28,10 @@ public:
     /// Fires `LostFocus` and `GotFocus`. A control that cannot be reached on an open window takes no focus.
     void set_focus(Control& control) override;
     void set_look(const Look& /*look*/) override {} // nothing is painted
+    void hold_focus(const Form* form) override { focus_holder_ = form; }
     int screen_width() const override { return 15360; }
     int screen_height() const override { return 11520; }
-    void beep() override {}
+    void beep() override { ++beeps_; }
     void later(std::function<void()> work) override;
     void end() override { ended_ = true; }
 
@@ -47,6 +48,8 @@ public:
     const Form* blocker(const Form& form) const;
 
     const Control* focus() const { return focus_; }
+    /// How often the attention signal sounded.
+    int beeps() const { return beeps_; }
     /// Takes the focus away from where it is.
     void drop_focus();
 
@@ -74,7 +77,9 @@ private:
     std::deque<std::function<void()>> work_;
     Control* focus_ = nullptr;
     const Form* focus_form_ = nullptr; ///< the form of `focus_`, which may be gone already
+    const Form* focus_holder_ = nullptr;
     std::uint64_t opened_ = 0;
+    int beeps_ = 0;
     bool ended_ = false;
 };
 

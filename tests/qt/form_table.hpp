@@ -2,6 +2,7 @@
 
 #include "app/form_start.hpp"
 #include "app/form_ueber_quittika.hpp"
+#include "barcode/form_etp_barcode.hpp"
 #include "invoice/form1.hpp"
 #include "masterdata/form_artikelverwaltung.hpp"
 #include "masterdata/form_kundenverwaltung.hpp"
@@ -29,6 +30,7 @@ inline const std::vector<MakeForm> kForms{make<Form1>,
                                           make<frm_Programm>,
                                           make<Form_Lieferschein_opt>,
                                           make<Form_Druckvorschau>,
+                                          make<Form_Etp_Barcode>,
                                           make<Form2_PAKET_ETIKETT>,
                                           make<Form2_PAKETHRMS_ETIKETT>,
                                           make<Form2_PAECKCHEN_ETIKETT>,
