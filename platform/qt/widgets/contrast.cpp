@@ -24,7 +24,7 @@ double luminance(const QColor& color) {
 
 double contrast(const QColor& a, const QColor& b) {
     constexpr double kStrayLight = 0.05;
-    const auto [darker, lighter] = std::minmax(luminance(a), luminance(b));
+    const auto [darker, lighter] = std::minmax({luminance(a), luminance(b)});
     return (lighter + kStrayLight) / (darker + kStrayLight);
 }
 
