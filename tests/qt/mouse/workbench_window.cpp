@@ -17,7 +17,8 @@ QWidget& add_page(QTabWidget& tabs) {
 std::unique_ptr<QWidget> workbench() {
     auto window = std::make_unique<QMainWindow>();
     window->setObjectName("Workbench");
-    auto* centre = add<QWidget>(*window, "ui_Centre");
+    auto* centre = new QWidget;
+    centre->setObjectName("ui_Centre");
     window->setCentralWidget(centre);
     new QVBoxLayout(centre);
     add<QPushButton>(*centre, "Open");
