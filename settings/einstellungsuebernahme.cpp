@@ -1,5 +1,6 @@
 #include "settings/einstellungsuebernahme.hpp"
 
+#include "invoice/rechnung.hpp"
 #include "settings/belegeinstellung.hpp"
 #include "settings/druckfarben.hpp"
 
@@ -11,7 +12,7 @@ void Einstellungsuebernahme::ALLEUEBERNEHMEN(bool schliessen) {
     logo_.LayoutZeigen();
     stil_.FARBEN_WAEHLEN();
     stil_.Command_Vorschau_Click();
-    form1_.Check_datum.Value = programm_.Check_datum.Value();
+    DatumAutomatisch(form1_, zustand_, programm_.Check_datum.Value());
     DRUCKFARBEN_UEBERNEHMEN(werte_, einstellungen_);
     schreiber_.VORLAEUFIG_ENDET();
     schreiber_.EINSTELLUNGEN_SPEICHERN();

@@ -1,5 +1,6 @@
 #include "settings/programmfenster.hpp"
 
+#include "invoice/rechnung.hpp"
 #include "platform/datei.hpp"
 #include "platform/laufzeitfehler.hpp"
 
@@ -65,7 +66,7 @@ void Programmfenster::m_Programmeinstellungen_Click() {
 
 void Programmfenster::Command_uebernehmen_Click() {
     stil_.Command_Vorschau_Click();
-    form1_.Check_datum.Value = programm_.Check_datum.Value();
+    DatumAutomatisch(form1_, zustand_, programm_.Check_datum.Value());
     schreiber_.EINSTELLUNGEN_SPEICHERN();
     programm_.Hide();
 }
