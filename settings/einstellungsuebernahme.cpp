@@ -14,7 +14,7 @@ void Einstellungsuebernahme::ALLEUEBERNEHMEN(bool schliessen) {
     stil_.Command_Vorschau_Click();
     DatumAutomatisch(form1_, zustand_, programm_.Check_datum.Value());
     DRUCKFARBEN_UEBERNEHMEN(werte_, einstellungen_);
-    schreiber_.VORLAEUFIG_ENDET();
+    schreiber_.VORLAEUFIG_ENDET(einstellungen_);
     schreiber_.EINSTELLUNGEN_SPEICHERN();
     if (schliessen) {
         einstellungen_.Hide();
