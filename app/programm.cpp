@@ -122,11 +122,16 @@ struct Programm::Teile {
                                                                             platform.desktop);
                                   }};
     Logo logo{form1, einstellungen, werte};
-    Programmstil stil{form1, einstellungen, programm, werte, platform.desktop};
+    Programmstil stil{form1, einstellungen, programm, werte, platform.desktop, [this] {
+                          if (Kundenverwaltung* kunden = kundenfenster.module()) {
+                              kunden->FarbenUebernehmen();
+                          }
+                          artikeluebernahme.FarbenUebernehmen();
+                      }};
     Folgeschritte folgeschritte{form1,       einstellungen,     programm, werte,
                                 verzeichnis, platform.pictures, zuletzt,  stil};
-    Einstellungsuebernahme uebernahme{form1,    einstellungen, programm, werte,
-                                      vorgaben, logo,          stil,     einstellungsschreiber};
+    Einstellungsuebernahme uebernahme{form1, einstellungen,        programm, werte, zustand, vorgaben, logo,
+                                      stil,  einstellungsschreiber};
     Bilderwahl bilderwahl{einstellungen, verzeichnis, platform.dialogs, platform.pictures};
     Einstellungsmuster einstellungsmuster{einstellungen, [this] {
                                               return std::make_unique<Musterbeleg>(

@@ -21,15 +21,15 @@ bool kopieren(const fs::path& von, const fs::path& nach) {
     return !fehler;
 }
 
-/// Names of the shipped files that could not be copied, parted by ", ".
-std::string mitgeliefertes_kopieren(const fs::path& von, const fs::path& nach) {
-    std::string fehlend;
-    for (const fs::path& name : MITGELIEFERTE_DATEIEN()) {
-        if (!kopieren(von / name, nach / name)) {
-            fehlend += (fehlend.empty() ? "" : ", ") + name.string();
+/// Copies the files that are not there yet; adds the names of those that cannot be to `fehlend`, each with
+/// ", " before it.
+void nachlegen(const std::vector<fs::path>& namen, const fs::path& von, const fs::path& nach,
+               std::string& fehlend) {
+    for (const fs::path& name : namen) {
+        if (!datei_vorhanden((nach / name).string()) && !kopieren(von / name, nach / name)) {
+            fehlend += ", " + name.string();
         }
     }
-    return fehlend;
 }
 
 } // namespace
@@ -40,17 +40,21 @@ Programmordner PROGRAMMORDNER(const fs::path& programmdatei, const fs::path& dat
         return {ordner, {}};
     }
     std::error_code fehler;
-    if (!fs::create_directories(datenordner, fehler)) {
-        return {datenordner,
-                fehler ? "Der Ordner >>" + datenordner.string() +
-                             "<< lässt sich nicht anlegen. Nummern, Kunden und Einstellungen können "
-                             "nicht gespeichert werden, bis er da ist."
-                       : std::string()};
+    const bool neu = fs::create_directories(datenordner, fehler);
+    if (fehler) {
+        return {datenordner, "Der Ordner >>" + datenordner.string() +
+                                 "<< lässt sich nicht anlegen. Nummern, Kunden und Einstellungen können "
+                                 "nicht gespeichert werden, bis er da ist."};
     }
-    const std::string fehlend = mitgeliefertes_kopieren(ordner, datenordner);
+    std::string fehlend;
+    nachlegen(MITGELIEFERTE_BILDER(), ordner, datenordner, fehlend);
+    if (!neu) {
+        return {datenordner, {}}; // without a picture the program still runs
+    }
+    nachlegen(MITGELIEFERTE_BEISPIELE(), ordner, datenordner, fehlend);
     return {datenordner, fehlend.empty() ? std::string()
                                          : "Diese mitgelieferten Dateien ließen sich nicht nach >>" +
-                                               datenordner.string() + "<< kopieren: " + fehlend +
+                                               datenordner.string() + "<< kopieren: " + fehlend.substr(2) +
                                                ". Bitte von Hand nachholen."};
 }
 

@@ -7,7 +7,8 @@
 namespace quittika {
 
 /// Names of the shipped files in the program folder, subfolders included.
-const std::vector<std::filesystem::path>& MITGELIEFERTE_DATEIEN();
+const std::vector<std::filesystem::path>& MITGELIEFERTE_BILDER();
+const std::vector<std::filesystem::path>& MITGELIEFERTE_BEISPIELE();
 
 /// The directory that the program keeps its files in.
 struct Programmordner {
@@ -16,7 +17,8 @@ struct Programmordner {
 };
 
 /// The folder of the executable, or where the user may not write there, `datenordner`. When that has to be
-/// created, it is filled with the shipped files; nobody's own files are copied.
+/// created, it is filled with the shipped files; later on with those pictures that it lacks. Nobody's own
+/// files are copied.
 Programmordner PROGRAMMORDNER(const std::filesystem::path& programmdatei,
                               const std::filesystem::path& datenordner);
 

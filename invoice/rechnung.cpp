@@ -6,6 +6,7 @@
 #include "platform/text.hpp"
 #include "platform/zahlen.hpp"
 
+#include <optional>
 #include <utility>
 #include <vector>
 
@@ -40,6 +41,14 @@ void ZweiteKopfzeileZeigen(Form1& form1) {
     form1.Label_Mengex.Caption = form1.Label_Menge.Caption();
     form1.Label_Leistungx.Caption = form1.Label_Leistung.Caption();
     form1.Label_preisx.Caption = form1.Label_preis.Caption();
+}
+
+void DatumAutomatisch(Form1& form1, Rechnungszustand& zustand, int haekchen) {
+    std::optional<Rechnungszustand::Sperre> still;
+    if (zustand.IstDateiDesPfads()) {
+        still.emplace(zustand);
+    }
+    form1.Check_datum.Value = haekchen;
 }
 
 void LieferdatumFreigeben(Form1& form1) {

@@ -41,6 +41,9 @@ void SatzAuswahlZeigen(Form1& form1, const PROGRAMMEINSTELLUNG& einstellung);
 /// Takes the headings of the columns over the input line from those over the list.
 void ZweiteKopfzeileZeigen(Form1& form1);
 
+/// Ticks `Check_datum` or not; the date of an invoice on disk stays what it is.
+void DatumAutomatisch(Form1& form1, Rechnungszustand& zustand, int haekchen);
+
 /// Enables the delivery date by `Check_LIEFERDATUM`: white then, else in the colour of its frame.
 void LieferdatumFreigeben(Form1& form1);
 

@@ -99,6 +99,12 @@ void Artikeluebernahme::Ablegen(const Zeile& ziel, const std::string& text) {
     summen_.jetztberechnen_List();
 }
 
+void Artikeluebernahme::FarbenUebernehmen() const {
+    if (Artikelverwaltung* offen = fenster_.module()) {
+        offen->FarbenUebernehmen();
+    }
+}
+
 std::string Artikeluebernahme::ArtikelzeileAus(std::string_view text) const {
     const Artikelverwaltung* offen = fenster_.module();
     if (const auto gezogen = offen == nullptr ? std::nullopt : offen->Gezogen(text)) {

@@ -36,6 +36,8 @@ public:
     void Command_PLUS_Click(const Zeile& ziel);
     /// Shows the list beside the invoice; an article chosen there goes into the input line.
     void Command_Artikelliste_Click() { fenster_.open(); }
+    /// The open list takes the colours that the main window has now.
+    void FarbenUebernehmen() const;
     /// Text dropped on the description of a row. An article from the open list, or a line of the article
     /// file, fills the row; any other text becomes the description.
     void Ablegen(const Zeile& ziel, const std::string& text);

@@ -108,10 +108,14 @@ void Artikelverwaltung::ListeVerdrahten() {
     liste.DragText = [this](int index) { return std::string(ARTIKEL_[Satznummer(index)].Leistung); };
 }
 
+void Artikelverwaltung::FarbenUebernehmen() {
+    FARBEN_UEBERNEHMEN(form_, form1_);
+}
+
 void Artikelverwaltung::Form_Load(Zweck zweck) {
     constexpr int kAbstand = 100; // twips
     form_.Label_Hinweis.Caption = zweck == Zweck::Auswahl ? kHinweisAuswahl : kHinweisBeistellen;
-    FARBEN_UEBERNEHMEN(form_, form1_);
+    FarbenUebernehmen();
     PLATZIEREN(form_, form1_, form1_.Left() + kAbstand, form1_.Top() + kAbstand);
     Auffrischen();
     form_.Text_suchen.SetFocus();

@@ -32,6 +32,8 @@ public:
     /// The line of the selected article if `text` is its description or the line itself.
     std::optional<std::string> Gezogen(std::string_view text) const;
     void Schliessen() { form_.Close(); }
+    /// Takes the colours that the main window has now.
+    void FarbenUebernehmen();
 
 private:
     void KnoepfeVerdrahten();

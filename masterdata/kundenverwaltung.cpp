@@ -37,9 +37,13 @@ Kundenverwaltung::Kundenverwaltung(Form_Kundenverwaltung& form, Form1& form1, Ar
     };
 }
 
+void Kundenverwaltung::FarbenUebernehmen() {
+    FARBEN_UEBERNEHMEN(form_, form1_);
+}
+
 void Kundenverwaltung::Form_Load() {
     constexpr int kAbstand = 200; // twips
-    FARBEN_UEBERNEHMEN(form_, form1_);
+    FarbenUebernehmen();
     PLATZIEREN(form_, form1_, form1_.Width() - form_.Width() - kAbstand, kAbstand);
     Kundenliste_laden(pfad_);
     form_.Text_suchen.SetFocus();

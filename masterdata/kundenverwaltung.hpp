@@ -26,6 +26,8 @@ public:
     /// Shows a line that was appended to the file.
     void Aufgenommen(const std::string& zeile);
     void Schliessen() { form_.Close(); }
+    /// Takes the colours that the main window has now.
+    void FarbenUebernehmen();
 
 private:
     void Form_Load();

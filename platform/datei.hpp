@@ -56,6 +56,9 @@ void datei_anlegen(const std::string& pfad, std::string_view bytes);
 /// could not be written whole is taken back.
 void datei_anhaengen(const std::string& pfad, std::string_view bytes);
 
+/// Whether two paths name one file, whatever they are written like. False where one of them is missing.
+bool IST_DIESELBE_DATEI(const std::string& a, const std::string& b);
+
 /// What a copy does where a file stands at its target.
 enum class Kopierziel {
     Ersetzen, ///< as `datei_ersetzen` does

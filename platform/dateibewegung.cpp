@@ -10,9 +10,13 @@
 
 namespace quittika {
 
+bool IST_DIESELBE_DATEI(const std::string& a, const std::string& b) {
+    std::error_code fehlt;
+    return std::filesystem::equivalent(ort_von(a), ort_von(b), fehlt);
+}
+
 void DATEI_KOPIEREN(const std::string& von, const std::string& nach, Kopierziel ziel) {
-    std::error_code fehlt_noch;
-    if (std::filesystem::equivalent(ort_von(von), ort_von(nach), fehlt_noch)) {
+    if (IST_DIESELBE_DATEI(von, nach)) {
         scheitern(EACCES, nach);
     }
     const std::string bytes = bytes_lesen(von);

@@ -96,7 +96,7 @@ void Einstellungsaustausch::m_import_Click() {
 
 void Einstellungsaustausch::Uebernehmen(const std::string& datei) {
     const std::string aktuelle = EINSTELLUNGSPFAD(verzeichnis_);
-    if (datei == systempfad(aktuelle)) {
+    if (IST_DIESELBE_DATEI(datei, aktuelle)) {
         throw Laufzeitfehler(fehler::kZugriffVerweigert, datei); // as an old file it would delete itself
     }
     if (rechts(datei, 3) == "xpt") {

@@ -74,7 +74,7 @@ void Einstellungsfenster::Command_nichtuebernehmen_Click() {
         in_kraft_->zuruecknehmen();
         bilder_.verwerfen();
         in_kraft_.reset();
-        schreiber_.VORLAEUFIG_ENDET();
+        schreiber_.VORLAEUFIG_ENDET(form_);
         Anzeigen();
         logo_.LayoutZeigen();
         nummern_.ZaehlerAuffrischen();
@@ -95,7 +95,7 @@ void Einstellungsfenster::Anzeigen() {
 
 void Einstellungsfenster::StandMerken() {
     in_kraft_.emplace(form_, werte_);
-    schreiber_.VORLAEUFIG_BEGINNT();
+    schreiber_.VORLAEUFIG_BEGINNT(form_);
 }
 
 } // namespace quittika

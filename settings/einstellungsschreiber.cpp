@@ -59,9 +59,10 @@ void Einstellungsschreiber::EINSTELLUNGEN_SPEICHERN() {
 
 std::vector<std::string> Einstellungsschreiber::InKraft() const {
     std::vector<std::string> texte = ZEILENTEXTE(tabelle_);
-    for (std::size_t n = 0; in_kraft_ && n < texte.size(); ++n) {
-        if (tabelle_[n].im_fenster) {
-            texte[n] = (*in_kraft_)[n];
+    for (std::size_t n = 0; n < texte.size(); ++n) {
+        const auto stand = in_kraft_.find(tabelle_[n].fenster);
+        if (stand != in_kraft_.end()) {
+            texte[n] = stand->second[n];
         }
     }
     return texte;

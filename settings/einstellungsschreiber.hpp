@@ -5,6 +5,7 @@
 #include "platform/verzeichnis.hpp"
 #include "settings/einstellungstabelle.hpp"
 
+#include <map>
 #include <optional>
 #include <string>
 #include <vector>
@@ -32,10 +33,10 @@ public:
     /// Replaces the file by what the windows hold. A file that was changed elsewhere, or could not be read
     /// to its end, is put aside before. A failure is told in a box and in panel 3; the old file stays then.
     void EINSTELLUNGEN_SPEICHERN();
-    /// From now on the fields of the invoice settings hold what is not taken over yet: what is saved for them
-    /// is what they hold now.
-    void VORLAEUFIG_BEGINNT() { in_kraft_ = ZEILENTEXTE(tabelle_); }
-    void VORLAEUFIG_ENDET() { in_kraft_.reset(); }
+    /// From now on a settings window holds what is not taken over yet: what is saved for its lines is what
+    /// they hold now.
+    void VORLAEUFIG_BEGINNT(const Form& fenster) { in_kraft_[&fenster] = ZEILENTEXTE(tabelle_); }
+    void VORLAEUFIG_ENDET(const Form& fenster) { in_kraft_.erase(&fenster); }
     /// Everything that a file with these bytes holds is in the windows.
     void GELESEN_MERKEN(std::string bytes) { stand_ = std::move(bytes); }
 
@@ -47,7 +48,7 @@ private:
     const Einstellungstabelle& tabelle_;
     const Programmverzeichnis& verzeichnis_;
     Dialogs& dialogs_;
-    std::optional<std::vector<std::string>> in_kraft_;
+    std::map<const Form*, std::vector<std::string>> in_kraft_; ///< of the windows that are being worked on
     std::optional<std::string> stand_; ///< content of the file that was read or written last
 };
 

@@ -51,7 +51,7 @@ private:
     /// The line of a control has the control's name.
     template <class Steuerelement> Einstellungszeile& neu(Zeilenform form, Steuerelement& feld) {
         Einstellungszeile& zeile = neu(feld.name(), form, &feld);
-        zeile.im_fenster = &feld.form() == &e_;
+        zeile.fenster = &feld.form();
         return zeile;
     }
     void fest(const char* schluessel, std::string text) {
@@ -87,8 +87,8 @@ private:
     void programmstil() {
         fest("VERSIONSTEXT", w_.VERSIONSTEXT);
         fest("ZWEITERSTART", kZweiterStart);
-        neu("FORMULARFARBE", Zeilenform::Long, &w_.FORMULARFARBE);
-        neu("HINTERGRUNDFARBE", Zeilenform::Long, &w_.HINTERGRUNDFARBE);
+        neu("FORMULARFARBE", Zeilenform::Long, &w_.FORMULARFARBE).fenster = &programm_;
+        neu("HINTERGRUNDFARBE", Zeilenform::Long, &w_.HINTERGRUNDFARBE).fenster = &programm_;
         haekchen({&programm_.Check_datum});
         optionen({&programm_.Option_stil1, &programm_.Option_stil2, &programm_.Option_stil3,
                   &programm_.Option_stil4, &programm_.Option_stil5});
@@ -105,14 +105,13 @@ private:
         haekchen({&e_.Check_mwst});
         optionen({&e_.Option_mwst_plus, &e_.Option_mwst_minus});
         texte({&e_.Text_logopath});
-        // As taken over; the window may show a style that is only tried.
-        neu(form1_.Image_hintergrund.name(), Zeilenform::Bool, &w_.HINTERGRUNDBILD);
+        neu(form1_.Image_hintergrund.name(), Zeilenform::Bool, &w_.HINTERGRUNDBILD).fenster = &programm_;
         optionen({&programm_.Option_stil6stroh, &programm_.Option_stil7stroh});
     }
     void druckfarben() {
         fest("PRINTCOLORS", "PRINTCOLORS");
         for (const Druckfarbe& farbe : kDruckfarben) {
-            neu(farbe.schluessel, Zeilenform::Long, &(w_.*farbe.wert)).im_fenster = true;
+            neu(farbe.schluessel, Zeilenform::Long, &(w_.*farbe.wert)).fenster = &e_;
             frm_einstellungen::Farbzeile& zeile = e_.*farbe.zeile;
             for (RangeControl* regler : {&zeile.R, &zeile.G, &zeile.B}) {
                 neu(Zeilenform::Int, *regler).aus_prog_cfg = &zeile == &e_.Werbespruch;
@@ -120,12 +119,14 @@ private:
         }
     }
     void programmwerte() {
-        neu("LAYOUTNUMMER", Zeilenform::Int, &w_.LAYOUTNUMMER).im_fenster = true;
-        neu("DRUCKERSCHRIFT", Zeilenform::Text, &w_.DRUCKERSCHRIFT).im_fenster = true;
+        neu("LAYOUTNUMMER", Zeilenform::Int, &w_.LAYOUTNUMMER).fenster = &e_;
+        neu("DRUCKERSCHRIFT", Zeilenform::Text, &w_.DRUCKERSCHRIFT).fenster = &e_;
         // What the user chose last, which an opened invoice does not change.
         neu(form1_.Check_mengenartDECIMAL.name(), Zeilenform::Check, &w_.MENGE_DEZIMAL);
-        neu("FARBE_INDIVIDUELL_HINTERGRUND", Zeilenform::Long, &w_.FARBE_INDIVIDUELL_HINTERGRUND);
-        neu("FARBE_INDIVIDUELL_FORMULAR", Zeilenform::Long, &w_.FARBE_INDIVIDUELL_FORMULAR);
+        neu("FARBE_INDIVIDUELL_HINTERGRUND", Zeilenform::Long, &w_.FARBE_INDIVIDUELL_HINTERGRUND).fenster =
+            &programm_;
+        neu("FARBE_INDIVIDUELL_FORMULAR", Zeilenform::Long, &w_.FARBE_INDIVIDUELL_FORMULAR).fenster =
+            &programm_;
         neu("MWST_SATZ2", Zeilenform::Text, &w_.MWST_SATZ2);
         neu("WAEHRUNG", Zeilenform::Text, &w_.WAEHRUNG);
         int n = 0;

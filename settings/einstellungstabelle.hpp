@@ -35,10 +35,10 @@ struct Einstellungszeile {
     std::string schluessel;
     Zeilenform form;
     Besitzer besitzer;
-    std::string vorgabe;      ///< as the windows are designed
-    int ersatz = 0;           ///< for a font size that is none
-    bool aus_prog_cfg = true; ///< the older file `prog.cfg` gives it back
-    bool im_fenster = false;  ///< the fields of the invoice settings change it before it is taken over
+    std::string vorgabe;           ///< as the windows are designed
+    int ersatz = 0;                ///< for a font size that is none
+    bool aus_prog_cfg = true;      ///< the older file `prog.cfg` gives it back
+    const Form* fenster = nullptr; ///< the settings window that changes it before it is taken over
 };
 
 /// The lines with a meaning, by number; behind them the file is padded.

@@ -1,5 +1,6 @@
 #include "settings/einstellungsuebernahme.hpp"
 
+#include "invoice/rechnung.hpp"
 #include "settings/belegeinstellung.hpp"
 #include "settings/druckfarben.hpp"
 
@@ -11,9 +12,9 @@ void Einstellungsuebernahme::ALLEUEBERNEHMEN(bool schliessen) {
     logo_.LayoutZeigen();
     stil_.FARBEN_WAEHLEN();
     stil_.Command_Vorschau_Click();
-    form1_.Check_datum.Value = programm_.Check_datum.Value();
+    DatumAutomatisch(form1_, zustand_, programm_.Check_datum.Value());
     DRUCKFARBEN_UEBERNEHMEN(werte_, einstellungen_);
-    schreiber_.VORLAEUFIG_ENDET();
+    schreiber_.VORLAEUFIG_ENDET(einstellungen_);
     schreiber_.EINSTELLUNGEN_SPEICHERN();
     if (schliessen) {
         einstellungen_.Hide();

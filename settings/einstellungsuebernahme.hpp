@@ -1,5 +1,6 @@
 #pragma once
 
+#include "invoice/rechnungszustand.hpp"
 #include "invoice/vorgaben.hpp"
 #include "settings/einstellungsschreiber.hpp"
 #include "settings/logo.hpp"
@@ -11,12 +12,13 @@ namespace quittika {
 class Einstellungsuebernahme {
 public:
     Einstellungsuebernahme(Form1& form1, frm_einstellungen& einstellungen, const frm_Programm& programm,
-                           PROGRAMMEINSTELLUNG& werte, Vorgaben& vorgaben, Logo& logo, Programmstil& stil,
-                           Einstellungsschreiber& schreiber)
+                           PROGRAMMEINSTELLUNG& werte, Rechnungszustand& zustand, Vorgaben& vorgaben,
+                           Logo& logo, Programmstil& stil, Einstellungsschreiber& schreiber)
         : form1_(form1),
           einstellungen_(einstellungen),
           programm_(programm),
           werte_(werte),
+          zustand_(zustand),
           vorgaben_(vorgaben),
           logo_(logo),
           stil_(stil),
@@ -31,6 +33,7 @@ private:
     frm_einstellungen& einstellungen_;
     const frm_Programm& programm_;
     PROGRAMMEINSTELLUNG& werte_;
+    Rechnungszustand& zustand_;
     Vorgaben& vorgaben_;
     Logo& logo_;
     Programmstil& stil_;

@@ -1,5 +1,6 @@
 #include "settings/programmfenster.hpp"
 
+#include "invoice/rechnung.hpp"
 #include "platform/datei.hpp"
 #include "platform/laufzeitfehler.hpp"
 
@@ -56,16 +57,18 @@ Programmfenster::Programmfenster(Form1& form1, frm_Programm& programm, PROGRAMME
 void Programmfenster::m_Programmeinstellungen_Click() {
     if (!programm_.shown()) {
         const Rechnungszustand::Sperre still(zustand_);
+        schreiber_.VORLAEUFIG_BEGINNT(programm_);
         in_kraft_ = stil_.wahl();
         datum_in_kraft_ = programm_.Check_datum.Value();
         stil_.setzen(stil_.gezeigt().value_or(in_kraft_));
     }
-    programm_.Show(Modality::Modal);
+    programm_.Show();
 }
 
 void Programmfenster::Command_uebernehmen_Click() {
     stil_.Command_Vorschau_Click();
-    form1_.Check_datum.Value = programm_.Check_datum.Value();
+    DatumAutomatisch(form1_, zustand_, programm_.Check_datum.Value());
+    schreiber_.VORLAEUFIG_ENDET(programm_);
     schreiber_.EINSTELLUNGEN_SPEICHERN();
     programm_.Hide();
 }
@@ -75,6 +78,7 @@ void Programmfenster::Command_nichtuebernehmen_Click() {
         const Rechnungszustand::Sperre still(zustand_);
         stil_.setzen(in_kraft_);
         programm_.Check_datum.Value = datum_in_kraft_;
+        schreiber_.VORLAEUFIG_ENDET(programm_);
     }
     programm_.Hide();
 }

@@ -15,7 +15,8 @@ public:
                     Rechnungszustand& zustand, Programmstil& stil, Einstellungsschreiber& schreiber,
                     const Programmverzeichnis& verzeichnis, Dialogs& dialogs, Desktop& desktop);
 
-    /// Shows the dialog until it is closed. It begins with the style that the windows show.
+    /// Shows the dialog beside the other windows. It begins with the style that those show; until the
+    /// take-over nothing of it is saved.
     void m_Programmeinstellungen_Click();
 
 private:

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <utility>
 #include <vector>
 
 namespace quittika {
@@ -99,8 +100,13 @@ std::vector<Control*> formularteile(Form1& f) {
 } // namespace
 
 Programmstil::Programmstil(Form1& form1, frm_einstellungen& einstellungen, frm_Programm& programm,
-                           PROGRAMMEINSTELLUNG& werte, Desktop& desktop)
-    : form1_(form1), einstellungen_(einstellungen), programm_(programm), werte_(werte), desktop_(desktop) {
+                           PROGRAMMEINSTELLUNG& werte, Desktop& desktop, std::function<void()> mitziehen)
+    : form1_(form1),
+      einstellungen_(einstellungen),
+      programm_(programm),
+      werte_(werte),
+      desktop_(desktop),
+      mitziehen_(std::move(mitziehen)) {
     for (int n = programm.Shape_hintergrund.first(); n <= programm.Shape_hintergrund.size(); ++n) {
         programm.Shape_hintergrund[n].BackColor = kStile[n - 1].hintergrund;
         programm.Shape_formular[n].BackColor = kStile[n - 1].formular;
@@ -152,6 +158,7 @@ void Programmstil::Command_Vorschau_Click() {
     }
     LieferdatumFreigeben(form1_);
     HINTERGRUNDBILD_NEHMEN();
+    mitziehen_();
     gezeigt_ = wahl();
 }
 

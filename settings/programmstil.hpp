@@ -6,6 +6,7 @@
 #include "settings/frm_programm.hpp"
 #include "settings/programmeinstellung.hpp"
 
+#include <functional>
 #include <optional>
 
 namespace quittika {
@@ -23,8 +24,10 @@ struct Stilwahl {
 /// The colours of the windows. While no style is on, the windows are painted in the program's own look.
 class Programmstil {
 public:
+    /// `mitziehen` is called after the main window was painted: windows that have its colours take the new
+    /// ones.
     Programmstil(Form1& form1, frm_einstellungen& einstellungen, frm_Programm& programm,
-                 PROGRAMMEINSTELLUNG& werte, Desktop& desktop);
+                 PROGRAMMEINSTELLUNG& werte, Desktop& desktop, std::function<void()> mitziehen);
 
     /// The two colours become those of the style that is on; without one they stay.
     void FARBEN_WAEHLEN();
@@ -49,6 +52,7 @@ private:
     frm_Programm& programm_;
     PROGRAMMEINSTELLUNG& werte_;
     Desktop& desktop_;
+    std::function<void()> mitziehen_;
     std::optional<Stilwahl> gezeigt_;
 };
 

@@ -15,10 +15,10 @@ struct Einstellungsstand : Pruefstand {
     Logo logo{form1, einstellungen, werte};
     ScriptClock skriptuhr;
     ScriptDesktop desktop{skriptuhr};
-    Programmstil stil{form1, einstellungen, programm, werte, desktop};
+    Programmstil stil{form1, einstellungen, programm, werte, desktop, [] {}};
     Folgeschritte folgeschritte{form1, einstellungen, programm, werte, verzeichnis, bilder, zuletzt, stil};
-    Einstellungsuebernahme uebernahme{form1,    einstellungen, programm, werte,
-                                      vorgaben, logo,          stil,     einstellungsschreiber};
+    Einstellungsuebernahme uebernahme{form1, einstellungen,        programm, werte, zustand, vorgaben, logo,
+                                      stil,  einstellungsschreiber};
     Einstellungsleser einstellungsleser{einstellungstabelle, verzeichnis, folgeschritte, uebernahme,
                                         einstellungsschreiber};
 

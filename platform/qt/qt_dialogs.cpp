@@ -82,9 +82,15 @@ void QtDialogs::prepare(QFileDialog& window, const FileDialog& dialog) const {
 void QtDialogs::prepare_for_new(QFileDialog& window, const FileDialog& dialog) const {
     window.setFileMode(QFileDialog::AnyFile);
     prepare(window, dialog);
-    window.setDefaultSuffix(default_suffix(window.selectedNameFilter()));
-    QObject::connect(&window, &QFileDialog::filterSelected, &window,
-                     [&window](const QString& filter) { window.setDefaultSuffix(default_suffix(filter)); });
+    // Where the only filter names no kind of file, the proposed name does.
+    const QString otherwise =
+        window.nameFilters().size() > 1 ? QString() : QFileInfo(path_to_qt(dialog.proposed_name)).suffix();
+    const auto use_filter = [&window, otherwise](const QString& filter) {
+        const QString suffix = default_suffix(filter);
+        window.setDefaultSuffix(suffix.isEmpty() ? otherwise : suffix);
+    };
+    use_filter(window.selectedNameFilter());
+    QObject::connect(&window, &QFileDialog::filterSelected, &window, use_filter);
 }
 
 std::string QtDialogs::run(QFileDialog& window) {

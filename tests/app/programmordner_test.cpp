@@ -23,7 +23,9 @@ TEST(Programmordner, IstDerOrdnerDesProgrammsWennManDortSchreibenDarf) {
 TEST(Programmordner, SonstEinEigenerDerBeimAnlegenGefuelltWird) {
     const Probenordner o;
     fs::create_directory(o.pfad("programm"));
-    for (const fs::path& name : MITGELIEFERTE_DATEIEN()) {
+    std::vector<fs::path> namen = MITGELIEFERTE_BILDER();
+    namen.insert(namen.end(), MITGELIEFERTE_BEISPIELE().begin(), MITGELIEFERTE_BEISPIELE().end());
+    for (const fs::path& name : namen) {
         o.schreiben("programm" / name, "geliefert");
         chmod(o.pfad("programm" / name).c_str(), 0444);
     }
@@ -37,12 +39,16 @@ TEST(Programmordner, SonstEinEigenerDerBeimAnlegenGefuelltWird) {
     for (const auto& eintrag : fs::recursive_directory_iterator(o.pfad("neu/daten"))) {
         kopiert += eintrag.is_regular_file() ? 1 : 0;
     }
-    EXPECT_EQ(kopiert, MITGELIEFERTE_DATEIEN().size()) << "nobody's own files";
+    EXPECT_EQ(kopiert, namen.size()) << "nobody's own files";
     EXPECT_EQ(o.lesen("neu/daten/Beispielrechnung.qk8"), "geliefert");
     EXPECT_NO_THROW(datei_ersetzen(o.pfad("neu/daten/Beispielrechnung.qk8"), "eigen"));
-    fs::remove(o.pfad("neu/daten/ihrlogo.bmp"));
+    fs::remove(o.pfad("neu/daten/Beispielrechnung.qk8"));
+    fs::remove(o.pfad("neu/daten/stroh.png"));
+    o.schreiben("neu/daten/ihrlogo.bmp", "eigen");
     EXPECT_EQ(anlegen().meldung, "");
-    EXPECT_FALSE(fs::exists(o.pfad("neu/daten/ihrlogo.bmp"))) << "only once";
+    EXPECT_FALSE(fs::exists(o.pfad("neu/daten/Beispielrechnung.qk8"))) << "only once";
+    EXPECT_EQ(o.lesen("neu/daten/stroh.png"), "geliefert") << "a folder of an earlier version lacks it";
+    EXPECT_EQ(o.lesen("neu/daten/ihrlogo.bmp"), "eigen");
 }
 
 TEST(Programmordner, WasNichtGehtWirdGesagt) {

@@ -160,7 +160,7 @@ public:
         for (const auto& form : forms_) {
             prepare(*form);
         }
-        stil_.emplace(form<Form1>(), einstellungen_, programm(), werte_, desktop_);
+        stil_.emplace(form<Form1>(), einstellungen_, programm(), werte_, desktop_, [] {});
     }
 
     frm_Programm& programm() { return form<frm_Programm>(); }

@@ -12,10 +12,14 @@ namespace quittika::test {
 namespace {
 
 QWidget& dialogfenster() {
-    return *QApplication::activeModalWidget();
+    const QWidgetList fenster = QApplication::topLevelWidgets();
+    const auto gefunden = std::find_if(fenster.begin(), fenster.end(), [](const QWidget* eines) {
+        return eines->objectName() == "frm_Programm";
+    });
+    return **gefunden;
 }
 
-/// Does the same in every event loop that the dialog opens, one after the other.
+/// Does this in every event loop that a box opens, one after the other.
 void nacheinander(const std::vector<std::function<void()>>& schritte) {
     for (std::size_t i = 0; i < schritte.size(); ++i) {
         QTimer::singleShot(30 * static_cast<int>(i + 1), schritte[i]);
@@ -43,8 +47,9 @@ TEST(Programmfenster, TastenProbierenEinenStilUndDerResetBeendetSofort) {
                   },
                   [] { dialogfenster().findChild<QAbstractButton*>("Command_delreg")->click(); },
                   [&] {
-                      frage = dialogfenster().findChild<QLabel*>("qt_msgbox_label")->text().toStdString();
-                      QTest::keyClick(&dialogfenster(), Qt::Key_Return);
+                      QWidget& box = *QApplication::activeModalWidget();
+                      frage = box.findChild<QLabel*>("qt_msgbox_label")->text().toStdString();
+                      QTest::keyClick(&box, Qt::Key_Return);
                   }});
     plattform.desktop().run([&programm] { programm.hauptfenster_zeigen(); });
     EXPECT_EQ(grund, QColor(0x5B, 0x78, 0x97)) << "the first of the seven";

@@ -24,12 +24,15 @@ QFont Card::title_font() const {
     return bold;
 }
 
+QColor Card::panel_on(const QColor& window) {
+    return window.lightness() < 128 ? window.lighter(118) : theme::mix(Qt::white, window, 0.72);
+}
+
 QColor Card::panel_color() const {
     if (testAttribute(Qt::WA_SetPalette)) {
         return palette().color(QPalette::Window);
     }
-    const QColor window = palette().color(QPalette::Window);
-    return window.lightness() < 128 ? window.lighter(118) : theme::mix(Qt::white, window, 0.72);
+    return panel_on(palette().color(QPalette::Window));
 }
 
 bool Card::event(QEvent* event) {

@@ -12,6 +12,9 @@ class Card : public QGroupBox {
 public:
     explicit Card(QWidget* parent = nullptr);
 
+    /// Colour of a panel on a window of that colour.
+    static QColor panel_on(const QColor& window);
+
 protected:
     bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;

@@ -85,6 +85,16 @@ public:
         }
     }
 
+    QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
+                           const QWidget* widget) const override {
+        QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
+        if (type == CT_PushButton && option != nullptr) { // the style leaves hardly any room beside the text
+            size.setWidth(
+                std::max(size.width(), contents.width() + 2 * option->fontMetrics.averageCharWidth()));
+        }
+        return size;
+    }
+
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                        const QWidget* widget) const override {
         const QPalette& palette = option->palette;
@@ -124,11 +134,11 @@ public:
             QStyleOptionSlider own(*slider);
             own.palette = arrow_palette(own.palette);
             QProxyStyle::drawComplexControl(control, &own, painter, widget);
+            draw_dark_outline(SC_ScrollBarSlider, control, *slider, *painter, widget);
+        } else if (control == CC_Slider && slider != nullptr) {
+            draw_slider(*slider, *painter, widget);
         } else {
             QProxyStyle::drawComplexControl(control, option, painter, widget);
-        }
-        if (control == CC_Slider && is_dark(option->palette.color(QPalette::Window))) {
-            draw_dark_handle(*option, *painter, widget);
         }
         if ((control == CC_ScrollBar || control == CC_Slider) && option->state.testFlag(State_HasFocus)) {
             outline(*painter, option->rect, focus_color(option->palette.color(QPalette::Window)), 0);
@@ -236,12 +246,30 @@ private:
         }
     }
 
-    void draw_dark_handle(const QStyleOptionComplex& option, QPainter& painter, const QWidget* widget) const {
+    /// The handle stands on the outlined groove.
+    void draw_slider(const QStyleOptionSlider& option, QPainter& painter, const QWidget* widget) const {
+        QStyleOptionSlider part(option);
+        part.subControls.setFlag(SC_SliderHandle, false);
+        QProxyStyle::drawComplexControl(CC_Slider, &part, &painter, widget);
+        draw_dark_outline(SC_SliderGroove, CC_Slider, option, painter, widget);
+        part.subControls = option.subControls & SC_SliderHandle;
+        QProxyStyle::drawComplexControl(CC_Slider, &part, &painter, widget);
+        draw_dark_outline(SC_SliderHandle, CC_Slider, option, painter, widget);
+    }
+
+    /// Outlines a part of a slider or scroll bar, which on a dark ground is as dark as what is around it.
+    void draw_dark_outline(SubControl part, ComplexControl control, const QStyleOptionSlider& option,
+                           QPainter& painter, const QWidget* widget) const {
         constexpr double kShare = 0.5;
+        constexpr double kGrooveShare = 0.3;
         constexpr double kRadius = 2.0;
-        const QColor line =
-            mix(option.palette.color(QPalette::WindowText), option.palette.color(QPalette::Window), kShare);
-        outline(painter, subControlRect(CC_Slider, &option, SC_SliderHandle, widget), line, kRadius);
+        const QColor ground = option.palette.color(QPalette::Window);
+        if (is_dark(ground)) {
+            outline(painter, subControlRect(control, &option, part, widget),
+                    mix(option.palette.color(QPalette::WindowText), ground,
+                        part == SC_SliderGroove ? kGrooveShare : kShare),
+                    kRadius);
+        }
     }
 
     double scale_;
