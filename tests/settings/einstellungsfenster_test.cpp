@@ -227,9 +227,9 @@ TEST(Einstellungsfenster, FelderSagenWasNichtStimmenKann) {
     for (const Fall& fall : {Fall{"19", ""},
                              {"5,0", ""},
                              {"5.0", ""},
-                             {"", "nicht gerechnet"},
-                             {"19 %", "nicht gerechnet"},
-                             {"neunzehn", "nicht gerechnet"}}) {
+                             {"", "keine Zahl"},
+                             {"19 %", "keine Zahl"},
+                             {"neunzehn", "keine Zahl"}}) {
         EXPECT_TRUE(fall.passt(SATZHINWEIS(fall.text))) << fall.text;
     }
     // 3704 0044 0532 0130 00 at a German bank has the check digits 89, and the British example 82.
