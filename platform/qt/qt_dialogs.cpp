@@ -82,9 +82,16 @@ void QtDialogs::prepare(QFileDialog& window, const FileDialog& dialog) const {
 void QtDialogs::prepare_for_new(QFileDialog& window, const FileDialog& dialog) const {
     window.setFileMode(QFileDialog::AnyFile);
     prepare(window, dialog);
-    window.setDefaultSuffix(default_suffix(window.selectedNameFilter()));
-    QObject::connect(&window, &QFileDialog::filterSelected, &window,
-                     [&window](const QString& filter) { window.setDefaultSuffix(default_suffix(filter)); });
+    const QStringList filters = window.nameFilters();
+    const bool any_kind = std::all_of(filters.begin(), filters.end(),
+                                      [](const QString& filter) { return default_suffix(filter).isEmpty(); });
+    const QString proposed = any_kind ? QFileInfo(path_to_qt(dialog.proposed_name)).suffix() : QString();
+    const auto complete = [&window, proposed](const QString& filter) {
+        const QString suffix = default_suffix(filter);
+        window.setDefaultSuffix(suffix.isEmpty() ? proposed : suffix);
+    };
+    complete(window.selectedNameFilter());
+    QObject::connect(&window, &QFileDialog::filterSelected, &window, complete);
 }
 
 std::string QtDialogs::run(QFileDialog& window) {
