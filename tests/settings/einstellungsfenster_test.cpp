@@ -85,13 +85,9 @@ bool bearbeiten(Einstellungsstand& p, const Einstellungszeile& zeile) {
             (e.*farbe.zeile).Command_FARBE.Click();
         };
     }
-    for (const auto& [name, spalte] : {std::pair<Label*, TextBox*>{&e.Label_Pos, &e.TName_Pos},
-                                       {&e.Label_Menge, &e.TName_Menge},
-                                       {&e.Label_Leistung, &e.TName_Leistung},
-                                       {&e.Label_preis, &e.TNameEinzelpr},
-                                       {&e.Label_gesamtp, &e.TNameGesamtpr}}) {
-        handgriffe[name->name()] = [&e, spalte = spalte] {
-            spalte->Text = "Eigene Spalte";
+    for (const auto& spalte : e.Spaltennamen()) {
+        handgriffe[spalte.zugeordnet.name()] = [&e, &neu = spalte.neu] {
+            neu.Text = "Eigene Spalte";
             e.CMD_Zuordnung.Click();
         };
     }
