@@ -133,7 +133,7 @@ struct Programm::Teile {
     Einstellungsuebernahme uebernahme{form1, einstellungen,        programm, werte, zustand, vorgaben, logo,
                                       stil,  einstellungsschreiber};
     Bilderwahl bilderwahl{einstellungen, verzeichnis, platform.dialogs, platform.pictures};
-    Einstellungsmuster einstellungsmuster{einstellungen, [this] {
+    Einstellungsmuster einstellungsmuster{form1, einstellungen, [this] {
                                               return std::make_unique<Musterbeleg>(
                                                   form1, einstellungen, programm, werte, verzeichnis,
                                                   platform.dialogs, platform.clock,

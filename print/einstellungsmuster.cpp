@@ -27,11 +27,12 @@ private:
 
 } // namespace
 
-Einstellungsmuster::Einstellungsmuster(frm_einstellungen& einstellungen,
+Einstellungsmuster::Einstellungsmuster(Form1& form1, frm_einstellungen& einstellungen,
                                        std::function<std::unique_ptr<Musterbeleg>()> beleg)
     : einstellungen_(einstellungen), beleg_machen_(std::move(beleg)) {
     einstellungen.Shown = [this] { Form_Shown(); };
     einstellungen.ControlChanged = [this](const Control& womit) { Etwas_Geaendert(womit); };
+    form1.ControlChanged = [this](const Control& womit) { Rechnung_Geaendert(womit); };
     einstellungen.Timer_Muster.Tick = [this] { Timer_Muster_Timer(); };
     einstellungen.Frame_Muster.Resize = [this] { anordnen(); };
 }
@@ -55,10 +56,25 @@ void Einstellungsmuster::Etwas_Geaendert(const Control& womit) {
     if (&womit == &einstellungen_.SSTab1) {
         warten(veraltet_ ? kPause : kNaechstes);
     } else {
-        veraltet_ = true;
-        layoutbilder_ = 0;
-        warten(kPause);
+        veralten();
     }
+}
+
+/// Buttons and status line change by themselves, and nothing of them is printed.
+void Einstellungsmuster::Rechnung_Geaendert(const Control& womit) {
+    const bool gedruckt = dynamic_cast<const TextBox*>(&womit) != nullptr ||
+                          dynamic_cast<const CheckBox*>(&womit) != nullptr ||
+                          dynamic_cast<const OptionButton*>(&womit) != nullptr ||
+                          dynamic_cast<const ListBox*>(&womit) != nullptr;
+    if (gedruckt && !bei_der_arbeit_ && einstellungen_.shown()) {
+        veralten();
+    }
+}
+
+void Einstellungsmuster::veralten() {
+    veraltet_ = true;
+    layoutbilder_ = 0;
+    warten(kPause);
 }
 
 /// Begins to wait anew.

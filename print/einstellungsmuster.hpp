@@ -1,5 +1,6 @@
 #pragma once
 
+#include "invoice/form1.hpp"
 #include "print/musterbeleg.hpp"
 #include "settings/frm_einstellungen.hpp"
 
@@ -8,16 +9,19 @@
 
 namespace quittika {
 
-/// The page beside the settings, and the small ones of the page designs: they follow what the dialog shows
-/// while it is in sight, a moment after the last change.
+/// The page beside the settings, and the small ones of the page designs: they follow what the dialog and
+/// the main window show while the dialog is in sight, a moment after the last change.
 class Einstellungsmuster {
 public:
     /// `beleg` is made when the dialog comes into sight for the first time.
-    Einstellungsmuster(frm_einstellungen& einstellungen, std::function<std::unique_ptr<Musterbeleg>()> beleg);
+    Einstellungsmuster(Form1& form1, frm_einstellungen& einstellungen,
+                       std::function<std::unique_ptr<Musterbeleg>()> beleg);
 
 private:
     void Form_Shown();
     void Etwas_Geaendert(const Control& womit);
+    void Rechnung_Geaendert(const Control& womit);
+    void veralten();
     void Timer_Muster_Timer();
     void MUSTER_ZEICHNEN();
     void LAYOUTBILD_ZEICHNEN();

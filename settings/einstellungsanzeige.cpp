@@ -53,6 +53,12 @@ void WAEHRUNG_IN_PREISKOEPFE(frm_einstellungen& e, const PROGRAMMEINSTELLUNG& we
     }
 }
 
+void SPALTENNAMEN_ZEIGEN(frm_einstellungen& e) {
+    for (const auto& [zugeordnet, neu] : e.Spaltennamen()) {
+        neu.Text = zugeordnet.Caption();
+    }
+}
+
 void DRUCKERSCHRIFT_ZEIGEN(frm_einstellungen& e, const PROGRAMMEINSTELLUNG& werte) {
     e.Frame_DRUCKERSCHRIFT.Caption = "Aktuell eingestellte Schriftart: " + werte.DRUCKERSCHRIFT;
 }

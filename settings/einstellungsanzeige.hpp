@@ -26,6 +26,9 @@ void FETTSCHRIFT_ZEIGEN(frm_einstellungen& einstellungen);
 /// Price headings of the program's own form name the currency, whatever they named before.
 void WAEHRUNG_IN_PREISKOEPFE(frm_einstellungen& einstellungen, const PROGRAMMEINSTELLUNG& werte);
 
+/// The headings of the columns in the fields for new ones: who changes one keeps the others.
+void SPALTENNAMEN_ZEIGEN(frm_einstellungen& einstellungen);
+
 /// The name of the print font.
 void DRUCKERSCHRIFT_ZEIGEN(frm_einstellungen& einstellungen, const PROGRAMMEINSTELLUNG& werte);
 

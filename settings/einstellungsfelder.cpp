@@ -123,11 +123,9 @@ void Einstellungsfelder::farben_verdrahten() {
 
 void Einstellungsfelder::spalten_verdrahten() {
     form_.CMD_Zuordnung.Click = [this] {
-        form_.Label_Pos.Caption = form_.TName_Pos.Text();
-        form_.Label_Menge.Caption = form_.TName_Menge.Text();
-        form_.Label_Leistung.Caption = form_.TName_Leistung.Text();
-        form_.Label_preis.Caption = form_.TNameEinzelpr.Text();
-        form_.Label_gesamtp.Caption = form_.TNameGesamtpr.Text();
+        for (const auto& [zugeordnet, neu] : form_.Spaltennamen()) {
+            zugeordnet.Caption = neu.Text();
+        }
     };
 }
 

@@ -89,6 +89,7 @@ void Einstellungsfenster::Anzeigen() {
     FETTSCHRIFT_ZEIGEN(form_);
     SCHRIFTGROESSEN_ZEIGEN(form_);
     JUSTIERUNG_ZEIGEN(form_);
+    SPALTENNAMEN_ZEIGEN(form_);
     DRUCKERSCHRIFT_ZEIGEN(form_, werte_);
     FELDHINWEISE_ZEIGEN(form_);
 }

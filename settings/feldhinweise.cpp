@@ -58,8 +58,8 @@ bool nennt_steuernummer(const std::string& zeile) {
 }
 
 void zeigen(Label& hinweis, const std::string& text) {
-    hinweis.Caption = text;
     hinweis.Visible = !text.empty();
+    hinweis.Caption = text;
 }
 
 } // namespace
@@ -68,7 +68,7 @@ std::string SATZHINWEIS(std::string_view satz) {
     if (ZAHL_LESEN(satz)) {
         return {};
     }
-    return "Mit diesem Satz kann nicht gerechnet werden. Bitte eine Zahl wie 19 oder 19,5 schreiben.";
+    return "Das ist keine Zahl wie 19 oder 19,5.";
 }
 
 std::string IBANHINWEIS(std::string_view zeile) {
@@ -79,13 +79,13 @@ std::string IBANHINWEIS(std::string_view zeile) {
         return {};
     }
     if (!hat_form(nummer)) {
-        return "Das ist keine IBAN: sie beginnt mit zwei Buchstaben und zwei Ziffern, zum Beispiel DE12.";
+        return "Das ist keine IBAN: sie beginnt wie DE12.";
     }
     if (beginnt_mit(nummer, "DE") && nummer.size() != kDeutsche) {
         return "Eine deutsche IBAN hat 22 Stellen, diese hat " + std::to_string(nummer.size()) + ".";
     }
     if (rest_97(nummer.substr(kVorn) + nummer.substr(0, kVorn)) != 1) {
-        return "Die Prüfziffer passt nicht: die IBAN ist vermutlich vertippt.";
+        return "Die Prüfziffer passt nicht: wohl vertippt.";
     }
     return {};
 }

@@ -69,6 +69,14 @@ const ControlArray<TextBox, 2>& frm_einstellungen::Text_Bemerkung(int n) const {
     return const_cast<frm_einstellungen*>(this)->Text_Bemerkung(n);
 }
 
+std::array<frm_einstellungen::Spaltenname, 5> frm_einstellungen::Spaltennamen() {
+    return {{{Label_Pos, TName_Pos},
+             {Label_Menge, TName_Menge},
+             {Label_Leistung, TName_Leistung},
+             {Label_preis, TNameEinzelpr},
+             {Label_gesamtp, TNameGesamtpr}}};
+}
+
 std::array<OptionButton*, frm_einstellungen::kLayouts> frm_einstellungen::Layouts() {
     return {&Option1_Layout, &Option2_Layout, &Option3_Layout, &Option4_Layout, &Option5_Layout,
             &Option6_Layout, &Option7_Layout, &Option8_Layout, &Option9_Layout};

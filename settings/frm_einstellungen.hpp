@@ -242,6 +242,12 @@ struct frm_einstellungen : Form {
     /// Line `n` (1 to 4) of a text block: element 0 cover letter, element 1 remarks.
     ControlArray<TextBox, 2>& Text_Bemerkung(int n);
     const ControlArray<TextBox, 2>& Text_Bemerkung(int n) const;
+    /// A column's heading, and the field for another one.
+    struct Spaltenname {
+        Label& zugeordnet;
+        TextBox& neu;
+    };
+    std::array<Spaltenname, 5> Spaltennamen();
     /// The buttons of the page designs 1 to 9 at index 0 to 8.
     std::array<OptionButton*, kLayouts> Layouts();
     /// The pictures of the page designs 1 to 8 at index 0 to 7.

@@ -9,9 +9,8 @@ Ruecknahme::Ruecknahme(frm_einstellungen& e, PROGRAMMEINSTELLUNG& werte) {
     for (Control* feld : e.controls()) {
         merken(*feld);
     }
-    for (Label* spalte :
-         {&e.Label_Pos, &e.Label_Menge, &e.Label_Leistung, &e.Label_preis, &e.Label_gesamtp}) {
-        merken(spalte->Caption);
+    for (const auto& spalte : e.Spaltennamen()) {
+        merken(spalte.zugeordnet.Caption);
     }
     for (const Druckfarbe& farbe : kDruckfarben) {
         merken((e.*farbe.zeile).Muster.BackColor);

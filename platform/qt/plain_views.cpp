@@ -19,6 +19,12 @@ QString menu_text(const std::string& caption, const QAction& action) {
 
 LabelView::LabelView(Control& control, QLabel& widget) : TypedView(control, widget) {
     widget.setTextFormat(Qt::PlainText);
+    if (widget.property("keepsPlace")
+            .toBool()) { // of the design: what is around stays when it comes and goes
+        QSizePolicy policy = widget.sizePolicy();
+        policy.setRetainSizeWhenHidden(true);
+        widget.setSizePolicy(policy);
+    }
 }
 
 void LabelView::push(PropertyId id) {

@@ -17,7 +17,7 @@ using testing::Not;
 /// The dialog in sight, with the page beside it.
 struct Musterstand : Einstellungsstand {
     FesteSchrift schrift;
-    Einstellungsmuster muster{einstellungen, [this] {
+    Einstellungsmuster muster{form1, einstellungen, [this] {
                                   return std::make_unique<Musterbeleg>(form1, einstellungen, programm, werte,
                                                                        verzeichnis, dialoge, uhr, schrift,
                                                                        bilder);
@@ -117,6 +117,12 @@ TEST(Einstellungsmuster, ZeigtDieRechnungInArbeitUndWasAnIhrNichtStimmt) {
     EXPECT_EQ(p.text(), "Muster mit der Rechnung in Arbeit");
     EXPECT_THAT(p.seite(), Not(HasSubstr("Nur in dieser Rechnung")));
     EXPECT_EQ(p.form1.Text_Bemerkung1[1].Text(), "Nur in dieser Rechnung");
+
+    p.form1.Text_Kunde_1.Text = "Galerie Sommer";
+    p.warten();
+    EXPECT_THAT(p.seite(), HasSubstr("Galerie Sommer |")) << "entered in the main window beside it";
+    p.form1.Command_printform.BackColor = 255;
+    EXPECT_EQ(p.warten(), 0) << "a button that blinks";
 
     p.einstellungen.Hide();
     p.einstellungen.Text_firma_1.Text = "ungesehen";

@@ -120,6 +120,13 @@ TEST_F(DialogsTest, SavingProposesANameAddsTheEndingAndRemembersTheFolder) {
                   dialogs.open_file({"Rechnungen (*.rn)|*.rn", "", ""});
               }),
               fehler::kDialogAbgebrochen);
+    on_dialog<QFileDialog>([&](QFileDialog& window) {
+        window.findChild<QLineEdit*>("fileNameEdit")->setText("Sicherung");
+        QMetaObject::invokeMethod(&window, "accept");
+    });
+    EXPECT_EQ(QString::fromStdString(dialogs.save_file({"Wohin? |", "Alles.xpt", ""})),
+              folder.filePath("Sicherung.xpt"))
+        << "where no filter has one, that of the name proposed";
 }
 
 TEST_F(DialogsTest, TheProposedNameGivesTheEndingWhereTheFilterHasNone) {

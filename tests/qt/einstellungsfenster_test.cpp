@@ -2,12 +2,14 @@
 #include "invoice/form1.hpp"
 #include "platform/qt/qt_platform.hpp"
 #include "tests/pruefstand.hpp"
+#include "tests/qt/desktop_look.hpp"
 
 #include <gtest/gtest.h>
 
 #include <QtWidgets>
 
-#include <set>
+#include <algorithm>
+#include <vector>
 
 namespace quittika::test {
 namespace {
@@ -56,24 +58,52 @@ TEST_F(Einstellungsfenstertest, DieTastaturErreichtJedesFeldJederSeite) {
     for (int seite = 0; seite < seiten->count(); ++seite) {
         seiten->tabBar()->setFocus();
         EXPECT_EQ(seiten->currentIndex(), seite);
-        std::set<const QWidget*> erreicht;
+        std::vector<const QWidget*> erreicht;
         for (int i = 0; i < 100; ++i) {
             taste(Qt::Key_Tab);
-            erreicht.insert(QApplication::focusWidget());
             if (QApplication::focusWidget() == seiten->tabBar()) {
                 break;
             }
+            erreicht.push_back(QApplication::focusWidget());
+            EXPECT_FALSE(erreicht.back()->inherits("QScrollArea")) << "nobody sees the focus there";
         }
+        ASSERT_GT(erreicht.size(), 3U);
+        EXPECT_TRUE(
+            std::all_of(erreicht.begin(), erreicht.end() - 2,
+                        [&](const QWidget* stelle) { return seiten->currentWidget()->isAncestorOf(stelle); }))
+            << "the fields first, on page " << seite;
+        EXPECT_EQ(erreicht.end()[-2], feld("Command_uebernehmen2"));
+        EXPECT_EQ(erreicht.end()[-1], feld("Command_nichtuebernehmen"));
         for (const QWidget* widget : fenster->findChildren<QWidget*>()) {
             const bool bedienbar = widget->isVisible() && widget->isEnabled() &&
                                    (widget->focusPolicy() & Qt::TabFocus) != 0 &&
                                    !widget->inherits("QScrollArea") && widget->focusProxy() == nullptr &&
                                    !widget->objectName().startsWith("qt_");
-            EXPECT_TRUE(!bedienbar || erreicht.contains(widget))
+            EXPECT_TRUE(!bedienbar || widget == seiten->tabBar() ||
+                        std::count(erreicht.begin(), erreicht.end(), widget) == 1)
                 << widget->objectName().toStdString() << " on page " << seite;
         }
         seiten->tabBar()->setFocus();
         taste(Qt::Key_Down);
+    }
+}
+
+struct GrosseSchrift {
+    DesktopLook schrift{18};
+};
+class EinstellungsfensterInGrosserSchrift : GrosseSchrift, public Einstellungsfenstertest {
+protected:
+    EinstellungsfensterInGrosserSchrift() { fenster->resize(1024, 700); }
+};
+
+TEST_F(EinstellungsfensterInGrosserSchrift, PasstJedeSeiteNebenDasMuster) {
+    auto* seiten = feld<QTabWidget>("SSTab1");
+    for (int seite = 0; seite < seiten->count(); ++seite) {
+        seiten->setCurrentIndex(seite);
+        QTest::qWait(10);
+        const auto* rolle = qobject_cast<QScrollArea*>(seiten->currentWidget());
+        EXPECT_EQ(rolle->horizontalScrollBar()->maximum(), 0) << "page " << seite;
+        EXPECT_GT(feld("Picture_Muster")->width(), 150);
     }
 }
 

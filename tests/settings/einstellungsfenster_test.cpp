@@ -85,13 +85,9 @@ bool bearbeiten(Einstellungsstand& p, const Einstellungszeile& zeile) {
             (e.*farbe.zeile).Command_FARBE.Click();
         };
     }
-    for (const auto& [name, spalte] : {std::pair<Label*, TextBox*>{&e.Label_Pos, &e.TName_Pos},
-                                       {&e.Label_Menge, &e.TName_Menge},
-                                       {&e.Label_Leistung, &e.TName_Leistung},
-                                       {&e.Label_preis, &e.TNameEinzelpr},
-                                       {&e.Label_gesamtp, &e.TNameGesamtpr}}) {
-        handgriffe[name->name()] = [&e, spalte = spalte] {
-            spalte->Text = "Eigene Spalte";
+    for (const auto& spalte : e.Spaltennamen()) {
+        handgriffe[spalte.zugeordnet.name()] = [&e, &neu = spalte.neu] {
+            neu.Text = "Eigene Spalte";
             e.CMD_Zuordnung.Click();
         };
     }
@@ -227,9 +223,9 @@ TEST(Einstellungsfenster, FelderSagenWasNichtStimmenKann) {
     for (const Fall& fall : {Fall{"19", ""},
                              {"5,0", ""},
                              {"5.0", ""},
-                             {"", "nicht gerechnet"},
-                             {"19 %", "nicht gerechnet"},
-                             {"neunzehn", "nicht gerechnet"}}) {
+                             {"", "keine Zahl"},
+                             {"19 %", "keine Zahl"},
+                             {"neunzehn", "keine Zahl"}}) {
         EXPECT_TRUE(fall.passt(SATZHINWEIS(fall.text))) << fall.text;
     }
     // 3704 0044 0532 0130 00 at a German bank has the check digits 89, and the British example 82.

@@ -17,6 +17,7 @@ constexpr int kBeside = 10; ///< free room left and right of a caption
 constexpr int kAbove = 7;   ///< and above and beneath it
 constexpr int kGap = 8;     ///< between captions and pages
 constexpr double kRadius = 5.0;
+constexpr int kRoom = 48; ///< heights of the font: least width of a window with the captions at the side
 
 class SideTabBar : public QTabBar {
 public:
@@ -28,12 +29,13 @@ public:
     }
 
 protected:
-    QSize tabSizeHint(int /*index*/) const override {
-        int width = 0;
-        for (int i = 0; i < count(); ++i) {
-            width = std::max(width, fontMetrics().size(Qt::TextShowMnemonic, tabText(i)).width());
+    QSize tabSizeHint(int index) const override {
+        int width = text_width(index);
+        for (int i = 0; at_side() && i < count(); ++i) {
+            width = std::max(width, text_width(i));
         }
-        return {width + 2 * kBeside + kGap, fontMetrics().height() + 2 * kAbove};
+        const QSize room(width + 2 * kBeside, fontMetrics().height() + 2 * kAbove);
+        return at_side() ? room + QSize(kGap, 0) : room + QSize(0, kGap);
     }
     QSize minimumTabSizeHint(int index) const override { return tabSizeHint(index); }
 
@@ -59,9 +61,19 @@ protected:
     }
 
 private:
+    bool at_side() const { return shape() == RoundedWest; }
+    int text_width(int index) const {
+        return fontMetrics().size(Qt::TextShowMnemonic, tabText(index)).width();
+    }
+    QRectF place_of(int index) const {
+        const QRect tab = tabRect(index);
+        return QRectF(at_side() ? tab.adjusted(0, 0, -kGap, 0) : tab.adjusted(0, 0, 0, -kGap))
+            .adjusted(0.5, 0.5, -0.5, -0.5);
+    }
+
     void paint_tab(QPainter& painter, int index) const {
         constexpr double kHovered = 0.08;
-        const QRectF place = QRectF(tabRect(index)).adjusted(0.5, 0.5, -0.5 - kGap, -0.5);
+        const QRectF place = place_of(index);
         const bool chosen = index == currentIndex();
         QPalette colors = palette();
         const QColor ground = colors.color(QPalette::Window);
@@ -95,6 +107,24 @@ SideTabs::SideTabs(QWidget* parent) : QTabWidget(parent) {
     setTabPosition(QTabWidget::West);
     setDocumentMode(true);
     tabBar()->setDrawBase(false);
+}
+
+void SideTabs::showEvent(QShowEvent* event) {
+    window()->installEventFilter(this);
+    turn();
+    QTabWidget::showEvent(event);
+}
+
+bool SideTabs::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == window() && event->type() == QEvent::Resize) {
+        turn();
+    }
+    return QTabWidget::eventFilter(watched, event);
+}
+
+void SideTabs::turn() {
+    const bool side = window()->width() >= kRoom * fontMetrics().height();
+    setTabPosition(side ? QTabWidget::West : QTabWidget::North);
 }
 
 } // namespace quittika
