@@ -128,7 +128,7 @@ public:
             QProxyStyle::drawComplexControl(control, option, painter, widget);
         }
         if (control == CC_Slider && is_dark(option->palette.color(QPalette::Window))) {
-            draw_dark_handle(*option, *painter, widget);
+            draw_dark_slider(*option, *painter, widget);
         }
         if ((control == CC_ScrollBar || control == CC_Slider) && option->state.testFlag(State_HasFocus)) {
             outline(*painter, option->rect, focus_color(option->palette.color(QPalette::Window)), 0);
@@ -236,12 +236,17 @@ private:
         }
     }
 
-    void draw_dark_handle(const QStyleOptionComplex& option, QPainter& painter, const QWidget* widget) const {
+    void draw_dark_slider(const QStyleOptionComplex& option, QPainter& painter, const QWidget* widget) const {
         constexpr double kShare = 0.5;
         constexpr double kRadius = 2.0;
         const QColor line =
             mix(option.palette.color(QPalette::WindowText), option.palette.color(QPalette::Window), kShare);
-        outline(painter, subControlRect(CC_Slider, &option, SC_SliderHandle, widget), line, kRadius);
+        const QRect handle = subControlRect(CC_Slider, &option, SC_SliderHandle, widget);
+        outline(painter, handle, line, kRadius);
+        painter.save();
+        painter.setClipRegion(QRegion(option.rect).subtracted(handle));
+        outline(painter, subControlRect(CC_Slider, &option, SC_SliderGroove, widget), line, kRadius);
+        painter.restore();
     }
 
     double scale_;
