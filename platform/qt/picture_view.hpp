@@ -13,8 +13,8 @@ class Backdrop;
 /// Image or picture box. A picture fills the widget as far as its proportions allow; a label whose design
 /// sets `scaledContents` stretches it over the whole widget. A drawn page keeps its proportions. On dark
 /// ground an image that is drawn on white paper is shown without the paper, unless it is stretched: then it
-/// stands for a part of a page. A picture box shows all as it will be printed.
-/// A file is read when the picture comes to be seen.
+/// stands for a part of a page. A picture box, and a label whose design sets `paper`, shows all as it will be
+/// printed. A file is read when the picture comes to be seen.
 class PictureView final : public TypedView<PictureControl, QWidget> {
 public:
     PictureView(PictureControl& control, QWidget& widget, PaintTools& tools);
@@ -30,7 +30,7 @@ private:
     QPixmap scene(const QSize& room);
     QImage picture() const;
     /// Whether it is shown as it will be printed.
-    bool on_paper() const { return control_.kind() == "PictureBox"; }
+    bool on_paper() const { return control_.kind() == "PictureBox" || widget_.property("paper").toBool(); }
     /// Returns whether there was anything to paint.
     bool paint();
 
