@@ -47,9 +47,7 @@ Ereignisse::Ereignis Ereignisse::rechnen() const {
 }
 
 std::function<void(const std::string&)> ABLEGEN(TextBox& feld) {
-    return [&feld](const std::string& text) {
-        feld.Text = ZEICHENERSETZEN(ZEICHENERSETZEN(text, "\r", " "), "\n", " ");
-    };
+    return [&feld](const std::string& text) { feld.Text = einzeilig(text); };
 }
 
 void SPERREN(std::initializer_list<Control*> befehle) {

@@ -1,6 +1,7 @@
 #include "app/kopf.hpp"
 
 #include "invoice/belegtexte.hpp"
+#include "invoice/kundenfelder.hpp"
 #include "invoice/rechnung.hpp"
 #include "platform/datum.hpp"
 #include "platform/text.hpp"
@@ -36,8 +37,7 @@ void Kopf::DokumentVerdrahten(const Ereignisse& ereignisse) {
 }
 
 void Kopf::KundeVerdrahten(const Ereignisse& ereignisse, KundeAufnehmen& kunde_aufnehmen) {
-    for (TextBox* feld : {&form1_.Text_Kunde_1, &form1_.Text_Kunde_2, &form1_.Text_Kunde_3,
-                          &form1_.Text_Kunde_4, &form1_.Text_KundennrK}) {
+    for (TextBox* feld : KUNDENFELDER(form1_)) {
         feld->Change = ereignisse.eintrag();
         feld->GotFocus = [this, feld] { PlatzhalterMarkieren(*feld); };
         feld->OLEDragDrop = ABLEGEN(*feld);

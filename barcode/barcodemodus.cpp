@@ -1,6 +1,8 @@
 #include "barcode/barcodemodus.hpp"
 
+#include "invoice/kundenfelder.hpp"
 #include "invoice/zahleneingabe.hpp"
+#include "platform/forms/tasten.hpp"
 #include "platform/laufzeitfehler.hpp"
 
 #include <utility>
@@ -12,12 +14,11 @@ namespace {
 namespace farbe {
 constexpr Color kGefunden = 65280;
 constexpr Color kNichtGefunden = 255;
-constexpr Color kBefehl = 65535;
+constexpr Color kBefehl = color::kYellow;
 constexpr Color kFeststelltaste = 33023;
 } // namespace farbe
 
 constexpr const char* kEineMenge = "1";
-constexpr int kFeststelltaste = 20;
 
 struct Befehl {
     std::string_view code;
@@ -239,8 +240,7 @@ void Barcodemodus::Check_NoKundenname_Click() {
 }
 
 void Barcodemodus::kunde_leeren() {
-    for (TextBox* feld : {&form1_.Text_Kunde_1, &form1_.Text_Kunde_2, &form1_.Text_Kunde_3,
-                          &form1_.Text_Kunde_4, &form1_.Text_KundennrK}) {
+    for (TextBox* feld : KUNDENFELDER(form1_)) {
         feld->Text = "";
     }
 }

@@ -74,6 +74,7 @@ void Artikeluebernahme::Uebernehmen(const Zeile& ziel) {
         ziel.Text_Menge.Text = kEinStueck;
         if (zustand_.ArtikelAuswahl != zustand_.ArtikelTrenner) {
             Fuellen(ziel, zustand_.ArtikelAuswahl);
+            ziel.Text_Menge.SetFocus();
         }
     }
     summen_.jetztberechnen_List();
@@ -88,7 +89,7 @@ void Artikeluebernahme::Fuellen(const Zeile& ziel, std::string_view artikelzeile
 void Artikeluebernahme::Ablegen(const Zeile& ziel, const std::string& text) {
     const std::string zeile = ArtikelzeileAus(text);
     if (zeile.empty()) {
-        ziel.Text_leistung.Text = ZEICHENERSETZEN(ZEICHENERSETZEN(text, "\r", " "), "\n", " ");
+        ziel.Text_leistung.Text = einzeilig(text);
         return;
     }
     ziel.Check_K.Value = 0;

@@ -32,7 +32,8 @@ public:
     Zeile Eingabezeile() const;
     static Zeile Rasterzeile(Form1::Rasterzeile& zeile, int seite);
 
-    /// Lets the user choose an article for a row and waits for it; the customer list goes.
+    /// Lets the user choose an article for a row and waits for it; the customer list goes. Behind the choice
+    /// the row's quantity has the focus.
     void Command_PLUS_Click(const Zeile& ziel);
     /// Shows the list beside the invoice; an article chosen there goes into the input line.
     void Command_Artikelliste_Click() { fenster_.open(); }

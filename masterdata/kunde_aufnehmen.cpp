@@ -1,5 +1,7 @@
 #include "masterdata/kunde_aufnehmen.hpp"
 
+#include "invoice/belegtexte.hpp"
+#include "invoice/kundenfelder.hpp"
 #include "invoice/programmname.hpp"
 #include "invoice/zeichenersatz.hpp"
 #include "platform/laufzeitfehler.hpp"
@@ -7,8 +9,6 @@
 #include "platform/textdatei.hpp"
 
 #include <algorithm>
-#include <iterator>
-#include <utility>
 #include <vector>
 
 namespace quittika {
@@ -34,9 +34,8 @@ bool schon_in_der_liste(const std::string& pfad, const std::string& zeile) {
 
 std::string KUNDENZEILE(const Form1& form1) {
     std::string zeile;
-    for (const TextBox* feld : {&form1.Text_Kunde_1, &form1.Text_Kunde_2, &form1.Text_Kunde_3,
-                                &form1.Text_Kunde_4, &form1.Text_KundennrK}) {
-        zeile += feld->Text() + "...";
+    for (const TextBox* feld : KUNDENFELDER(form1)) {
+        zeile += einzeilig(feld->Text()) + "...";
     }
     return zeile;
 }
@@ -82,15 +81,9 @@ bool KundeAufnehmen::Bestaetigt(const std::string& pfad, const std::string& zeil
 }
 
 bool KundeAufnehmen::nur_platzhalter() const {
-    const std::pair<const TextBox*, const char*> felder[] = {{&form1_.Text_Kunde_1, vorgabe::kKunde1},
-                                                             {&form1_.Text_Kunde_2, vorgabe::kKunde2},
-                                                             {&form1_.Text_Kunde_3, vorgabe::kKunde3},
-                                                             {&form1_.Text_Kunde_4, vorgabe::kKunde4},
-                                                             {&form1_.Text_KundennrK, vorgabe::kKundennr}};
-    return std::all_of(std::begin(felder), std::end(felder), [](const auto& feld) {
-        const std::string text = gekuerzt(feld.first->Text());
-        return text.empty() || text == feld.second;
-    });
+    const auto felder = KUNDENFELDER(form1_);
+    return std::all_of(felder.begin(), felder.end(),
+                       [this](const TextBox* feld) { return gekuerzt(KUNDENTEXT(form1_, *feld)).empty(); });
 }
 
 void KundeAufnehmen::FehlerMelden(const std::string& pfad, int fehlernummer) {

@@ -1,5 +1,6 @@
 #include "masterdata/kundenverwaltung.hpp"
 
+#include "invoice/kundenfelder.hpp"
 #include "masterdata/listenfenster.hpp"
 #include "platform/forms/tasten.hpp"
 #include "platform/laufzeitfehler.hpp"
@@ -102,8 +103,7 @@ void Kundenverwaltung::Command_delete_Click() {
 
 void LISTOK_KD_List(Form1& form1, std::string_view zeile) {
     int index = 0;
-    for (TextBox* feld : {&form1.Text_Kunde_1, &form1.Text_Kunde_2, &form1.Text_Kunde_3, &form1.Text_Kunde_4,
-                          &form1.Text_KundennrK}) {
+    for (TextBox* feld : KUNDENFELDER(form1)) {
         const std::string text(FELD_AUS_ZEILE(zeile, "...", index++));
         if (text != "ERROR") {
             feld->Text = text;

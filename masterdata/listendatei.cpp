@@ -1,7 +1,9 @@
 #include "masterdata/listendatei.hpp"
 
 #include "platform/datei.hpp"
+#include "platform/fehlertitel.hpp"
 #include "platform/laufzeitfehler.hpp"
+#include "settings/exportfehler.hpp"
 
 #include <utility>
 
@@ -11,10 +13,6 @@ namespace {
 
 constexpr const char* kTitel = "Quittika";
 constexpr const char* kAchtung = "Achtung!";
-
-std::string mit_nummer(int nummer) {
-    return "Achtung!  Fehlernr.:" + std::to_string(nummer);
-}
 
 /// Copies a file's present content; without a file there is nothing to copy.
 void sichern(const std::string& pfad, const std::string& sicherung) {
@@ -80,11 +78,8 @@ void Listentransfer::Exportieren() {
 }
 
 void Listentransfer::ExportfehlerMelden(int nummer, const std::string& ziel) {
-    const bool vorhanden = nummer == fehler::kZugriffVerweigert;
     form1_.StatusBar1[2].Caption = "FEHLER BEIM EXPORTIEREN VON: " + ziel;
-    dialogs_.message({std::string("Fehler beim Exportieren dieser Datei.") +
-                          (vorhanden ? " Es existiert bereits eine Datei mit diesem Namen!" : ""),
-                      vorhanden ? kAchtung : mit_nummer(nummer), Buttons::Ok, Symbol::Stop});
+    dialogs_.message(EXPORTFEHLER(nummer, nummer == fehler::kZugriffVerweigert));
 }
 
 bool Listentransfer::Importieren() {
@@ -113,7 +108,7 @@ bool Listentransfer::Importieren() {
 void Listentransfer::ImportfehlerMelden(int nummer, const std::string& quelle) {
     form1_.StatusBar1[2].Caption = "FEHLER BEIM IMPORTIEREN VON: " + quelle;
     dialogs_.message({"Fehler beim Import dieser Datei.",
-                      importtitel_ == Importtitel::Einfach ? kAchtung : mit_nummer(nummer), Buttons::Ok,
+                      importtitel_ == Importtitel::Einfach ? kAchtung : FEHLERTITEL(nummer), Buttons::Ok,
                       Symbol::Stop});
 }
 

@@ -2,6 +2,7 @@
 
 #include "designer/designdatei.hpp"
 #include "invoice/programmname.hpp"
+#include "platform/fehlertitel.hpp"
 #include "platform/laufzeitfehler.hpp"
 
 namespace quittika {
@@ -80,8 +81,7 @@ void Bilderwahl::Command_durchsuchen_Click() {
     } catch (const Laufzeitfehler& fehler) {
         if (fehler.nummer() != fehler::kDialogAbgebrochen) {
             dialogs_.message({"Das Bild kann nicht als Logo verwendet werden.\r\n" + grund(fehler),
-                              "Achtung!  Fehlernr.:" + std::to_string(fehler.nummer()), Buttons::Ok,
-                              Symbol::Exclamation});
+                              FEHLERTITEL(fehler.nummer()), Buttons::Ok, Symbol::Exclamation});
         }
     }
 }
@@ -137,8 +137,7 @@ void Bilderwahl::DAUERHAFT_ANBIETEN() {
                                   : "Das Bild konnte nicht dauerhaft gespeichert werden: design.dsg lässt "
                                     "sich nicht schreiben.\r\n" +
                                         std::string(fehlertext(fehler.nummer())),
-                          "Achtung!  Fehlernr.:" + std::to_string(fehler.nummer()), Buttons::Ok,
-                          Symbol::Exclamation});
+                          FEHLERTITEL(fehler.nummer()), Buttons::Ok, Symbol::Exclamation});
     }
 }
 

@@ -2,7 +2,9 @@
 
 #include "invoice/programmname.hpp"
 #include "platform/datei.hpp"
+#include "platform/fehlertitel.hpp"
 #include "platform/text.hpp"
+#include "settings/exportfehler.hpp"
 
 #include <utility>
 
@@ -12,10 +14,6 @@ namespace {
 
 constexpr const char* kExportname = "Q-K_Einstellungen_Export.xpt";
 constexpr const char* kTitel = "Quittika";
-
-std::string fehlertitel(const Laufzeitfehler& fehler) {
-    return "Achtung!  Fehlernr.:" + std::to_string(fehler.nummer());
-}
 
 } // namespace
 
@@ -55,12 +53,7 @@ void Einstellungsaustausch::m_export_Click() {
                           Symbol::Information});
     } catch (const Laufzeitfehler& fehler) {
         melden("FEHLER BEIM EXPORTIEREN VON: " + datei);
-        const bool vorhanden = fehler.nummer() == fehler::kDateiVorhanden;
-        dialogs_.message(
-            {vorhanden ? "Fehler beim Exportieren dieser Datei. Es existiert bereits eine Datei mit diesem "
-                         "Namen!"
-                       : "Fehler beim Exportieren dieser Datei.",
-             vorhanden ? "Achtung!" : fehlertitel(fehler), Buttons::Ok, Symbol::Stop});
+        dialogs_.message(EXPORTFEHLER(fehler.nummer(), fehler.nummer() == fehler::kDateiVorhanden));
     }
 }
 
@@ -79,8 +72,8 @@ void Einstellungsaustausch::m_import_Click() {
     } catch (const Laufzeitfehler& fehler) {
         if (fehler.nummer() != fehler::kDialogAbgebrochen) {
             melden("FEHLER BEIM IMPORTIEREN VON: " + datei);
-            dialogs_.message(
-                {"Fehler beim Import dieser Datei.", fehlertitel(fehler), Buttons::Ok, Symbol::Stop});
+            dialogs_.message({"Fehler beim Import dieser Datei.", FEHLERTITEL(fehler.nummer()), Buttons::Ok,
+                              Symbol::Stop});
         }
         return;
     }

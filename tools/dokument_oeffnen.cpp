@@ -1,5 +1,6 @@
 #include "tools/dokument_oeffnen.hpp"
 
+#include "platform/fehlertitel.hpp"
 #include "platform/laufzeitfehler.hpp"
 
 namespace quittika {
@@ -9,8 +10,7 @@ void DOKUMENT_OEFFNEN(const std::string& dokument, Shell& shell, Dialogs& dialog
         shell.open(dokument);
     } catch (const Laufzeitfehler& fehler) {
         dialogs.message({"Das Dokument konnte nicht geöffnet werden: " + dokument,
-                         "Achtung!  Fehlernr.:" + std::to_string(fehler.nummer()), Buttons::Ok,
-                         Symbol::Exclamation});
+                         FEHLERTITEL(fehler.nummer()), Buttons::Ok, Symbol::Exclamation});
     }
 }
 

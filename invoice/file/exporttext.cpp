@@ -1,6 +1,7 @@
 #include "invoice/file/exporttext.hpp"
 
 #include "invoice/belegtexte.hpp"
+#include "invoice/kundenfelder.hpp"
 #include "platform/text.hpp"
 #include "platform/zahlen.hpp"
 
@@ -47,8 +48,7 @@ private:
         }
         leerzeilen(2);
         const Form1& f = form1_;
-        for (const TextBox* kunde :
-             {&f.Text_Kunde_1, &f.Text_Kunde_2, &f.Text_Kunde_3, &f.Text_Kunde_4, &f.Text_KundennrK}) {
+        for (const TextBox* kunde : KUNDENFELDER(f)) {
             zeile(KUNDENTEXT(f, *kunde));
         }
         leerzeilen(2);

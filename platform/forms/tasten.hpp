@@ -9,6 +9,7 @@
 namespace quittika {
 
 inline constexpr int kEingabetaste = 13;
+inline constexpr int kFeststelltaste = 20;
 inline constexpr int kEscape = 27;
 inline constexpr int kPfeilHoch = 38;
 inline constexpr int kPfeilRunter = 40;

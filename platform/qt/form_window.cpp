@@ -336,7 +336,8 @@ void FormWindow::raise() {
     const bool blocked = modal != nullptr && modal != window_ && !modal->isAncestorOf(window_);
     // A menu that drops down would be covered, too.
     if (window_ != nullptr && window_->isVisible() && !window_->isMinimized() && !blocked &&
-        QApplication::activePopupWidget() == nullptr) {
+        QApplication::activePopupWidget() == nullptr &&
+        (!form_.companion() || desktop_.may_come_to_front(*window_))) {
         window_->raise();
     }
 }
@@ -411,6 +412,11 @@ bool FormWindow::eventFilter(QObject* /*watched*/, QEvent* event) {
         return false;
     case QEvent::WindowStateChange:
         take_state();
+        return false;
+    case QEvent::WindowActivate:
+        if (form_.companion()) {
+            desktop_.companion_used(*window_);
+        }
         return false;
     default:
         return false;

@@ -75,6 +75,11 @@ public:
     bool may_take_focus(const Form& form) const { return focus_holder_ == nullptr || focus_holder_ == &form; }
     /// A window is shown that may not take the keyboard. Not every desktop heeds that.
     void focus_endangered() { focus_endangered_ = true; }
+    /// The user turns to a companion, which the other ones must not cover from now on.
+    void companion_used(QWidget& window) { companion_ = &window; }
+    bool may_come_to_front(const QWidget& companion) const {
+        return companion_ == nullptr || companion_ == &companion || !companion_->isVisible();
+    }
     /// The window in use, in front of which a modal one comes.
     QWidget* active_window() const;
     void built(QWidget& window);
@@ -94,6 +99,7 @@ private:
     std::vector<FormWindow*> windows_; ///< owned by their forms
     std::optional<WindowPlaces> places_;
     QPointer<QWidget> main_;                     ///< the first main window that was built
+    QPointer<QWidget> companion_;                ///< the one used last
     QObject context_;                            ///< work that is still to be done goes with it
     std::vector<std::function<void()>> waiting_; ///< for the end of a standstill
     const Form* focus_holder_ = nullptr;

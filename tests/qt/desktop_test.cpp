@@ -111,6 +111,35 @@ TEST_F(DesktopTest, CompanionBelongsToTheMainWindowAndComesUpWithoutTheFocus) {
     EXPECT_TRUE(QTest::qWaitFor([&] { return window.isActiveWindow(); }));
 }
 
+TEST_F(DesktopTest, CompanionsDoNotTakeTurnsInFrontOfEachOther) {
+    struct Companion : Form {
+        Companion() : Form("Form_Lieferschein_opt", "", {.companion = true}) {}
+    } first;
+    Companion second;
+    struct Raised : QObject {
+        bool eventFilter(QObject*, QEvent* event) override {
+            times += event->type() == QEvent::ZOrderChange ? 1 : 0;
+            return false;
+        }
+        int times = 0;
+    } raised;
+    form1.Show();
+    for (Companion* companion : {&first, &second}) {
+        desktop.adopt(*companion);
+        companion->Show();
+        ASSERT_TRUE(QTest::qWaitFor([&] { return desktop.window(*companion)->isActiveWindow(); }));
+        desktop.window(*companion)->installEventFilter(&raised);
+    }
+    raised.times = 0;
+    first.ZOrder();
+    EXPECT_EQ(raised.times, 0);
+    second.ZOrder();
+    EXPECT_EQ(raised.times, 1);
+    second.Hide();
+    first.ZOrder();
+    EXPECT_EQ(raised.times, 2);
+}
+
 TEST_F(DesktopTest, PlaceFlowsBothWays) {
     form1.Left = 1500;
     form1.Top = 750;

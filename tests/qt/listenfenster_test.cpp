@@ -108,6 +108,11 @@ TEST_F(Listenfenstertest, ArtikelMitTastaturUndScanner) {
     taste(Qt::Key_Escape);
     EXPECT_EQ(fenster("Form_Artikelverwaltung"), nullptr);
     EXPECT_EQ(f().Text_Menge.Text(), "5") << "Escape cancels";
+    f().m_Artikelliste.Click();
+    fenster("Form_Artikelverwaltung");
+    taste(Qt::Key_Return, Qt::ControlModifier);
+    EXPECT_EQ(f().Text_preis.Text(), "0,10");
+    EXPECT_EQ(QApplication::focusWidget()->objectName(), "Text_Menge") << "how many?";
 }
 
 TEST_F(Listenfenstertest, KoepfeStehenUeberDenSpaltenDesTextes) {
