@@ -101,12 +101,15 @@ Answer answer_of(int button) {
 
 } // namespace
 
-QWidget* dialog_parent() {
+QWidget* dialog_parent(QWidget* former) {
     if (QWidget* modal = QApplication::activeModalWidget()) {
         return modal;
     }
     if (QWidget* active = QApplication::activeWindow()) {
         return active;
+    }
+    if (former != nullptr && former->isVisible()) {
+        return former;
     }
     for (QWidget* window : QApplication::topLevelWidgets()) {
         if (window->isVisible() && window->windowType() == Qt::Window) {
@@ -116,10 +119,9 @@ QWidget* dialog_parent() {
     return nullptr;
 }
 
-Answer show_message(const MessageBox& box) {
+Answer show_message(const MessageBox& box, QWidget* parent) {
     const ButtonSet& set = set_of(box.buttons);
-    Question window(look_up(kIcons, box.symbol), to_qt(box.title), lines_to_qt(box.text), set.shown,
-                    dialog_parent());
+    Question window(look_up(kIcons, box.symbol), to_qt(box.title), lines_to_qt(box.text), set.shown, parent);
     window.setTextFormat(Qt::PlainText);
     if (set.escape != QMessageBox::NoButton) {
         window.setEscapeButton(set.escape);

@@ -37,9 +37,10 @@ QString one_filter(QString text, const QString& pattern) {
     return QStringLiteral("%1 (%2)").arg(text.trimmed(), patterns.join(QLatin1Char(' ')));
 }
 
-bool may_replace(const std::string& path) {
+bool may_replace(const std::string& path, QWidget* parent) {
     return show_message({"Die Datei >" + path + "< gibt es schon. Soll sie ersetzt werden?",
-                         "Datei ersetzen?", Buttons::YesNo, Symbol::Question, Answer::No}) == Answer::Yes;
+                         "Datei ersetzen?", Buttons::YesNo, Symbol::Question, Answer::No},
+                        parent) == Answer::Yes;
 }
 
 } // namespace
@@ -61,8 +62,13 @@ QString default_suffix(const QString& name_filter) {
     return first.match(name_filter).captured(1);
 }
 
+QWidget* QtDialogs::parent() {
+    parent_ = dialog_parent(parent_);
+    return parent_;
+}
+
 Answer QtDialogs::message(const MessageBox& box) {
-    return show_message(box);
+    return show_message(box, parent());
 }
 
 void QtDialogs::prepare(QFileDialog& window, const FileDialog& dialog) const {
@@ -103,24 +109,27 @@ std::string QtDialogs::run(QFileDialog& window) {
 }
 
 std::string QtDialogs::open_file(const FileDialog& dialog) {
-    QFileDialog window(dialog_parent());
+    QFileDialog window(parent());
     if (dialog.must_exist) {
         window.setFileMode(QFileDialog::ExistingFile);
         prepare(window, dialog);
     } else {
         prepare_for_new(window, dialog);
         window.setLabelText(QFileDialog::Accept, QStringLiteral("Auswählen"));
+        if (dialog.title.empty()) {
+            window.setWindowTitle(QStringLiteral("Zieldatei wählen"));
+        }
     }
     std::string chosen = run(window);
     while (!dialog.must_exist && dialog.asks_before_replacing && datei_vorhanden(chosen) &&
-           !may_replace(chosen)) {
+           !may_replace(chosen, parent())) {
         chosen = run(window);
     }
     return chosen;
 }
 
 std::string QtDialogs::save_file(const FileDialog& dialog) {
-    QFileDialog window(dialog_parent());
+    QFileDialog window(parent());
     window.setAcceptMode(QFileDialog::AcceptSave);
     window.setOption(QFileDialog::DontConfirmOverwrite, !dialog.asks_before_replacing);
     prepare_for_new(window, dialog);
@@ -128,8 +137,7 @@ std::string QtDialogs::save_file(const FileDialog& dialog) {
 }
 
 Color QtDialogs::choose_color(Color start) {
-    const QColor chosen =
-        QColorDialog::getColor(start < 0 ? QColor(Qt::white) : to_qt(start), dialog_parent());
+    const QColor chosen = QColorDialog::getColor(start < 0 ? QColor(Qt::white) : to_qt(start), parent());
     if (!chosen.isValid()) {
         throw Laufzeitfehler(fehler::kDialogAbgebrochen);
     }
@@ -138,7 +146,7 @@ Color QtDialogs::choose_color(Color start) {
 
 std::string QtDialogs::choose_font(const std::string& start) {
     bool chosen = false;
-    const QFont font = QFontDialog::getFont(&chosen, QFont(to_qt(start)), dialog_parent());
+    const QFont font = QFontDialog::getFont(&chosen, QFont(to_qt(start)), parent());
     if (!chosen) {
         throw Laufzeitfehler(fehler::kDialogAbgebrochen);
     }
@@ -150,7 +158,7 @@ int QtDialogs::choose_printer(const PrinterDialog& dialog) {
     printer.setCopyCount(std::clamp(dialog.copies, 1, kAllCopies));
     const QDir folder(folder_.isEmpty() ? QDir::homePath() : folder_);
     PrintDialog window(printer, folder.filePath(path_to_qt(DATEINAME_BEREINIGEN(dialog.proposed_name))),
-                       dialog_parent());
+                       parent());
     if (window.exec() != QDialog::Accepted) {
         throw Laufzeitfehler(fehler::kDialogAbgebrochen);
     }

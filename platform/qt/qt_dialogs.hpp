@@ -3,10 +3,12 @@
 #include "platform/dialogs.hpp"
 #include "platform/qt/printer_choice.hpp"
 
+#include <QPointer>
 #include <QString>
 #include <QStringList>
 
 class QFileDialog;
+class QWidget;
 
 namespace quittika {
 
@@ -34,7 +36,10 @@ private:
     void prepare_for_new(QFileDialog& window, const FileDialog& dialog) const;
     std::string run(QFileDialog& window);
 
+    QWidget* parent();
+
     PrinterChoice& printer_;
+    QPointer<QWidget> parent_; ///< of the dialog before
     QString folder_;
 };
 
