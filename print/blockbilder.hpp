@@ -30,6 +30,13 @@ enum class Designblock {
 };
 inline constexpr std::size_t kDesignbloecke = 12;
 
+/// Where the design keeps a block's left and top edge.
+struct Blockstelle {
+    double Design::*x;
+    double Design::*y;
+};
+Blockstelle BLOCKSTELLE(Designblock block);
+
 /// Size of the picture of the table in mm: from its left edge to the end of its longest rule, and as high as
 /// some rows with their amounts.
 inline constexpr Paper kListenbild{188, 73.5};
@@ -58,17 +65,23 @@ public:
     /// A block without text gives grey words in its place; a table without rows some that show its style; one
     /// too long for its picture leaves rows out. Of `design` count the table style and, for the bank line,
     /// its place: near the right edge it breaks into lines.
-    Blockbild ZEICHNEN(Designblock block, const Design& design) const;
+    Blockbild ZEICHNEN(Designblock block, const Design& design);
     /// All blocks of the first page, by `Designblock`; the table down to the end of its amounts.
-    std::array<Blocklage, kDesignbloecke> LAGEN(const Design& design) const;
+    std::array<Blocklage, kDesignbloecke> LAGEN(const Design& design);
     /// The sheet with what prints on it beside the blocks: fold marks and the rule above the bank data.
     std::shared_ptr<const DrawnPage> BLATTGRUND(const Design& design) const;
 
 private:
+    DrawnPage text_zeichnen(Designblock block, const Design& design, bool& platzhalter) const;
+    DrawnPage liste_zeichnen(const Design& design, bool& platzhalter);
+    bool ohne_zeilen() const { return form1_.List_K.ListCount() == 0; }
+    const Form1& mit_zeilen();
+
     const Form1& form1_;
     const frm_einstellungen& einstellungen_;
     const PROGRAMMEINSTELLUNG& programm_;
     const FontMetrics& metrics_;
+    std::unique_ptr<Form1> beispiel_; ///< the invoice with rows where it has none
 };
 
 } // namespace quittika
