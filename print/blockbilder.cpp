@@ -19,6 +19,7 @@ namespace {
 /// With it, the millimetres of the design are millimetres of the sheet.
 constexpr Druckjustierung kAufsBlatt{-static_cast<int>(kOriginLeft), -static_cast<int>(kOriginTop)};
 constexpr Color kFarbePlatzhalter = color::rgb(150, 150, 150);
+constexpr double kLogorand = 3; ///< mm at its edges in which a logo mostly shows nothing
 /// Delivery notes show no prices.
 constexpr Druckoptionen kOptionen{.lieferschein = {.preise = false}};
 
@@ -159,8 +160,9 @@ void wege_pruefen(const Blatt& blatt, const Design& design, std::array<Blocklage
     const auto frei = [&](const Blocklage& lage) {
         Satzspiegel andere(UNTERKANTE(blatt));
         if (design.VISIBLE_LOGO) {
-            andere.belegen(
-                {design.X_LOGO, design.Y_LOGO, design.X_LOGO + design.B_LOGO, design.Y_LOGO + design.H_LOGO});
+            andere.belegen({design.X_LOGO + kLogorand, design.Y_LOGO + kLogorand,
+                            design.X_LOGO + design.B_LOGO - kLogorand,
+                            design.Y_LOGO + design.H_LOGO - kLogorand});
         }
         for (const Blocklage& andere_lage : lagen) {
             if (&andere_lage != &lage && !leer(andere_lage.kasten)) {

@@ -50,7 +50,8 @@ struct Blockbild {
 /// Where a block stands.
 struct Blocklage {
     Kasten kasten{}; ///< mm on the sheet, around the letters; all 0 where nothing prints
-    /// It runs over another block, the logo or the sheet's edge, so that it cannot print where it stands.
+    /// It runs over another block, the sheet's edge or more than the rim of the logo: there it cannot print
+    /// where it stands, or cannot be read.
     bool im_weg = false;
 };
 

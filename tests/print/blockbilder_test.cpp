@@ -175,7 +175,8 @@ TEST(Blockbilder, WasImWegIst) {
              p.design.VISIBLE_LOGO = false;
          },
          {}},
-        {"im Logo", [](Bildprobe& p) { p.design.Y_DATUM = 40; }, {Designblock::Datum}},
+        {"im Logo", [](Bildprobe& p) { p.design.Y_DATUM = 40; }, {Designblock::Datum}}, // down to 44 mm
+        {"an seinem Rand", [](Bildprobe& p) { p.design.Y_DATUM = 41; }, {}},
         {"ohne Logo", [](Bildprobe& p) { p.design.Y_DATUM = 40, p.design.VISIBLE_LOGO = false; }, {}},
         {"über den Rand",
          [](Bildprobe& p) { p.design.X_DATUM = 187; },
