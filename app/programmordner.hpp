@@ -16,7 +16,8 @@ struct Programmordner {
 };
 
 /// The folder of the executable, or where the user may not write there, `datenordner`. When that has to be
-/// created, it is filled with the shipped files; nobody's own files are copied.
+/// created, it is filled with the shipped files; one that is there is given the shipped subfolders that it
+/// lacks. Nobody's own files are copied.
 Programmordner PROGRAMMORDNER(const std::filesystem::path& programmdatei,
                               const std::filesystem::path& datenordner);
 

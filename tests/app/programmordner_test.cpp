@@ -24,6 +24,7 @@ TEST(Programmordner, SonstEinEigenerDerBeimAnlegenGefuelltWird) {
     const Probenordner o;
     fs::create_directory(o.pfad("programm"));
     for (const fs::path& name : MITGELIEFERTE_DATEIEN()) {
+        fs::create_directories(fs::path(o.pfad("programm" / name)).parent_path());
         o.schreiben("programm" / name, "geliefert");
         chmod(o.pfad("programm" / name).c_str(), 0444);
     }
@@ -43,6 +44,14 @@ TEST(Programmordner, SonstEinEigenerDerBeimAnlegenGefuelltWird) {
     fs::remove(o.pfad("neu/daten/ihrlogo.bmp"));
     EXPECT_EQ(anlegen().meldung, "");
     EXPECT_FALSE(fs::exists(o.pfad("neu/daten/ihrlogo.bmp"))) << "only once";
+    const Programmverzeichnis daten(o.pfad("neu/daten"));
+    const std::string vorlage = systempfad(daten.pfad("\\DESIGN_A4\\A4-1+1.jpg"));
+    fs::remove(vorlage);
+    anlegen();
+    EXPECT_FALSE(fs::exists(vorlage)) << "the user took it away";
+    fs::remove_all(o.pfad("neu/daten/DESIGN_A4"));
+    EXPECT_EQ(anlegen().meldung, "");
+    EXPECT_TRUE(fs::exists(vorlage)) << "an earlier version had no such folder";
 }
 
 TEST(Programmordner, WasNichtGehtWirdGesagt) {
