@@ -17,7 +17,6 @@ void MENUE_EINSTELLUNGEN(Form1& form1, frm_einstellungen& einstellungen, const E
     }
     einstellungen.CMD_DESIGNER.Click =
         ereignisse.befehl([&designeraufruf] { designeraufruf.CMD_DESIGNER_Click(); });
-    SPERREN({&form1.m_startdesigner, &form1.Command2, &einstellungen.CMD_DESIGNER});
 }
 
 } // namespace quittika
