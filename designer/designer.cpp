@@ -302,8 +302,8 @@ void Designer::Blocktext_zeigen() {
     }
     const Designelement& e = seite_.element(ausgewaehlt_);
     const Blockmasse& masse = seite_.masse(ausgewaehlt_);
-    std::string text = std::string(e.name) + ": " + format_zahl(masse.x, "0.0") + " mm von links, " +
-                       format_zahl(masse.y, "0.0") + " mm von oben";
+    std::string text = std::string(e.name) + ": " + format_zahl(masse.x, "0.0") + "\u00A0mm von links, " +
+                       format_zahl(masse.y, "0.0") + "\u00A0mm von oben";
     if (e.block && lagen_.at(static_cast<std::size_t>(*e.block)).im_weg) {
         text += "\r\nStößt an einen anderen Block oder über den Rand";
     }

@@ -8,7 +8,6 @@ namespace quittika {
 
 namespace {
 
-constexpr int kLineal = twips(22);
 constexpr double kAuslauf = 0.6; ///< mm: on screen the last letters run over what was measured
 constexpr int kRand = twips(10); ///< of the table that the page lies on
 
@@ -64,11 +63,11 @@ Designseite::Designseite(FORM_DESIGNER& form)
 
 void Designseite::anordnen() {
     const Frame& tisch = form_.Frame_Tisch;
-    mass_ = SEITE_EINPASSEN(tisch.Width() - kLineal - 2 * kRand, tisch.Height() - kLineal - 2 * kRand);
+    mass_ = SEITE_EINPASSEN(tisch.Width() - 2 * kRand, tisch.Height() - 2 * kRand);
     Frame& seite = form_.Frame_A4;
-    const int frei = tisch.Width() - kLineal - mass_.breite;
-    seite.Left = tisch.Left() + kLineal + std::max(kRand, frei / 2 / kTwipsPerPixel * kTwipsPerPixel);
-    seite.Top = tisch.Top() + kLineal + kRand;
+    const int frei = tisch.Width() - mass_.breite;
+    seite.Left = tisch.Left() + std::max(kRand, frei / 2 / kTwipsPerPixel * kTwipsPerPixel);
+    seite.Top = tisch.Top() + kRand;
     seite.Width = mass_.breite;
     seite.Height = mass_.hoehe;
     LEGEN(form_.Image_Blatt, {0, 0, kSeitenbreite, kSeitenhoehe}, FAKTOR());

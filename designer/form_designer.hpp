@@ -12,7 +12,7 @@ struct FORM_DESIGNER : Form {
     FORM_DESIGNER();
 
     // --- the page and its blocks, the lowest first; their places are the page's ---
-    Frame Frame_Tisch{*this, Named("Frame_Tisch").following({twips(12), twips(36), twips(462), twips(636)})};
+    Frame Frame_Tisch{*this, Named("Frame_Tisch").following({twips(34), twips(58), twips(440), twips(614)})};
     Frame Frame_A4{*this, Named("Frame_A4").at({twips(43), twips(67), twips(420), twips(594)})};
     Image Image_WASSERZ{Frame_A4, Named("Image_WASSERZ").at(kLeer)};
     Image Image_Blatt{Frame_A4, Named("Image_Blatt").at(kLeer)}; ///< what prints beside the blocks

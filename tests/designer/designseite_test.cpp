@@ -49,8 +49,8 @@ TEST(Designseite, HaeltJedenBlockAufSeinenMillimetern) {
         form.Frame_Tisch.Height.adopt(breite + breite / 3);
         seite.anordnen();
     }
-    form.Frame_Tisch.Width.adopt(6930);
-    form.Frame_Tisch.Height.adopt(9540);
+    form.Frame_Tisch.Width.adopt(6600);
+    form.Frame_Tisch.Height.adopt(9210);
     seite.anordnen();
     EXPECT_EQ(form.Image_KDNR.Left(), 4509); // 30 twips a millimetre
     EXPECT_EQ(form.Image_KDNR.Top(), 2571);
