@@ -2,9 +2,9 @@
 
 namespace quittika {
 
-Ausgabe::Ausgabe(Form1& form1, const Ereignisse& ereignisse, Summen& summen, Vorschaufenster& vorschau,
-                 Bildausgabe& bildausgabe, Pdfausgabe& pdfausgabe)
-    : summen_(summen), vorschau_(vorschau) {
+Ausgabe::Ausgabe(Form1& form1, const Ereignisse& ereignisse, Summen& summen, Vorschauzeichnung& zeichnung,
+                 Vorschaufenster& vorschau, Bildausgabe& bildausgabe, Pdfausgabe& pdfausgabe)
+    : summen_(summen), zeichnung_(zeichnung), vorschau_(vorschau) {
     for (Control* zeigen :
          {static_cast<Control*>(&form1.m_Vorschau), static_cast<Control*>(&form1.Command_Druckvorschau)}) {
         zeigen->Click = ereignisse.befehl([this] { Command_Druckvorschau_Click(); });
@@ -19,6 +19,7 @@ Ausgabe::Ausgabe(Form1& form1, const Ereignisse& ereignisse, Summen& summen, Vor
 
 void Ausgabe::Command_Druckvorschau_Click() {
     summen_.jetztberechnen_List();
+    zeichnung_.ENTWURF({}); // the document, not what the designer tries
     if (Druckvorschau* offen = vorschau_.module()) {
         offen->auffrischen();
     }

@@ -17,6 +17,7 @@
 #include "app/menue_listen.hpp"
 #include "app/raster.hpp"
 #include "app/startfenster.hpp"
+#include "designer/designer.hpp"
 #include "invoice/erste_rechnung.hpp"
 #include "invoice/file/textexport.hpp"
 #include "print/druckauftrag.hpp"
@@ -25,6 +26,7 @@
 #include "print/lieferscheinoptionen.hpp"
 #include "print/seitenumbruch.hpp"
 #include "settings/bilderwahl.hpp"
+#include "settings/designeraufruf.hpp"
 #include "settings/einstellungsaustausch.hpp"
 #include "settings/einstellungsfelder.hpp"
 #include "settings/einstellungsfenster.hpp"
@@ -44,7 +46,8 @@ struct Programm::Teile {
         platform.desktop.adopt(form_start);
         MENUE_LISTEN(form1, ereignisse, platform.dialogs, kundenfenster, artikeluebernahme);
         MENUE_DRUCKEN(form1, etiketten);
-        MENUE_EINSTELLUNGEN(form1, einstellungen, ereignisse, einstellungsfenster, programmfenster);
+        MENUE_EINSTELLUNGEN(form1, einstellungen, ereignisse, einstellungsfenster, programmfenster,
+                            designeraufruf, designerfenster);
         MENUE_EXTRAS(form1, ereignisse, eingabezeile, barcodefenster);
     }
 
@@ -149,6 +152,16 @@ struct Programm::Teile {
     Programmfenster programmfenster{
         form1,       programm,         werte,           zustand, stil, einstellungsschreiber,
         verzeichnis, platform.dialogs, platform.desktop};
+    Blockbilder blockbilder{form1, einstellungen, werte, platform.printing.metrics()};
+    Designerfenster designerfenster{platform.desktop, [this](FORM_DESIGNER& form) {
+                                        return std::make_unique<Designer>(
+                                            form, designdatei, einstellungen, einstellungsfenster, bilderwahl,
+                                            blockbilder, vorschauzeichnung, vorschaufenster, verzeichnis,
+                                            platform.dialogs, platform.pictures);
+                                    }};
+    Designeraufruf designeraufruf{platform.dialogs, platform.clock,
+                                  [this] { einstellungsfenster.UEBERNEHMEN(false); },
+                                  [this] { designerfenster.open(); }};
     ErsteRechnung erste_rechnung{form1, einstellungen, vorgaben, rechnung, nummern, platform.clock};
 
     // The main window: its areas, then the window, then its menus.
@@ -166,7 +179,7 @@ struct Programm::Teile {
         verzeichnis, platform.dialogs, [this] { hauptfenster.m_beenden_Click(); }};
     MenueDatei menue_datei{form1,        ereignisse,   dateibefehle, textexport,
                            druckauftrag, hauptfenster, kopf,         raster};
-    Ausgabe ausgabe{form1, ereignisse, summen, vorschaufenster, bildausgabe, pdfausgabe};
+    Ausgabe ausgabe{form1, ereignisse, summen, vorschauzeichnung, vorschaufenster, bildausgabe, pdfausgabe};
     MenueHilfe menue_hilfe{form1,          ereignisse,       verzeichnis,     werte,
                            platform.shell, platform.dialogs, platform.desktop};
     Startfenster startfenster{form_start, werte, verzeichnis, platform.clock, [this] { form1.Show(); }};

@@ -45,6 +45,8 @@ using Drawing = std::variant<drawn::Text, drawn::Line, drawn::Picture>;
 struct DrawnPage {
     Paper paper;
     std::vector<Drawing> drawings;
+    /// A part of a page: it fills the width of the control that shows it, and what lies below shows through.
+    bool transparent = false;
     bool operator==(const DrawnPage&) const = default;
 };
 

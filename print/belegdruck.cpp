@@ -19,7 +19,11 @@ Druckvorlage Belegdruck::vorbereiten(const Druckoptionen& optionen, bool design_
     if (design_lesen || !designdatei_.geladen()) {
         designdatei_.DESIGN_LADEN();
     }
-    return DRUCKE_EIGENESLAYOUT(form1_, einstellungen_, programm_, designdatei_.design, optionen);
+    return vorbereiten(optionen, designdatei_.design);
+}
+
+Druckvorlage Belegdruck::vorbereiten(const Druckoptionen& optionen, const Design& entwurf) const {
+    return DRUCKE_EIGENESLAYOUT(form1_, einstellungen_, programm_, entwurf, optionen);
 }
 
 } // namespace quittika

@@ -18,6 +18,8 @@ public:
     /// In the page design that is chosen. For the user's own its file is read, and a box says where that is
     /// missing; without `design_lesen` the one read last holds, if there is one. Drawing needs this object.
     Druckvorlage vorbereiten(const Druckoptionen& optionen = {}, bool design_lesen = true);
+    /// In a design of the user's own that need not be saved.
+    Druckvorlage vorbereiten(const Druckoptionen& optionen, const Design& entwurf) const;
 
 private:
     const Form1& form1_;

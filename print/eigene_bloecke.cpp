@@ -5,6 +5,8 @@
 #include "print/druckkopf.hpp"
 #include "print/drucktabelle.hpp"
 #include "print/firmenkopf.hpp"
+#include "print/summenblock.hpp"
+#include "print/tabellenstil.hpp"
 
 #include <algorithm>
 #include <string>
@@ -16,6 +18,9 @@ namespace {
 
 constexpr double kZeilenabstandBank = 4; ///< mm
 constexpr double kLuecke = 2;            ///< mm between bank data
+constexpr double kBanklinie = 1;         ///< mm from the rule to the bank data
+constexpr double kBlattbreite = 297;     ///< the rule runs over the sheet's right edge
+constexpr double kStrich = 0.2;          ///< mm above and below its middle
 
 } // namespace
 
@@ -155,6 +160,32 @@ std::vector<Textblock> EigeneBloecke::bankzeilen(Blatt& blatt) const {
         bloecke.push_back(std::move(block));
     }
     return bloecke;
+}
+
+std::optional<Kasten> EigeneBloecke::banklinie() const {
+    if (!einstellungen_.Check_BANKLINIE.ticked()) {
+        return {};
+    }
+    const double y = design_.Y_BANKZEILE - kBanklinie;
+    return Kasten{0, y - kStrich, kBlattbreite, y + kStrich};
+}
+
+void EigeneBloecke::BANKLINIE_DRUCKEN(Blatt& blatt) const {
+    if (const std::optional<Kasten> linie = banklinie()) {
+        const double y = blatt.Y(linie->oben + kStrich);
+        blatt.surface.Line(blatt.X(linie->links), y, blatt.X(linie->rechts), y, programm_.FARBE_LINIEN);
+    }
+}
+
+double EigeneBloecke::TABELLE_DRUCKEN(Blatt& blatt, const Druckseite& seite, const Druckoptionen& optionen,
+                                      double y) const {
+    const Color farbe = programm_.FARBE_LINIEN;
+    const Drucktabelle tabelle(form1_, einstellungen_, programm_, optionen);
+    blatt.schrift(kSchriftTabelle, false);
+    blatt.gehe_zu(0, y);
+    DRUCKE_TABELLE(blatt, tabelle, seite.zeilen, design_.LIST_OPTION, farbe);
+    DRUCKE_BETRAEGE(blatt, seite, tabelle, form1_, farbe);
+    return blatt.surface.CurrentY - blatt.just.Yjust - kTabellenschluss;
 }
 
 } // namespace quittika

@@ -8,9 +8,13 @@
 #include "settings/frm_einstellungen.hpp"
 #include "settings/programmeinstellung.hpp"
 
+#include <optional>
 #include <vector>
 
 namespace quittika {
+
+/// Below the last rule of rows and amounts, mm.
+inline constexpr double kTabellenschluss = 2;
 
 /// The blocks of the user's own design, each at its place in the design, in its size and colour.
 class EigeneBloecke {
@@ -32,6 +36,13 @@ public:
     /// The bank data, a block each; each begins behind the one before where that is wider than its column,
     /// and one line further down where no room is left beside it.
     std::vector<Textblock> bankzeilen(Blatt& blatt) const;
+    /// Room and drawing of the rule above the bank data; neither where it is not wanted.
+    std::optional<Kasten> banklinie() const;
+    void BANKLINIE_DRUCKEN(Blatt& blatt) const;
+    /// Prints rows and amounts of a page from `y` mm on. Returns where their last rule stands; the cursor is
+    /// below it.
+    double TABELLE_DRUCKEN(Blatt& blatt, const Druckseite& seite, const Druckoptionen& optionen,
+                           double y) const;
 
 private:
     std::vector<std::string> textzeilen(int block) const;

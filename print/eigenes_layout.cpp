@@ -3,10 +3,9 @@
 #include "invoice/belegtexte.hpp"
 #include "print/druckkopf.hpp"
 #include "print/eigene_bloecke.hpp"
-#include "print/summenblock.hpp"
-#include "print/tabellenstil.hpp"
 
 #include <algorithm>
+#include <optional>
 #include <tuple>
 #include <utility>
 #include <vector>
@@ -17,10 +16,7 @@ namespace {
 
 constexpr double kKurzerKopf = 30;   ///< mm, highest place of date and title on a page without the full head
 constexpr double kUnterAbsender = 6; ///< mm between logo or sender and them
-constexpr double kBanklinie = 1;     ///< mm from the rule to the bank data
-constexpr double kBlattbreite = 297; ///< the rule runs over the sheet's right edge
-constexpr double kStrich = 0.2;
-constexpr double kSchlussabstand = 2; ///< mm below the last rule of rows and amounts
+constexpr double kBlattbreite = 297; ///< of the table's room: beyond the sheet's right edge
 
 /// What the pages of a document have in common.
 struct Beleg {
@@ -135,17 +131,11 @@ private:
         return satz_.frei_unter(BLOCK_SETZEN(blatt_, satz_, titel));
     }
 
-    /// Prints rows and amounts from `y` on and returns where they end.
+    /// Prints rows and amounts from `y` on and returns where what follows them begins.
     double tabelle(double y) {
-        const Color farbe = beleg_.programm.FARBE_LINIEN;
-        const Drucktabelle tabelle(beleg_.form1, beleg_.einstellungen, beleg_.programm, beleg_.optionen);
-        blatt_.schrift(kSchriftTabelle, false);
-        blatt_.gehe_zu(0, y);
-        DRUCKE_TABELLE(blatt_, tabelle, seite_.zeilen, design_.LIST_OPTION, farbe);
-        DRUCKE_BETRAEGE(blatt_, seite_, tabelle, beleg_.form1, farbe);
-        const double ende = blatt_.surface.CurrentY - blatt_.just.Yjust;
-        satz_.belegen({kListenrand, y, kBlattbreite, ende - kSchlussabstand});
-        return ende;
+        const double ende = bloecke_.TABELLE_DRUCKEN(blatt_, seite_, beleg_.optionen, y);
+        satz_.belegen({kListenrand, y, kBlattbreite, ende});
+        return ende + kTabellenschluss;
     }
 
     /// The block below `ende`, where the table ends; close below its last rule where it fits only there.
@@ -154,7 +144,7 @@ private:
         block.y = std::max(y, ende);
         if (!satz_.frei(BLOCK_KASTEN(block, BLOCK_MESSEN(blatt_, block)))) {
             Textblock dicht = block;
-            dicht.y = std::max(y, ende - kSchlussabstand);
+            dicht.y = std::max(y, ende - kTabellenschluss);
             if (satz_.frei(BLOCK_KASTEN(dicht, BLOCK_MESSEN(blatt_, dicht)))) {
                 return dicht;
             }
@@ -173,18 +163,14 @@ private:
                 satz_.belegen(BLOCK_KASTEN(block, mass));
             }
         }
-        if (beleg_.einstellungen.Check_BANKLINIE.ticked()) {
-            const double y = design_.Y_BANKZEILE - kBanklinie;
-            satz_.belegen({0, y - kStrich, kBlattbreite, y + kStrich});
+        if (const std::optional<Kasten> linie = bloecke_.banklinie()) {
+            satz_.belegen(*linie);
         }
         return fuss;
     }
 
     void fuss_drucken(const std::vector<Textblock>& fuss) {
-        if (beleg_.einstellungen.Check_BANKLINIE.ticked()) {
-            const double y = blatt_.Y(design_.Y_BANKZEILE - kBanklinie);
-            blatt_.surface.Line(blatt_.X(0), y, blatt_.X(kBlattbreite), y, beleg_.programm.FARBE_LINIEN);
-        }
+        bloecke_.BANKLINIE_DRUCKEN(blatt_);
         for (const Textblock& block : fuss) {
             BLOCK_DRUCKEN(blatt_, block);
         }

@@ -30,7 +30,8 @@ Druckvorlage Vorschauzeichnung::vorlage(bool design_lesen) const {
     optionen.lieferschein = lieferscheinoptionen_.vorgabe();
     optionen.lieferschein.preise = false;
     optionen.x_gesamt = kXGesamt;
-    return belegdruck_.vorbereiten(optionen, design_lesen);
+    return entwurf_ ? belegdruck_.vorbereiten(optionen, *entwurf_)
+                    : belegdruck_.vorbereiten(optionen, design_lesen);
 }
 
 std::string Vorschauzeichnung::zeichnen(PrintDevice& geraet, const PrintDocument& dokument,

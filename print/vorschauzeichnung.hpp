@@ -7,7 +7,9 @@
 #include "print/lieferscheinoptionen.hpp"
 #include "settings/frm_einstellungen.hpp"
 
+#include <optional>
 #include <string>
+#include <utility>
 
 namespace quittika {
 
@@ -26,6 +28,10 @@ public:
                       const Lieferscheinoptionen& lieferscheinoptionen, Printing& printing,
                       Pictures& pictures);
 
+    /// From now on the pages are drawn in a design that need not be saved, whatever the settings choose;
+    /// without one, in what they choose.
+    void ENTWURF(std::optional<Design> entwurf) { entwurf_ = std::move(entwurf); }
+
     /// Draws page `wunsch`, or the nearest that there is. For the user's own design its file is read, unless
     /// `design_lesen` is off.
     Vorschauseite VORSCHAU_RECHNUNG(PictureControl& bild, int wunsch, bool design_lesen = true) const;
@@ -43,6 +49,7 @@ private:
     const Lieferscheinoptionen& lieferscheinoptionen_;
     Printing& printing_;
     Pictures& pictures_;
+    std::optional<Design> entwurf_;
 };
 
 } // namespace quittika

@@ -57,7 +57,8 @@ QImage PictureView::picture() const {
 
 QPixmap PictureView::scene(const QSize& room) {
     if (const DrawnPage* page = control_.page().get()) {
-        return QPixmap::fromImage(page_image(*page, sheet_size(page->paper, room), tools_));
+        const QSize sheet = page->transparent ? room : sheet_size(page->paper, room);
+        return QPixmap::fromImage(page_image(*page, sheet, tools_));
     }
     const QImage image = picture();
     if (image.isNull()) {

@@ -11,7 +11,8 @@ namespace quittika {
 class Backdrop;
 
 /// Image or picture box. A picture fills the widget as far as its proportions allow; a label whose design
-/// sets `scaledContents` stretches it over the whole widget. A drawn page keeps its proportions. On dark
+/// sets `scaledContents` stretches it over the whole widget. A drawn page keeps its proportions, a
+/// part of one is as large as the width of the widget makes it. On dark
 /// ground an image that is drawn on white paper is shown without the paper, unless it is stretched: then it
 /// stands for a part of a page. A picture box, and a label whose design sets `paper`, shows all as it will be
 /// printed. A file is read when the picture comes to be seen.

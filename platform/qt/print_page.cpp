@@ -99,12 +99,12 @@ QSize sheet_size(const Paper& paper, const QSize& room) {
 }
 
 QImage page_image(const DrawnPage& page, const QSize& sheet, PaintTools& tools) {
-    QImage image(sheet, QImage::Format_RGB32);
+    QImage image(sheet, page.transparent ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32);
     if (image.isNull()) {
         throw Laufzeitfehler(fehler::kSpeicher);
     }
     const double pixels_per_mm = sheet.width() / page.paper.width;
-    image.fill(Qt::white);
+    image.fill(page.transparent ? Qt::transparent : Qt::white);
     {
         set_resolution(image, kDrawingDpi);
         PageDevice device(image, pixels_per_mm, tools);

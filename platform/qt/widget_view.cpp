@@ -13,6 +13,7 @@
 #include <QWheelEvent>
 #include <QWidget>
 
+#include <cmath>
 #include <utility>
 
 namespace quittika {
@@ -39,15 +40,23 @@ MouseButton button_of(Qt::MouseButton button) {
     }
 }
 
+/// The place inside the widget is rounded to whole pixels; a finer screen knows it better, in the window.
+QPointF exact_place(const QMouseEvent& event, const QWidget& widget) {
+    const QPointF finer = widget.mapFrom(widget.window(), event.scenePosition());
+    const QPointF off = finer - event.position();
+    const bool same = std::abs(off.x()) < 1 && std::abs(off.y()) < 1; // else a made event without a window
+    return same ? finer : event.position();
+}
+
 /// `rounding`: twips from the control's exact place to that of its widget.
-MouseEvent to_desktop(const QMouseEvent& event, QPoint rounding) {
+MouseEvent to_desktop(const QMouseEvent& event, const QWidget& widget, QPoint rounding) {
     Qt::MouseButton button = event.button();
     if (event.type() == QEvent::MouseMove) {
         button = event.buttons().testFlag(Qt::LeftButton)    ? Qt::LeftButton
                  : event.buttons().testFlag(Qt::RightButton) ? Qt::RightButton
                                                              : Qt::NoButton;
     }
-    const QPointF place = event.position();
+    const QPointF place = exact_place(event, widget);
     return {button_of(button), twips(place.x()) + rounding.x(), twips(place.y()) + rounding.y()};
 }
 
@@ -230,7 +239,7 @@ bool WidgetView::hears_mouse() const {
 
 bool WidgetView::mouse(const QEvent& event) {
     const auto& given = static_cast<const QMouseEvent&>(event);
-    const MouseEvent at = to_desktop(given, place_ == nullptr ? QPoint() : place_->rounding());
+    const MouseEvent at = to_desktop(given, surface(), place_ == nullptr ? QPoint() : place_->rounding());
     const auto fire = [&](const Control::MouseHandler& handler) {
         if (handler) {
             guarded(control_.form(), [&] { handler(at); });

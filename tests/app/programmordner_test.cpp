@@ -26,6 +26,7 @@ TEST(Programmordner, SonstEinEigenerDerBeimAnlegenGefuelltWird) {
     std::vector<fs::path> namen = MITGELIEFERTE_BILDER();
     namen.insert(namen.end(), MITGELIEFERTE_BEISPIELE().begin(), MITGELIEFERTE_BEISPIELE().end());
     for (const fs::path& name : namen) {
+        fs::create_directories(fs::path(o.pfad("programm" / name)).parent_path());
         o.schreiben("programm" / name, "geliefert");
         chmod(o.pfad("programm" / name).c_str(), 0444);
     }
@@ -49,6 +50,8 @@ TEST(Programmordner, SonstEinEigenerDerBeimAnlegenGefuelltWird) {
     EXPECT_FALSE(fs::exists(o.pfad("neu/daten/Beispielrechnung.qk8"))) << "only once";
     EXPECT_EQ(o.lesen("neu/daten/stroh.png"), "geliefert") << "a folder of an earlier version lacks it";
     EXPECT_EQ(o.lesen("neu/daten/ihrlogo.bmp"), "eigen");
+    const Programmverzeichnis daten(o.pfad("neu/daten"));
+    EXPECT_TRUE(fs::exists(systempfad(daten.pfad("\\DESIGN_A4\\A4-1+1.jpg"))));
 }
 
 TEST(Programmordner, WasNichtGehtWirdGesagt) {

@@ -7,13 +7,13 @@
 #include "settings/programmstil.hpp"
 #include "tests/qt/desktop_look.hpp"
 #include "tests/qt/form_table.hpp"
+#include "tests/qt/shipped.hpp"
 
 #include <gtest/gtest.h>
 
 #include <QtTest>
 #include <QtWidgets>
 
-#include <filesystem>
 #include <random>
 
 namespace quittika::test {
@@ -133,17 +133,6 @@ double drawn_contrast(const QImage& picture, const Text& text) {
         best = color == letters ? best : std::min(best, theme::contrast(QColor(color), QColor(letters)));
     }
     return best;
-}
-
-/// A picture that ships with the program, found from the folder of the build.
-std::string shipped(const std::string& name) {
-    for (auto folder = std::filesystem::current_path(); folder != folder.root_path();
-         folder = folder.parent_path()) {
-        if (std::filesystem::exists(folder / "bilder" / name)) {
-            return (folder / "bilder" / name).string();
-        }
-    }
-    return {};
 }
 
 /// All windows of the program on one desktop, their letters drawn without softened edges.

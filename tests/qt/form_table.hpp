@@ -3,6 +3,7 @@
 #include "app/form_start.hpp"
 #include "app/form_ueber_quittika.hpp"
 #include "barcode/form_etp_barcode.hpp"
+#include "designer/form_designer.hpp"
 #include "invoice/form1.hpp"
 #include "masterdata/form_artikelverwaltung.hpp"
 #include "masterdata/form_kundenverwaltung.hpp"
@@ -37,6 +38,7 @@ inline const std::vector<MakeForm> kForms{make<Form1>,
                                           make<Form2_Breiter_Brief>,
                                           make<frm_einstellungen>,
                                           make<Form_Kundenverwaltung>,
-                                          make<Form_Artikelverwaltung>};
+                                          make<Form_Artikelverwaltung>,
+                                          make<FORM_DESIGNER>};
 
 } // namespace quittika::test

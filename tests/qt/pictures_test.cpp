@@ -1,7 +1,9 @@
 #include "platform/laufzeitfehler.hpp"
 #include "platform/qt/print_pdf.hpp"
 #include "platform/qt/qt_pictures.hpp"
+#include "platform/qt/widgets/contrast.hpp"
 #include "print/nachsichtiges_geraet.hpp"
+#include "tests/qt/shipped.hpp"
 #include "tests/qt/test_form.hpp"
 
 #include <gtest/gtest.h>
@@ -282,6 +284,24 @@ TEST_F(PictureTest, APageIsPrintedWithOrWithoutItSoonAndInLittleMemory) {
         EXPECT_LT(memory("VmHWM:") - before, kKeepsWhatIsFreed ? 1000 : 300);
         EXPECT_LT(QFile(folder.filePath("seite.pdf")).size(), 40'000'000);
         EXPECT_TRUE(QFile::remove(folder.filePath("seite.pdf")));
+    }
+}
+
+TEST_F(PictureTest, ThePageTemplatesCarryBlackText) {
+    for (int number = 1; number <= 12; ++number) {
+        const std::string path = shipped("DESIGN_A4/A4-1+" + std::to_string(number) + ".jpg");
+        ASSERT_NE(path, "") << number;
+        const QImage page = pictures.image(path);
+        EXPECT_NEAR(page.width() * 297.0 / 210, page.height(), 1) << number;
+        double least = 21;
+        for (int y = 0; y < page.height(); y += 3) {
+            for (int x = 0; x < page.width(); x += 3) {
+                least = std::min(least, theme::contrast(page.pixelColor(x, y), Qt::black));
+            }
+        }
+        EXPECT_GT(least, 9) << number;
+        EXPECT_LT(least, 20) << number << " shows something";
+        EXPECT_LT(std::filesystem::file_size(path), 60'000U) << number;
     }
 }
 

@@ -111,6 +111,23 @@ TEST_F(PageTest, IsShownSharpInAnyBoxAndWipedOutAgain) {
     EXPECT_FALSE(blue_is_shown()) << "a picture takes the place of the page";
 }
 
+TEST_F(PageTest, APartOfAPageIsGlassAndAsLargeAsItsControlIsWide) {
+    auto& label = bound.widget<QLabel>("Picture");
+    QPalette yellow;
+    yellow.setColor(QPalette::Window, Qt::yellow);
+    label.setPalette(yellow);
+    label.setAutoFillBackground(true);
+    const drawn::Line rule{10 - kOriginLeft, 10 - kOriginTop, 20 - kOriginLeft, 10 - kOriginTop, 0x0000FF};
+    bound.form.Picture.show_page(std::make_shared<DrawnPage>(DrawnPage{{30, 20}, {rule}, true}));
+    label.setFixedSize(30 * 20, 20 * 20 - 7); // a height rounded down changes no letter's size
+    const QImage shown = label.grab().toImage();
+    const QRect line = extent(shown, Qt::red);
+    EXPECT_NEAR(line.left(), 200, 1);
+    EXPECT_NEAR(line.right(), 400, 1);
+    EXPECT_NEAR(line.center().y(), 200, 1);
+    EXPECT_EQ(shown.pixelColor(1, 1), QColor(Qt::yellow));
+}
+
 TEST_F(PageTest, TellsWhatCannotBeDrawnAndLivesWithWhatGoesLater) {
     const auto device = printing.picture(bound.form.Picture, {"x"});
     EXPECT_THROW(device->picture(0, 0, 10, 10, folder.filePath("fehlt.bmp").toStdString()), Laufzeitfehler);
