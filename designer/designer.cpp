@@ -79,6 +79,7 @@ Designer::Designer(FORM_DESIGNER& form, Designdatei& designdatei, frm_einstellun
               design.B_WASSERZ = jetzt.B_WASSERZ;
               design.H_WASSERZ = jetzt.H_WASSERZ;
               schritt(vorher);
+              zum_block();
           }),
       vorlagen_(form, einstellungen, bilderwahl, verzeichnis, dialogs, bilder,
                 [this] { logo_und_wasserzeichen_zeigen(); }) {
@@ -102,11 +103,6 @@ void Designer::bloecke_verdrahten() {
         Image& bild = seite_.element(i).bild;
         bild.MouseDown = [this, i](const MouseEvent& maus) { MouseDown(i, maus); };
         bild.GotFocus = [this, i] { waehlen(i); };
-        bild.KeyDown = TASTEN({{kEscape, [this] {
-                                    if (blockzug_.abbrechen()) {
-                                        Stand_zeigen();
-                                    }
-                                }}});
     }
 }
 
@@ -147,6 +143,7 @@ void Designer::tasten_verdrahten() {
             pfeil.Click = [this, dx = x * weite, dy = y * weite] { schieben(dx, dy); };
         }
     }
+    form_.m_Zurueck.Click = [this] { m_Zurueck_Click(); };
     form_.m_Rueckgaengig.Click = [this] { verlauf_gehen(true); };
     form_.m_Wiederholen.Click = [this] { verlauf_gehen(false); };
     for (TextBox* feld : {&form_.Text_Logo_X, &form_.Text_Logo_Y}) {
@@ -303,7 +300,7 @@ void Designer::Blocktext_zeigen() {
     const Designelement& e = seite_.element(ausgewaehlt_);
     const Blockmasse& masse = seite_.masse(ausgewaehlt_);
     std::string text = std::string(e.name) + ": " + format_zahl(masse.x, "0.0") + "\u00A0mm von links, " +
-                       format_zahl(masse.y, "0.0") + "\u00A0mm von oben";
+                       format_zahl(masse.y, "0.0") + "\u00A0mm\u00A0von\u00A0oben";
     if (e.block && lagen_.at(static_cast<std::size_t>(*e.block)).im_weg) {
         text += "\r\nStößt an einen anderen Block oder über den Rand";
     }
@@ -349,6 +346,28 @@ void Designer::Option_Click(int nummer) {
                                              "TIP...", Buttons::YesNo, Symbol::Question});
     if (antwort == Answer::Yes) {
         rechtsklick_.RECHTSKLICK(selektor::kListe, form_.Frame_A4.Left(), form_.Frame_A4.Top());
+    }
+}
+
+/// Ends what is under way, else closes the frame that lies uppermost, else the window.
+void Designer::m_Zurueck_Click() {
+    if (!blockzug_.laeuft()) {
+        for (Frame* offen : {&form_.FRAME_TIP, &form_.FrameVorlageBackgrounddesign, &form_.Frame_FARBE,
+                             &form_.Frame_Wasserz, &form_.Frame_Logo}) {
+            if (offen->Visible()) {
+                offen->Visible = false;
+                zum_block();
+                return;
+            }
+        }
+    }
+    form_.Close();
+}
+
+/// Gives the keyboard back to the selected block.
+void Designer::zum_block() {
+    if (ausgewaehlt_ != kDesignelemente) {
+        seite_.element(ausgewaehlt_).bild.SetFocus();
     }
 }
 

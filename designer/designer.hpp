@@ -44,6 +44,8 @@ private:
     void logo_und_wasserzeichen_zeigen();
     void Sichtbarkeit_zeigen();
     void Option_Click(int nummer);
+    void m_Zurueck_Click();
+    void zum_block();
     void m_reset_Click();
 
     Design auf_dem_schirm() const;

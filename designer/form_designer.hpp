@@ -97,7 +97,8 @@ struct FORM_DESIGNER : Form {
     Menu m_reset{*this, "m_reset", "&Reset der Vorlage"};
     Menu m_Rueckgaengig{*this, "m_Rueckgaengig", "Rück&gängig"};
     Menu m_Wiederholen{*this, "m_Wiederholen", "&Wiederholen"};
-    // For their shortcuts only: left, right, up, down.
+    // For their shortcuts only; the arrows: left, right, up, down.
+    Menu m_Zurueck{*this, "m_Zurueck", "Abbrechen oder schließen"};
     ControlArray<Menu, 4> m_Pfeil{*this, "m_Pfeil", "Block um 1 mm schieben"};
     ControlArray<Menu, 4> m_Pfeil_weit{*this, "m_Pfeil_weit", "Block um 5 mm schieben"};
     ControlArray<Menu, 4> m_Pfeil_fein{*this, "m_Pfeil_fein", "Block um 0,1 mm schieben"};

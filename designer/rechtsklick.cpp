@@ -64,6 +64,12 @@ void Rechtsklick::RECHTSKLICK(int code, int left, int top) {
     form_.Command_FARBE_LINIEN.Enabled = true;
     form_.Command_TEXTEINSTELLUNGEN.Enabled = true;
     form_.Frame_FARBWAHL.Visible = true;
+    if (code == selektor::kLogo || code == selektor::kWasserzeichen) {
+        form_.Frame_FARBE.Visible = false;
+    } else if (code != selektor::kNichts) {
+        form_.Frame_Logo.Visible = false;
+        form_.Frame_Wasserz.Visible = false;
+    }
     if (code == selektor::kLogo) {
         groessenrahmen(form_.Frame_Logo, form_.Frame_Wasserz, left + kLogoabstand, top + kLogoabstand);
     } else if (code == selektor::kWasserzeichen) {
@@ -87,8 +93,12 @@ void Rechtsklick::groessenrahmen(Frame& rahmen, Frame& anderer, int left, int to
 void Rechtsklick::farbrahmen(int code, int left, int top) {
     Frame& rahmen = form_.Frame_FARBE;
     rahmen.Visible = true;
+    const bool stand_schon = std::exchange(stand_schon_, true);
     if (code == selektor::kTitel || code == selektor::kSeitenzahl) {
         form_.Frame_FARBWAHL.Visible = false;
+        if (!stand_schon) {
+            hinlegen(rahmen, left, top, form_.Frame_Tisch, form_);
+        }
         return;
     }
     const bool am_fuss =
@@ -182,10 +192,10 @@ void Rechtsklick::GROESSE_SETZEN(int code, Designseite::Stand vorher) {
     masse.b = GROESSE_LESEN(f.breite.Text(), masse.b, masse.x, kSeitenbreite);
     masse.h = GROESSE_LESEN(f.hoehe.Text(), masse.h, masse.y, kSeitenhoehe);
     seite_.setzen(nummer, masse);
-    f.breite.Text = ganze(masse.b);
-    f.hoehe.Text = ganze(masse.h);
     f.rahmen.Visible = false;
     groesse_(vorher);
+    f.breite.Text = ganze(masse.b);
+    f.hoehe.Text = ganze(masse.h);
 }
 
 void Rechtsklick::CMD_MAXGROESSE_Wasserz_Click() {

@@ -41,7 +41,8 @@ private:
     Dialogs& dialogs_;
     std::function<void()> gefaerbt_;
     std::function<void(const Designseite::Stand&)> groesse_;
-    int SELEKTOR_ = 0; ///< code of the last right click
+    int SELEKTOR_ = 0;         ///< code of the last right click
+    bool stand_schon_ = false; ///< the colour frame has been given a place
 };
 
 } // namespace quittika

@@ -57,6 +57,7 @@ void Vorlagenauswahl::ERSTE_SEITE() {
 
 void Vorlagenauswahl::oeffnen() {
     form_.FRAME_TIP.Visible = false;
+    form_.FrameVorlageBackgrounddesign.Caption = "Hintergrundvorlagen";
     form_.FrameVorlageBackgrounddesign.Visible = true;
     Timer_zap_Timer();
 }
@@ -101,6 +102,8 @@ void Vorlagenauswahl::Image_VorlageHintergrund_MouseDown(int nummer) {
         einstellungen_.Text_bildpath.Text = gewaehlt;
         bilderwahl_.Wasserz_Bild_suchen(false);
         gewaehlt_();
+        form_.FrameVorlageBackgrounddesign.Caption =
+            "Hintergrundvorlagen: Nr. " + std::to_string(nummer) + " liegt jetzt auf der Seite";
     } catch (const Laufzeitfehler& fehler) {
         dialogs_.message({"Es ist ein Fehler bei der Designauswahl im Designer aufgetreten. Bitte versuchen "
                           "Sie ein anderes Design.",

@@ -4,6 +4,7 @@
 #include "platform/qt/print_page.hpp"
 #include "platform/qt/widgets/backdrop.hpp"
 #include "platform/qt/widgets/contrast.hpp"
+#include "platform/qt/widgets/theme.hpp"
 #include "platform/qt/widgets/tint.hpp"
 
 #include <QLabel>
@@ -97,6 +98,11 @@ bool PictureView::paint() {
         painter.fillRect(target, Qt::white);
     }
     painter.drawPixmap(target.topLeft(), ready_);
+    if (label != nullptr && label->hasFocus() && label->frameWidth() > 0) {
+        const QColor ink = theme::focus_color(label->palette().color(QPalette::Window));
+        painter.setPen(QPen(ink, 2 * label->frameWidth())); // the outer half lies outside
+        painter.drawRect(label->rect());
+    }
     return true;
 }
 
