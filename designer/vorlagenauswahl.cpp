@@ -102,8 +102,7 @@ void Vorlagenauswahl::Image_VorlageHintergrund_MouseDown(int nummer) {
         einstellungen_.Text_bildpath.Text = gewaehlt;
         bilderwahl_.Wasserz_Bild_suchen(false);
         gewaehlt_();
-        form_.FrameVorlageBackgrounddesign.Caption =
-            "Hintergrundvorlagen: Nr. " + std::to_string(nummer) + " liegt jetzt auf der Seite";
+        form_.FrameVorlageBackgrounddesign.Caption = "Gewählt: Vorlage " + std::to_string(nummer);
     } catch (const Laufzeitfehler& fehler) {
         dialogs_.message({"Es ist ein Fehler bei der Designauswahl im Designer aufgetreten. Bitte versuchen "
                           "Sie ein anderes Design.",
