@@ -64,6 +64,7 @@ Designer::Designer(FORM_DESIGNER& form, Designdatei& designdatei, frm_einstellun
       vorschauzeichnung_(vorschauzeichnung),
       vorschaufenster_(vorschaufenster),
       dialogs_(dialogs),
+      bilderstand_(einstellungen),
       seite_(form),
       hilfslinien_(form, seite_),
       blockzug_(
@@ -81,8 +82,10 @@ Designer::Designer(FORM_DESIGNER& form, Designdatei& designdatei, frm_einstellun
               schritt(vorher);
               zum_block();
           }),
-      vorlagen_(form, einstellungen, bilderwahl, verzeichnis, dialogs, bilder,
-                [this] { logo_und_wasserzeichen_zeigen(); }) {
+      vorlagen_(form, einstellungen, bilderwahl, verzeichnis, dialogs, bilder, [this] {
+          bilderstand_.wasserzeichen_gewaehlt();
+          logo_und_wasserzeichen_zeigen();
+      }) {
     form.Load = [this] { Form_Load(); };
     form.QueryUnload = [this](bool& abbrechen) { Form_QueryUnload(abbrechen); };
     form.Unload = [this] { Form_Unload(); };
@@ -114,10 +117,12 @@ void Designer::knoepfe_verdrahten() {
     form_.Check_mitWZ.Click = [this] { Sichtbarkeit_zeigen(); };
     form_.Cmd_Logosuchen.Click = [this] {
         bilderwahl_.Command_durchsuchen_Click();
+        bilderstand_.logo_gewaehlt();
         logo_und_wasserzeichen_zeigen();
     };
     form_.Cmd_Wasserzsuchen.Click = [this] {
         bilderwahl_.Wasserz_Bild_suchen(true);
+        bilderstand_.wasserzeichen_gewaehlt();
         logo_und_wasserzeichen_zeigen();
     };
     form_.CMD_Justierung.Click = [this] { einstellungsfenster_.m_druckjustierung_Click(); };
@@ -159,6 +164,7 @@ void Designer::Form_Load() {
     form_.Frame_FARBE.Visible = false;
     designdatei_.DESIGN_LADEN();
     geladen_ = designdatei_.design;
+    bilderstand_.merken();
     seite_.anordnen();
     logo_und_wasserzeichen_zeigen();
     form_.Check_mitLogo.Value = einstellungen_.Check_keinlogo.ticked() ? 0 : 1;
@@ -211,6 +217,7 @@ void Designer::Form_QueryUnload(bool& abbrechen) {
 void Designer::Form_Unload() {
     if (!gespeichert_) {
         designdatei_.design = geladen_;
+        bilderstand_.zuruecknehmen();
     }
     vorschauzeichnung_.ENTWURF({});
     einstellungen_.CMD_DESIGNER.Enabled = true;

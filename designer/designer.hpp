@@ -1,5 +1,6 @@
 #pragma once
 
+#include "designer/bilderstand.hpp"
 #include "designer/blockzug.hpp"
 #include "designer/designdatei.hpp"
 #include "designer/hilfslinien.hpp"
@@ -63,6 +64,7 @@ private:
     Vorschaufenster& vorschaufenster_;
     Dialogs& dialogs_;
 
+    Bilderstand bilderstand_;
     Designseite seite_;
     Hilfslinien hilfslinien_;
     Blockzug blockzug_;

@@ -34,6 +34,20 @@ void drag(const QPointF& from, const QPointF& pixels) {
     hand.up().go();
 }
 
+/// Return and Escape in a size field end its frame, not the window.
+void keys_of_the_size_frame(QWidget& window) {
+    auto* logo = window.findChild<QWidget*>(QStringLiteral("Image_LOGO"));
+    auto* width = window.findChild<QLineEdit*>(QStringLiteral("Text_Logo_X"));
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Escape}) {
+        QTest::mouseClick(logo, Qt::RightButton);
+        ASSERT_TRUE(width->isVisible());
+        QTest::keyClick(width, key);
+        EXPECT_FALSE(width->isVisible());
+        EXPECT_TRUE(window.isVisible());
+        EXPECT_TRUE(logo->hasFocus());
+    }
+}
+
 TEST(DesignerMouse, BlocksStandWhereTheyWereDropped) {
     const Probenordner folder;
     const Design standard = DESIGN_STANDARD(Programmverzeichnis(folder.ordner()));
@@ -54,6 +68,7 @@ TEST(DesignerMouse, BlocksStandWhereTheyWereDropped) {
     drag(centre("Image_KDNR"), {-161, 73});
     drag(centre("Image_LOGO"), {-37, -11});
     drag(centre("Image_LISTE"), {55, -43});
+    keys_of_the_size_frame(*window);
     auto* save = window->findChild<QPushButton*>(QStringLiteral("CMD_SPEICHERN"));
     Mouse().to(save->mapToGlobal(QPointF(save->rect().center()))).click().go();
     ASSERT_TRUE(QTest::qWaitFor([] { return open_window("FORM_DESIGNER") == nullptr; }));
