@@ -197,6 +197,7 @@ void Designer::Form_Resize() {
         decke->Width = form_.Frame_Tisch.Width();
         decke->Height = form_.Frame_Tisch.Height();
     }
+    rechtsklick_.rahmen_nachziehen();
     Stand_zeigen();
 }
 

@@ -177,6 +177,14 @@ void Rechtsklick::nicht_vorhanden() {
                       Symbol::Information});
 }
 
+void Rechtsklick::rahmen_nachziehen() {
+    for (Frame* rahmen : {&form_.Frame_Logo, &form_.Frame_Wasserz, &form_.Frame_FARBE}) {
+        if (rahmen->Visible()) {
+            hinlegen(*rahmen, rahmen->Left(), rahmen->Top(), form_.Frame_Tisch, form_);
+        }
+    }
+}
+
 void Rechtsklick::groessen_zeigen() {
     for (const int code : {selektor::kLogo, selektor::kWasserzeichen}) {
         const Blockmasse& masse = seite_.masse(seite_.nummer_von(code));

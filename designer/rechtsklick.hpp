@@ -20,6 +20,8 @@ public:
 
     /// For the block of that code, which begins at that place of the window, twips.
     void RECHTSKLICK(int code, int left, int top);
+    /// Brings an open frame back into a window that has become smaller.
+    void rahmen_nachziehen();
     /// Shows the sizes in the fields.
     void groessen_zeigen();
 
