@@ -87,6 +87,7 @@ void Rechtsklick::groessenrahmen(Frame& rahmen, Frame& anderer, int left, int to
 void Rechtsklick::farbrahmen(int code, int left, int top) {
     Frame& rahmen = form_.Frame_FARBE;
     rahmen.Visible = true;
+    form_.Command_TEXTEINSTELLUNGEN.SetFocus();
     if (code == selektor::kTitel || code == selektor::kSeitenzahl) {
         form_.Frame_FARBWAHL.Visible = false;
         return;
