@@ -14,7 +14,8 @@ class Backdrop;
 /// sets `scaledContents` stretches it over the whole widget. A drawn page keeps its proportions, a
 /// part of one is as large as the width of the widget makes it. On dark
 /// ground an image that is drawn on white paper is shown without the paper, unless it is stretched: then it
-/// stands for a part of a page. A picture box shows all as it will be printed.
+/// stands for a part of a page. A picture box shows all as it will be printed, so does what its design marks
+/// `onPaper`.
 /// A file is read when the picture comes to be seen.
 class PictureView final : public TypedView<PictureControl, QWidget> {
 public:
@@ -31,7 +32,9 @@ private:
     QPixmap scene(const QSize& room);
     QImage picture() const;
     /// Whether it is shown as it will be printed.
-    bool on_paper() const { return control_.kind() == "PictureBox"; }
+    bool on_paper() const {
+        return control_.kind() == "PictureBox" || widget_.property("onPaper").toBool(); // of the design
+    }
     /// Returns whether there was anything to paint.
     bool paint();
 
