@@ -74,11 +74,11 @@ void Rechtsklick::RECHTSKLICK(int code, int left, int top) {
 }
 
 void Rechtsklick::groessenrahmen(Frame& rahmen, Frame& anderer, int left, int top) {
-    hinlegen(rahmen, std::max(kMindestabstand, left), std::max(kMindestabstand, top), form_.Frame_Tisch,
-             form_);
     groessen_zeigen();
     anderer.Visible = false;
     rahmen.Visible = true;
+    hinlegen(rahmen, std::max(kMindestabstand, left), std::max(kMindestabstand, top), form_.Frame_Tisch,
+             form_);
     TextBox& breite = felder(form_, SELEKTOR_).breite;
     breite.SetFocus();
     breite.select_all();
@@ -87,6 +87,7 @@ void Rechtsklick::groessenrahmen(Frame& rahmen, Frame& anderer, int left, int to
 void Rechtsklick::farbrahmen(int code, int left, int top) {
     Frame& rahmen = form_.Frame_FARBE;
     rahmen.Visible = true;
+    form_.Command_TEXTEINSTELLUNGEN.SetFocus();
     if (code == selektor::kTitel || code == selektor::kSeitenzahl) {
         form_.Frame_FARBWAHL.Visible = false;
         return;
