@@ -3,12 +3,18 @@
 #include "app/fenstertitel.hpp"
 #include "settings/fensterstatus.hpp"
 
+#include <utility>
+
 namespace quittika {
 
 Hauptfenster::Hauptfenster(Form1& form1, Rechnungszustand& zustand, Ladefolge& ladefolge, Kopf& kopf,
                            Dateibefehle& dateibefehle, const Programmverzeichnis& verzeichnis,
-                           Desktop& desktop)
-    : form1_(form1), zustand_(zustand), dateibefehle_(dateibefehle), verzeichnis_(verzeichnis) {
+                           Desktop& desktop, std::function<bool()> andere_schliessen)
+    : form1_(form1),
+      zustand_(zustand),
+      dateibefehle_(dateibefehle),
+      verzeichnis_(verzeichnis),
+      andere_schliessen_(std::move(andere_schliessen)) {
     form1.Load = [&ladefolge, &kopf] {
         ladefolge.Form_Load();
         kopf.KundeAnwaehlen();
@@ -21,7 +27,7 @@ Hauptfenster::Hauptfenster(Form1& form1, Rechnungszustand& zustand, Ladefolge& l
 void Hauptfenster::Form_QueryUnload(bool& abbrechen) {
     if (!ohne_frage_schliessen_) {
         FENSTERSTATUS_SPEICHERN(form1_, verzeichnis_);
-        abbrechen = !dateibefehle_.VorherSpeichern(Buttons::YesNoCancel);
+        abbrechen = !dateibefehle_.VorherSpeichern(Buttons::YesNoCancel) || !andere_schliessen_();
     }
 }
 
@@ -33,6 +39,9 @@ void Hauptfenster::TitelZeigen() {
 void Hauptfenster::m_beenden_Click() {
     FENSTERSTATUS_SPEICHERN(form1_, verzeichnis_);
     if (zustand_.geaendert() && !dateibefehle_.VorherSpeichern(Buttons::YesNo)) {
+        return;
+    }
+    if (!andere_schliessen_()) {
         return;
     }
     ohne_frage_schliessen_ = true;

@@ -5,13 +5,17 @@
 #include "invoice/file/dateibefehle.hpp"
 #include "platform/desktop.hpp"
 
+#include <functional>
+
 namespace quittika {
 
 /// The main window as a window: loading, title and closing. Its areas and menus are wired beside it.
 class Hauptfenster {
 public:
+    /// `andere_schliessen` closes the windows with work of their own; false where the user keeps one.
     Hauptfenster(Form1& form1, Rechnungszustand& zustand, Ladefolge& ladefolge, Kopf& kopf,
-                 Dateibefehle& dateibefehle, const Programmverzeichnis& verzeichnis, Desktop& desktop);
+                 Dateibefehle& dateibefehle, const Programmverzeichnis& verzeichnis, Desktop& desktop,
+                 std::function<bool()> andere_schliessen);
 
     /// Remembers the state of the window, asks whether to save and ends the program.
     void m_beenden_Click();
@@ -24,6 +28,7 @@ private:
     Rechnungszustand& zustand_;
     Dateibefehle& dateibefehle_;
     const Programmverzeichnis& verzeichnis_;
+    std::function<bool()> andere_schliessen_;
     bool ohne_frage_schliessen_ = false;
 };
 

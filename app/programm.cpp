@@ -173,7 +173,10 @@ struct Programm::Teile {
     Erinnerung erinnerung{form1, zustand};
     Ladefolge ladefolge{form1, zustand,        platform.desktop, verzeichnis, einstellungsstart,
                         logo,  erste_rechnung, raster,           summen};
-    Hauptfenster hauptfenster{form1, zustand, ladefolge, kopf, dateibefehle, verzeichnis, platform.desktop};
+    Hauptfenster hauptfenster{
+        form1, zustand, ladefolge, kopf, dateibefehle, verzeichnis, platform.desktop, [this] {
+            return designerfenster.module() == nullptr || designerfenster.module()->SCHLIESSEN();
+        }};
     Einstellungsaustausch einstellungsaustausch{
         form1,       einstellungen,    einstellungsschreiber,
         verzeichnis, platform.dialogs, [this] { hauptfenster.m_beenden_Click(); }};

@@ -23,8 +23,8 @@ Blockzug::Blockzug(FORM_DESIGNER& form, Designseite& seite, std::function<void(s
 
 void Blockzug::ort_merken(std::size_t nummer, const MouseEvent& maus) {
     const Image& bild = seite_.element(nummer).bild;
-    MAUS_X_ = bild.Left() + maus.x;
-    MAUS_Y_ = bild.Top() + maus.y;
+    MAUS_X_ = static_cast<double>(bild.Left()) + maus.x;
+    MAUS_Y_ = static_cast<double>(bild.Top()) + maus.y;
 }
 
 void Blockzug::MouseDown(std::size_t nummer, const MouseEvent& maus) {
@@ -38,7 +38,7 @@ void Blockzug::MouseDown(std::size_t nummer, const MouseEvent& maus) {
 
 void Blockzug::MouseMove(std::size_t nummer, const MouseEvent& maus) {
     ort_merken(nummer, maus);
-    const auto ganze = [this](int twips) {
+    const auto ganze = [this](double twips) {
         return format_zahl(std::nearbyint(twips / seite_.FAKTOR()), "0");
     };
     form_.Caption = "DESIGNER                       Position:  X = " + ganze(MAUS_X_) +
@@ -50,9 +50,8 @@ void Blockzug::MouseMove(std::size_t nummer, const MouseEvent& maus) {
         if (!vorher_) {
             vorher_ = seite_.stand();
         }
-        const Image& bild = seite_.element(nummer).bild;
-        seite_.ziehen(nummer, bild.Left() + maus.x - static_cast<int>(MAUS_START_.x),
-                      bild.Top() + maus.y - static_cast<int>(MAUS_START_.y));
+        seite_.ziehen(nummer, MAUS_X_ - static_cast<double>(MAUS_START_.x),
+                      MAUS_Y_ - static_cast<double>(MAUS_START_.y));
     }
     bewegt_(nummer);
 }

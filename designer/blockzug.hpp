@@ -34,8 +34,8 @@ private:
     Designseite& seite_;
     std::function<void(std::size_t)> bewegt_;
     std::function<void(const Designseite::Stand&)> gezogen_;
-    int MAUS_X_ = 0; ///< pointer on the page, twips
-    int MAUS_Y_ = 0;
+    double MAUS_X_ = 0; ///< pointer on the page, twips
+    double MAUS_Y_ = 0;
     Mausort MAUS_START_; ///< pointer inside the element when the button was last not held
     std::optional<Designseite::Stand> vorher_;
     bool abgebrochen_ = false;

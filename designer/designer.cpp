@@ -21,7 +21,9 @@ constexpr const char* kHilfetexte[] = {
     "Drücken Sie auf einem Block die linke Maustaste und ziehen Sie ihn an seinen Platz. Die Tabelle lässt "
     "sich nur nach oben und unten verschieben. Esc bricht das Ziehen ab, Strg+Z nimmt es zurück.\r\n"
     "Mit der Tabulatortaste gehen Sie von Block zu Block. Die Pfeiltasten schieben den gewählten Block um "
-    "1 mm, mit der Umschalttaste um 5 mm, mit der Strg-Taste um 0,1 mm.",
+    "1 mm, mit der Umschalttaste um 5 mm, mit der Strg-Taste um 0,1 mm. Die Eingabetaste wirkt wie die "
+    "rechte "
+    "Maustaste.",
     "Farben, Texte und Größen\r\n\r\n"
     "Drücken Sie auf einem Block die rechte Maustaste: bei Texten und der Tabelle stellen Sie Farbe und "
     "Textdaten ein, bei Logo und Wasserzeichen die Größe in Millimetern. Sie sehen jeden Block so, wie er "
@@ -106,6 +108,7 @@ void Designer::bloecke_verdrahten() {
         Image& bild = seite_.element(i).bild;
         bild.MouseDown = [this, i](const MouseEvent& maus) { MouseDown(i, maus); };
         bild.GotFocus = [this, i] { waehlen(i); };
+        bild.KeyDown = TASTEN({{kEingabetaste, [this, i] { rechtsklick(i); }}});
     }
 }
 
@@ -134,7 +137,13 @@ void Designer::knoepfe_verdrahten() {
         form_.Text_TIP[i].Locked = true;
     }
     form_.CMD_OPEN_HELP.Click = [this] { form_.FRAME_TIP.Visible = true; };
-    form_.CMD_CLOSE_HELP.Click = [this] { form_.FRAME_TIP.Visible = false; };
+    for (auto [knopf, rahmen] : {std::pair{&form_.CMD_CLOSE_HELP, &form_.FRAME_TIP},
+                                 std::pair{&form_.CMD_SCHLIESSENFRABFRAME, &form_.Frame_FARBE}}) {
+        knopf->Click = [this, rahmen = rahmen] {
+            rahmen->Visible = false;
+            zum_block();
+        };
+    }
 }
 
 void Designer::tasten_verdrahten() {
@@ -228,10 +237,14 @@ void Designer::MouseDown(std::size_t nummer, const MouseEvent& maus) {
     blockzug_.MouseDown(nummer, maus);
     waehlen(nummer);
     if (maus.button == MouseButton::Right) {
-        const Designelement& e = seite_.element(nummer);
-        rechtsklick_.RECHTSKLICK(e.selektor, form_.Frame_A4.Left() + e.bild.Left(),
-                                 form_.Frame_A4.Top() + e.bild.Top());
+        rechtsklick(nummer);
     }
+}
+
+void Designer::rechtsklick(std::size_t nummer) {
+    const Designelement& e = seite_.element(nummer);
+    rechtsklick_.RECHTSKLICK(e.selektor, form_.Frame_A4.Left() + e.bild.Left(),
+                             form_.Frame_A4.Top() + e.bild.Top());
 }
 
 void Designer::Maus_Bewegt(std::size_t nummer) {

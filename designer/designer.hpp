@@ -22,6 +22,9 @@ public:
              Vorschauzeichnung& vorschauzeichnung, Vorschaufenster& vorschaufenster,
              const Programmverzeichnis& verzeichnis, Dialogs& dialogs, Pictures& bilder);
 
+    /// Closes the window as its frame does. Returns whether it is closed.
+    bool SCHLIESSEN() { return form_.Close(); }
+
 private:
     void bloecke_verdrahten();
     void knoepfe_verdrahten();
@@ -34,6 +37,7 @@ private:
 
     void MouseDown(std::size_t nummer, const MouseEvent& maus);
     void Maus_Bewegt(std::size_t nummer);
+    void rechtsklick(std::size_t nummer);
     void waehlen(std::size_t nummer);
     void schieben(double dx, double dy);
     void schritt(const Designseite::Stand& vorher);

@@ -8,6 +8,7 @@ namespace quittika {
 
 namespace {
 
+constexpr double kFern = 30'000; ///< mm: a place beyond could not be read from the design file again
 constexpr double kAuslauf = 0.6; ///< mm: on screen the last letters run over what was measured
 constexpr int kRand = twips(10); ///< of the table that the page lies on
 
@@ -91,8 +92,8 @@ void Designseite::setzen(const Stand& stand) {
 void Designseite::setzen(std::size_t nummer, const Blockmasse& masse) {
     const Designelement& e = element(nummer);
     Blockmasse& ziel = stand_.at(nummer);
-    ziel.x = e.nur_senkrecht() ? kListenrand : masse.x;
-    ziel.y = masse.y;
+    ziel.x = e.nur_senkrecht() ? kListenrand : std::clamp(masse.x, -kFern, kFern);
+    ziel.y = std::clamp(masse.y, -kFern, kFern);
     if (e.b != nullptr) { // else its picture decides
         ziel.b = masse.b;
         ziel.h = masse.h;
@@ -100,15 +101,18 @@ void Designseite::setzen(std::size_t nummer, const Blockmasse& masse) {
     platzieren(nummer);
 }
 
-void Designseite::ziehen(std::size_t nummer, int left, int top) {
+void Designseite::ziehen(std::size_t nummer, double left, double top) {
+    const auto twips_von = [this](double wert) {
+        return static_cast<int>(std::lround(std::clamp(wert, -kFern * FAKTOR(), kFern * FAKTOR())));
+    };
     Image& bild = element(nummer).bild;
     Blockmasse& masse = stand_.at(nummer);
     if (!element(nummer).nur_senkrecht()) {
-        bild.Left = left;
-        masse.x = left / FAKTOR();
+        bild.Left = twips_von(left);
+        masse.x = bild.Left() / FAKTOR();
     }
-    bild.Top = top;
-    masse.y = top / FAKTOR();
+    bild.Top = twips_von(top);
+    masse.y = bild.Top() / FAKTOR();
 }
 
 void Designseite::zeigen(std::size_t nummer, const DrawnPage& gezeichnet) {

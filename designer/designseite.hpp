@@ -65,7 +65,7 @@ public:
     void setzen(const Stand& stand);
     void setzen(std::size_t nummer, const Blockmasse& masse);
     /// Moves a block to a place on the page in twips.
-    void ziehen(std::size_t nummer, int left, int top);
+    void ziehen(std::size_t nummer, double left, double top);
 
     /// Shows the picture of a block, which is as big as it says.
     void zeigen(std::size_t nummer, const DrawnPage& gezeichnet);

@@ -53,7 +53,6 @@ Rechtsklick::Rechtsklick(FORM_DESIGNER& form, Designseite& seite, frm_einstellun
       groesse_(std::move(groesse)) {
     form.Command_FARBE_LINIEN.Click = [this] { Command_FARBE_LINIEN_Click(); };
     form.Command_TEXTEINSTELLUNGEN.Click = [this] { Command_TEXTEINSTELLUNGEN_Click(); };
-    form.CMD_SCHLIESSENFRABFRAME.Click = [&form] { form.Frame_FARBE.Visible = false; };
     form.CMD_SET_LOGO.Click = [this] { GROESSE_SETZEN(selektor::kLogo, seite_.stand()); };
     form.CMD_SET_Wasserz.Click = [this] { GROESSE_SETZEN(selektor::kWasserzeichen, seite_.stand()); };
     form.CMD_MAXGROESSE_Wasserz.Click = [this] { CMD_MAXGROESSE_Wasserz_Click(); };
@@ -80,11 +79,11 @@ void Rechtsklick::RECHTSKLICK(int code, int left, int top) {
 }
 
 void Rechtsklick::groessenrahmen(Frame& rahmen, Frame& anderer, int left, int top) {
-    hinlegen(rahmen, std::max(kMindestabstand, left), std::max(kMindestabstand, top), form_.Frame_Tisch,
-             form_);
     groessen_zeigen();
     anderer.Visible = false;
     rahmen.Visible = true;
+    hinlegen(rahmen, std::max(kMindestabstand, left), std::max(kMindestabstand, top), form_.Frame_Tisch,
+             form_);
     TextBox& breite = felder(form_, SELEKTOR_).breite;
     breite.SetFocus();
     breite.select_all();
@@ -93,6 +92,7 @@ void Rechtsklick::groessenrahmen(Frame& rahmen, Frame& anderer, int left, int to
 void Rechtsklick::farbrahmen(int code, int left, int top) {
     Frame& rahmen = form_.Frame_FARBE;
     rahmen.Visible = true;
+    form_.Command_TEXTEINSTELLUNGEN.SetFocus();
     const bool stand_schon = std::exchange(stand_schon_, true);
     if (code == selektor::kTitel || code == selektor::kSeitenzahl) {
         form_.Frame_FARBWAHL.Visible = false;

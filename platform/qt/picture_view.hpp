@@ -14,7 +14,7 @@ class Backdrop;
 /// sets `scaledContents` stretches it over the whole widget. A drawn page keeps its proportions, a
 /// part of one is as large as the width of the widget makes it. On dark
 /// ground an image that is drawn on white paper is shown without the paper, unless it is stretched: then it
-/// stands for a part of a page. A picture box, and a label whose design sets `paper`, shows all as it will be
+/// stands for a part of a page. A picture box, and what its design marks `onPaper`, shows all as it will be
 /// printed. A file is read when the picture comes to be seen.
 class PictureView final : public TypedView<PictureControl, QWidget> {
 public:
@@ -31,7 +31,9 @@ private:
     QPixmap scene(const QSize& room);
     QImage picture() const;
     /// Whether it is shown as it will be printed.
-    bool on_paper() const { return control_.kind() == "PictureBox" || widget_.property("paper").toBool(); }
+    bool on_paper() const {
+        return control_.kind() == "PictureBox" || widget_.property("onPaper").toBool(); // of the design
+    }
     /// Returns whether there was anything to paint.
     bool paint();
 

@@ -1,9 +1,12 @@
+#include "designer/designseite.hpp"
 #include "print/eigenes_layout.hpp"
 #include "tests/print/druckprobe.hpp"
 
 #include <cmath>
 #include <cstdint>
 #include <cstdlib>
+#include <cstring>
+#include <variant>
 
 namespace quittika {
 namespace {
@@ -22,6 +25,27 @@ std::string veraendert(std::string_view bytes) {
 void verlangen(bool erfuellt) {
     if (!erfuellt) {
         std::abort();
+    }
+}
+
+/// What the designer writes of blocks dragged to any places, fractions included, is read back as the nearest
+/// whole millimetres.
+void gezogen_pruefen(std::string_view bytes, FORM_DESIGNER& form) {
+    Designseite seite(form);
+    seite.anordnen();
+    for (std::size_t i = 0; i + 8 <= bytes.size() && i / 8 < kDesignelemente; i += 8) {
+        std::int32_t ort[2];
+        std::memcpy(ort, bytes.data() + i, sizeof ort);
+        seite.ziehen(i / 8, ort[0], ort[1]);
+    }
+    Design geschrieben = DESIGN_STANDARD(Programmverzeichnis("/ordner"));
+    seite.UEBERNEHMEN(geschrieben);
+    const Designlesung gelesen = DESIGN_LESEN(DESIGN_SCHREIBEN(geschrieben).bytes);
+    verlangen(gelesen.fehlen == 0);
+    for (const Designzeile& zeile : DESIGNZEILEN()) {
+        if (const auto* feld = std::get_if<double Design::*>(&zeile.feld)) {
+            verlangen(std::abs(gelesen.design.*(*feld) - geschrieben.*(*feld)) <= 0.5);
+        }
     }
 }
 
@@ -47,7 +71,8 @@ void pruefen(std::string_view bytes, Druckprobe& p) {
 } // namespace
 } // namespace quittika
 
-/// Whatever bytes the design file holds, alone or as one value of a file in order.
+/// Whatever bytes the design file holds, alone or as one value of a file in order, and
+/// wherever they drag the blocks.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t anzahl) {
     using namespace quittika;
     static Druckprobe p;
@@ -57,5 +82,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t anz
     const std::string_view text(reinterpret_cast<const char*>(bytes), anzahl);
     pruefen(text, p);
     pruefen(veraendert(text), p);
+    static FORM_DESIGNER form;
+    gezogen_pruefen(text, form);
     return 0;
 }
