@@ -51,10 +51,10 @@ QPointF exact_place(const QMouseEvent& event, const QWidget& widget) {
 /// `rounding`: twips from the control's exact place to that of its widget.
 MouseEvent to_desktop(const QMouseEvent& event, const QWidget& widget, QPoint rounding) {
     Qt::MouseButton button = event.button();
-    if (event.type() == QEvent::MouseMove) {
-        button = event.buttons().testFlag(Qt::LeftButton)    ? Qt::LeftButton
-                 : event.buttons().testFlag(Qt::RightButton) ? Qt::RightButton
-                                                             : Qt::NoButton;
+    if (event.type() == QEvent::MouseMove) { // several held together are none of them
+        button = event.buttons() == Qt::LeftButton    ? Qt::LeftButton
+                 : event.buttons() == Qt::RightButton ? Qt::RightButton
+                                                      : Qt::NoButton;
     }
     const QPointF place = exact_place(event, widget);
     return {button_of(button), twips(place.x()) + rounding.x(), twips(place.y()) + rounding.y()};
