@@ -13,6 +13,14 @@ namespace {
 
 constexpr double kXGesamt = 185; ///< mm
 
+constexpr const char* kEntwurf =
+    "Entwurf aus dem Designer. Gedruckt wird, was gespeichert ist, mit dem Layout "
+    "aus den Rechnungsdaten.";
+
+std::string mit_entwurf(const std::string& hinweis) {
+    return hinweis.empty() ? kEntwurf : kEntwurf + std::string("\r\n") + hinweis;
+}
+
 } // namespace
 
 Vorschauzeichnung::Vorschauzeichnung(const Form1& form1, const frm_einstellungen& einstellungen,
@@ -49,12 +57,14 @@ Vorschauseite Vorschauzeichnung::VORSCHAU_RECHNUNG(PictureControl& bild, int wun
     const Druckvorlage jetzt = vorlage(design_lesen);
     const PrintDocument dokument{AUFTRAGSTITEL(form1_), {}, std::clamp(wunsch, 1, jetzt.seiten())};
     const std::unique_ptr<PrintDevice> geraet = printing_.picture(bild, dokument);
-    return {dokument.first_page, jetzt.seiten(), zeichnen(*geraet, dokument, jetzt)};
+    const std::string hinweis = zeichnen(*geraet, dokument, jetzt);
+    const bool entwurf = entwurf_.has_value();
+    return {dokument.first_page, jetzt.seiten(), entwurf ? mit_entwurf(hinweis) : hinweis, entwurf};
 }
 
 bool Vorschauzeichnung::VERALTET(const PictureControl& bild, const Vorschauseite& seite) const {
     const Druckvorlage jetzt = vorlage(false);
-    if (jetzt.seiten() != seite.seiten || bild.page() == nullptr) {
+    if (jetzt.seiten() != seite.seiten || seite.entwurf != entwurf_.has_value() || bild.page() == nullptr) {
         return true;
     }
     const auto probe = std::make_shared<RecordedJob>(PrintDocument{{}, {}, seite.nummer});

@@ -17,7 +17,8 @@ namespace quittika {
 struct Vorschauseite {
     int nummer = 1;
     int seiten = 1;
-    std::string hinweis; ///< what is wrong on it, as a sentence; empty where all is right
+    std::string hinweis;  ///< what is wrong on it, as a sentence; empty where all is right
+    bool entwurf = false; ///< in a design that need not be what prints
 };
 
 /// Draws single pages of the document in hand on a picture. On screen a delivery note shows no prices in any
