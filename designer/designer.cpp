@@ -28,7 +28,9 @@ constexpr const char* kHilfetexte[] = {
     "Drücken Sie auf einem Block die rechte Maustaste: bei Texten und der Tabelle stellen Sie Farbe und "
     "Textdaten ein, bei Logo und Wasserzeichen die Größe in Millimetern. Sie sehen jeden Block so, wie er "
     "gedruckt wird. Graue Worte stehen für einen Block, für den die Rechnung keinen Text hat.\r\n"
-    "Ein Block mit rotem Rahmen stößt an einen anderen Block oder über den Rand: beim Drucken weicht er aus.",
+    "Ein Block mit rotem Rahmen stößt an einen anderen Block oder über den Rand: beim Drucken weicht er aus."
+    "\r\nFarben und Textdaten gehören zu den Rechnungsdaten: dauerhaft werden sie dort mit >>Alle Änderungen "
+    "übernehmen<<.",
     "Drucken und speichern\r\n\r\n"
     "Die Vorschau zeigt die Seite, wie sie jetzt auf dem Schirm steht. Beim Speichern werden die Plätze in "
     "der Datei design.dsg festgehalten; beim nächsten Laden zählen ganze Millimeter. Gedruckt wird das "
@@ -136,7 +138,10 @@ void Designer::knoepfe_verdrahten() {
         form_.Text_TIP[i].Text = kHilfetexte[i];
         form_.Text_TIP[i].Locked = true;
     }
-    form_.CMD_OPEN_HELP.Click = [this] { form_.FRAME_TIP.Visible = true; };
+    form_.CMD_OPEN_HELP.Click = [this] {
+        form_.FRAME_TIP.Visible = true;
+        form_.CMD_CLOSE_HELP.SetFocus();
+    };
     for (auto [knopf, rahmen] : {std::pair{&form_.CMD_CLOSE_HELP, &form_.FRAME_TIP},
                                  std::pair{&form_.CMD_SCHLIESSENFRABFRAME, &form_.Frame_FARBE}}) {
         knopf->Click = [this, rahmen = rahmen] {
@@ -196,6 +201,7 @@ void Designer::Design_zeigen() {
     }
     Bilder_zeigen();
     Stand_zeigen();
+    rechtsklick_.groessen_zeigen();
 }
 
 void Designer::Form_Resize() {
@@ -211,12 +217,15 @@ void Designer::Form_Resize() {
 }
 
 void Designer::Form_QueryUnload(bool& abbrechen) {
+    if (gespeichert_) { // in the midst of a drag, too
+        return;
+    }
     if (blockzug_.abbrechen()) { // the Esc key meant the drag
         Stand_zeigen();
         abbrechen = true;
         return;
     }
-    if (gespeichert_ || auf_dem_schirm() == anfang_) {
+    if (auf_dem_schirm() == anfang_) {
         return;
     }
     const Answer antwort = dialogs_.message({"Möchten Sie vorgenommene Änderungen speichern?", "DESIGNER",
@@ -266,7 +275,8 @@ void Designer::waehlen(std::size_t nummer) {
 }
 
 void Designer::schieben(double dx, double dy) {
-    if (ausgewaehlt_ == kDesignelemente || blockzug_.laeuft()) {
+    if (ausgewaehlt_ == kDesignelemente || blockzug_.laeuft() ||
+        !seite_.element(ausgewaehlt_).bild.Visible()) {
         return;
     }
     const Designseite::Stand vorher = seite_.stand();
@@ -290,6 +300,7 @@ void Designer::verlauf_gehen(bool zurueck) {
         seite_.setzen(zurueck ? verlauf_.zurueck(seite_.stand()) : verlauf_.vor(seite_.stand()));
         Bilder_zeigen();
         Stand_zeigen();
+        rechtsklick_.groessen_zeigen();
     }
 }
 
@@ -301,7 +312,6 @@ void Designer::Stand_zeigen() {
     if (ausgewaehlt_ != kDesignelemente) {
         waehlen(ausgewaehlt_);
     }
-    rechtsklick_.groessen_zeigen();
     Lagen_zeigen();
 }
 

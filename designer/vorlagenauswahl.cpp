@@ -29,7 +29,10 @@ Vorlagenauswahl::Vorlagenauswahl(FORM_DESIGNER& form, frm_einstellungen& einstel
     form.CMD_VORLAGENAUSWAHL.Click = [this] { oeffnen(); };
     form.CMD_A4DATENSATZ_plus.Click = [this] { blaettern(1); };
     form.CMD_A4DATENSATZ_minus.Click = [this] { blaettern(-1); };
-    form.CMD_Schliessen_Auswahl.Click = [&form] { form.FrameVorlageBackgrounddesign.Visible = false; };
+    form.CMD_Schliessen_Auswahl.Click = [&form] {
+        form.FrameVorlageBackgrounddesign.Visible = false;
+        form.CMD_VORLAGENAUSWAHL.SetFocus();
+    };
     form.Timer_zap.Tick = [this] { Timer_zap_Timer(); };
     form.Timer_Vorlage.Tick = [this] { naechste_laden(); };
     for (Image& vorlage : form.Image_VorlageHintergrund) {
@@ -59,6 +62,7 @@ void Vorlagenauswahl::oeffnen() {
     form_.FRAME_TIP.Visible = false;
     form_.FrameVorlageBackgrounddesign.Caption = "Hintergrundvorlagen";
     form_.FrameVorlageBackgrounddesign.Visible = true;
+    form_.Image_VorlageHintergrund[1].SetFocus();
     Timer_zap_Timer();
 }
 
