@@ -32,8 +32,12 @@ struct Bilderwahl::Bildplatz {
 Bilderwahl::Bilderwahl(frm_einstellungen& einstellungen, const Programmverzeichnis& verzeichnis,
                        Dialogs& dialogs, Pictures& bilder)
     : einstellungen_(einstellungen), verzeichnis_(verzeichnis), dialogs_(dialogs), bilder_(bilder) {
-    einstellungen.Command_durchsuchen.Click = [this] { Command_durchsuchen_Click(); };
-    einstellungen.Command_Wasserz_Bild_suchen.Click = [this] { Wasserz_Bild_suchen(true); };
+    einstellungen.Command_durchsuchen.Click = [this] {
+        logo_gewaehlt_ = Command_durchsuchen_Click() || logo_gewaehlt_;
+    };
+    einstellungen.Command_Wasserz_Bild_suchen.Click = [this] {
+        wasserzeichen_gewaehlt_ = Wasserz_Bild_suchen(true) || wasserzeichen_gewaehlt_;
+    };
     einstellungen.Text_logopath.LostFocus = [this] { getippten_pfad_nehmen(logo()); };
     einstellungen.Text_bildpath.LostFocus = [this] { getippten_pfad_nehmen(wasserzeichen()); };
 }
@@ -74,26 +78,27 @@ void Bilderwahl::getippten_pfad_nehmen(const Bildplatz& platz) {
     }
 }
 
-void Bilderwahl::Command_durchsuchen_Click() {
+bool Bilderwahl::Command_durchsuchen_Click() {
     try {
         zeigen(logo(), dateiwahl("Logo suchen..."));
-        logo_gewaehlt_ = true;
+        return true;
     } catch (const Laufzeitfehler& fehler) {
         if (fehler.nummer() != fehler::kDialogAbgebrochen) {
             dialogs_.message({"Das Bild kann nicht als Logo verwendet werden.\r\n" + grund(fehler),
                               FEHLERTITEL(fehler.nummer()), Buttons::Ok, Symbol::Exclamation});
         }
+        return false;
     }
 }
 
-void Bilderwahl::Wasserz_Bild_suchen(bool anfragen) {
+bool Bilderwahl::Wasserz_Bild_suchen(bool anfragen) {
     const Bildplatz platz = wasserzeichen();
     try {
         zeigen(platz, anfragen ? dateiwahl("Bild suchen...") : platz.pfad.Text());
-        platz.gewaehlt = platz.gewaehlt || anfragen;
+        return true;
     } catch (const Laufzeitfehler& fehler) {
         if (fehler.nummer() == fehler::kDialogAbgebrochen) {
-            return;
+            return false;
         }
         try {
             zeigen(platz, systempfad(verzeichnis_.pfad("\\wasserzqk2008.bmp")));
@@ -104,6 +109,7 @@ void Bilderwahl::Wasserz_Bild_suchen(bool anfragen) {
                           "anderes Design.",
                           "Fehler bei A4-Designauswahl...Fehlernr.: " + std::to_string(fehler.nummer()),
                           Buttons::Ok, Symbol::Exclamation});
+        return false;
     }
 }
 

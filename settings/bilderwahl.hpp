@@ -17,14 +17,15 @@ public:
                Pictures& bilder);
 
     /// Lets the user choose the logo. One that cannot be shown is refused with the reason, and nothing
-    /// changes.
-    void Command_durchsuchen_Click();
+    /// changes. Returns whether there is a new one.
+    bool Command_durchsuchen_Click();
     /// Takes the watermark from a file that the user chooses if `anfragen`, else from the path in the dialog.
-    /// In place of one that cannot be shown comes the standard file, with a message.
-    void Wasserz_Bild_suchen(bool anfragen);
+    /// In place of one that cannot be shown comes the standard file, with a message. Returns whether the
+    /// chosen one is shown.
+    bool Wasserz_Bild_suchen(bool anfragen);
 
-    /// After a take-over: asks whether pictures chosen since the last one shall stay beyond the run, and then
-    /// writes their paths into the design file.
+    /// After a take-over: asks whether pictures chosen in the dialog since the last one shall stay beyond the
+    /// run, and then writes their paths into the design file.
     void DAUERHAFT_ANBIETEN();
     /// The choice of pictures was taken back.
     void verwerfen();

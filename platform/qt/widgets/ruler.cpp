@@ -76,9 +76,14 @@ void Ruler::paintEvent(QPaintEvent* /*event*/) {
         const double begins = across - length_of(mm);
         painter.drawLine(vertical_ ? QLineF(begins, at, across, at) : QLineF(at, begins, at, across));
         if (mm % numbered == 0) {
-            const QRectF room(at + 1, 0, kFontPixels + 2, across);
-            painter.drawText(vertical_ ? upright(room) : QRectF(at + 2, 0, 3 * kFontPixels, kFontPixels + 2),
-                             Qt::AlignLeft | Qt::AlignTop, QString::number(mm));
+            const QString number = QString::number(mm);
+            const double room =
+                vertical_ ? kFontPixels + 2 : painter.fontMetrics().horizontalAdvance(number) + 2;
+            if (at + room <= (vertical_ ? height() : width())) { // half a number is another one
+                painter.drawText(vertical_ ? upright({at + 1, 0, room, across})
+                                           : QRectF(at + 2, 0, room, kFontPixels + 2),
+                                 Qt::AlignLeft | Qt::AlignTop, number);
+            }
         }
     }
 }
