@@ -96,8 +96,8 @@ Designer::Designer(FORM_DESIGNER& form, Designdatei& designdatei, frm_einstellun
     form.Frame_Tisch.Resize = [this] { Form_Resize(); };
     form.Timer_Lagen.Tick = [this] { Lagen_zeigen(); };
     form.Timer_Stand.Tick = [this] {
-        if (!blockzug_.laeuft()) {
-            Bilder_zeigen();
+        if (!blockzug_.laeuft() && Bilder_zeigen()) {
+            Stand_zeigen();
         }
     };
     bloecke_verdrahten();
@@ -274,9 +274,13 @@ void Designer::waehlen(std::size_t nummer) {
     Blocktext_zeigen();
 }
 
+/// Whether there is a selected block that the user sees.
+bool Designer::ist_gewaehlt() const {
+    return ausgewaehlt_ != kDesignelemente && seite_.element(ausgewaehlt_).bild.Visible();
+}
+
 void Designer::schieben(double dx, double dy) {
-    if (ausgewaehlt_ == kDesignelemente || blockzug_.laeuft() ||
-        !seite_.element(ausgewaehlt_).bild.Visible()) {
+    if (!ist_gewaehlt() || blockzug_.laeuft()) {
         return;
     }
     const Designseite::Stand vorher = seite_.stand();
@@ -323,7 +327,7 @@ void Designer::Lagen_zeigen() {
 }
 
 void Designer::Blocktext_zeigen() {
-    if (ausgewaehlt_ == kDesignelemente) {
+    if (!ist_gewaehlt()) {
         form_.Label_Block.Caption =
             "Ziehen Sie einen Block mit der Maus, oder wählen Sie ihn mit der Tabulatortaste.";
         return;
@@ -338,12 +342,13 @@ void Designer::Blocktext_zeigen() {
     form_.Label_Block.Caption = text;
 }
 
-/// Draws what has changed since it was drawn last.
-void Designer::Bilder_zeigen() {
+/// Draws what has changed since it was drawn last. Returns whether a block was among it.
+bool Designer::Bilder_zeigen() {
     const Design design = auf_dem_schirm();
+    bool anders = false;
     for (std::size_t i = 0; i < kDesignelemente; ++i) {
         if (const std::optional<Designblock> block = seite_.element(i).block) {
-            seite_.zeigen(i, *blockbilder_.ZEICHNEN(*block, design).seite);
+            anders = seite_.zeigen(i, *blockbilder_.ZEICHNEN(*block, design).seite) || anders;
         }
     }
     const std::shared_ptr<const DrawnPage> grund = blockbilder_.BLATTGRUND(design);
@@ -351,6 +356,7 @@ void Designer::Bilder_zeigen() {
         form_.Image_Blatt.show_page(grund);
     }
     logo_und_wasserzeichen_zeigen();
+    return anders;
 }
 
 void Designer::logo_und_wasserzeichen_zeigen() {
@@ -362,6 +368,12 @@ void Designer::Sichtbarkeit_zeigen() {
     form_.Image_LOGO.Visible = form_.Check_mitLogo.ticked();
     form_.Image_WASSERZ.Visible = form_.Check_mitWZ.ticked();
     form_.CMD_VORLAGENAUSWAHL.Visible = form_.Check_mitWZ.ticked();
+    for (const auto& [bild, rahmen] :
+         {std::pair{&form_.Image_LOGO, &form_.Frame_Logo},
+          std::pair{&form_.Image_WASSERZ, &form_.Frame_Wasserz},
+          std::pair{&form_.Image_WASSERZ, &form_.FrameVorlageBackgrounddesign}}) {
+        rahmen->Visible = rahmen->Visible() && bild->Visible();
+    }
     Stand_zeigen();
 }
 

@@ -39,13 +39,14 @@ private:
     void Maus_Bewegt(std::size_t nummer);
     void rechtsklick(std::size_t nummer);
     void waehlen(std::size_t nummer);
+    bool ist_gewaehlt() const;
     void schieben(double dx, double dy);
     void schritt(const Designseite::Stand& vorher);
     void verlauf_gehen(bool zurueck);
     void Stand_zeigen();
     void Lagen_zeigen();
     void Blocktext_zeigen();
-    void Bilder_zeigen();
+    bool Bilder_zeigen();
     void logo_und_wasserzeichen_zeigen();
     void Sichtbarkeit_zeigen();
     void Option_Click(int nummer);

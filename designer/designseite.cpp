@@ -115,7 +115,7 @@ void Designseite::ziehen(std::size_t nummer, double left, double top) {
     masse.y = bild.Top() / FAKTOR();
 }
 
-void Designseite::zeigen(std::size_t nummer, const DrawnPage& gezeichnet) {
+bool Designseite::zeigen(std::size_t nummer, const DrawnPage& gezeichnet) {
     Image& bild = element(nummer).bild;
     DrawnPage seite = gezeichnet;
     if (!element(nummer).nur_senkrecht()) {
@@ -128,9 +128,11 @@ void Designseite::zeigen(std::size_t nummer, const DrawnPage& gezeichnet) {
         masse.h = seite.paper.height;
         platzieren(nummer);
     }
-    if (bild.page() == nullptr || !(*bild.page() == seite)) {
+    const bool anders = bild.page() == nullptr || !(*bild.page() == seite);
+    if (anders) {
         bild.show_page(std::make_shared<DrawnPage>(std::move(seite)));
     }
+    return anders;
 }
 
 void Designseite::PLATZIEREN(const Design& design) {

@@ -67,8 +67,8 @@ public:
     /// Moves a block to a place on the page in twips.
     void ziehen(std::size_t nummer, double left, double top);
 
-    /// Shows the picture of a block, which is as big as it says.
-    void zeigen(std::size_t nummer, const DrawnPage& gezeichnet);
+    /// Shows the picture of a block, which is as big as it says. Returns whether it is another one.
+    bool zeigen(std::size_t nummer, const DrawnPage& gezeichnet);
 
     /// Places all blocks where the design wants them.
     void PLATZIEREN(const Design& design);
