@@ -51,6 +51,15 @@ struct Programm::Teile {
         MENUE_EXTRAS(form1, ereignisse, eingabezeile, barcodefenster);
     }
 
+    /// The window first, then what the program asks, then the invoice that it was started with: whatever that
+    /// says stands in front of a window that is there.
+    void HauptfensterZeigen() {
+        form1.Show();
+        if (!startrechnung.empty()) {
+            dateibefehle.Oeffnen(startrechnung);
+        }
+    }
+
     Platform platform;
     Programmverzeichnis verzeichnis;
     PROGRAMMEINSTELLUNG werte;
@@ -185,7 +194,9 @@ struct Programm::Teile {
     Ausgabe ausgabe{form1, ereignisse, summen, vorschauzeichnung, vorschaufenster, bildausgabe, pdfausgabe};
     MenueHilfe menue_hilfe{form1,          ereignisse,       verzeichnis,     werte,
                            platform.shell, platform.dialogs, platform.desktop};
-    Startfenster startfenster{form_start, werte, verzeichnis, platform.clock, [this] { form1.Show(); }};
+    Startfenster startfenster{form_start, werte, verzeichnis, platform.clock,
+                              [this] { HauptfensterZeigen(); }};
+    std::string startrechnung; ///< what the program was started with
 };
 
 Programm::Programm(Platform platform, std::string verzeichnis)
@@ -193,7 +204,8 @@ Programm::Programm(Platform platform, std::string verzeichnis)
 
 Programm::~Programm() = default;
 
-void Programm::starten() {
+void Programm::starten(const std::string& rechnung) {
+    teile_->startrechnung = rechnung;
     teile_->form_start.Show();
 }
 
