@@ -14,7 +14,7 @@ complain() {
 }
 
 for tool in dpkg-deb dpkg-shlibdeps:dpkg-dev file desktop-file-validate:desktop-file-utils \
-    appstreamcli:appstream lintian man:man-db; do
+    appstreamcli:appstream lintian man:man-db update-mime-database:shared-mime-info; do
     command -v "${tool%:*}" >/dev/null || complain "${tool%:*} is missing: apt-get install ${tool#*:}"
 done
 [ "$failed" -eq 0 ] || exit 1
@@ -41,7 +41,7 @@ cpack --config "$build/CPackConfig.cmake" -B "$work/paket" >"$work/cpack.log" 2>
     exit 1
 }
 package=$(echo "$work"/paket/*.deb)
-quiet "lintian finds faults" lintian --no-tag-display-limit --fail-on error,warning "$package"
+quiet "lintian finds faults" lintian --allow-root --tag-display-limit 0 --fail-on error,warning "$package"
 
 root=$work/root
 dpkg-deb -x "$package" "$root"
@@ -52,11 +52,18 @@ for page in "$root"/usr/share/man/man1/*.gz "$root"/usr/share/man/de/man1/*.gz; 
     quiet "the manual page $page is wrong" env LC_ALL=C.UTF-8 MANWIDTH=80 bash -c \
         'man --warnings -E UTF-8 -l -Tutf8 -Z "$1" >/dev/null' - "$page"
 done
-for name in Exec:quittika Icon:quittika; do
-    grep -q "^${name/:/=}" "$root"/usr/share/applications/quittika.desktop || complain "no $name in the menu"
+for line in 'Exec=quittika %f' Icon=quittika 'MimeType=application/x-quittika-rechnung;'; do
+    grep -qxF "$line" "$root"/usr/share/applications/quittika.desktop || complain "the entry in the menu lacks $line"
 done
-cp "$root/usr/share/mime/packages/quittika.xml" "$work/" && mkdir -p "$work/mime/packages" &&
-    mv "$work/quittika.xml" "$work/mime/packages/" && quiet "the kind of file is wrong" update-mime-database "$work/mime"
+for icon in apps/quittika mimetypes/application-x-quittika-rechnung; do
+    for size in 16 22 24 32 48 64 128 256; do
+        file -L "$root/usr/share/icons/hicolor/${size}x$size/$icon.png" | grep -q "PNG image data, $size x $size," ||
+            complain "no icon $icon of $size pixels"
+    done
+    [ -s "$root/usr/share/icons/hicolor/scalable/$icon.svg" ] || complain "no drawing of the icon $icon"
+done
+mkdir -p "$work/mime" && cp -r "$root/usr/share/mime/packages" "$work/mime/"
+quiet "the kind of file is wrong" env XDG_DATA_DIRS="$work" update-mime-database "$work/mime"
 grep -q ':application/x-quittika-rechnung:\*\.qk8' "$work/mime/globs2" || complain "no *.qk8 among the kinds of files"
 
 program=$root/usr/bin/quittika
