@@ -51,10 +51,13 @@ struct Programm::Teile {
         MENUE_EXTRAS(form1, ereignisse, eingabezeile, barcodefenster);
     }
 
-    /// The window first, then what the program asks, then the invoice that it was started with: whatever that
-    /// says stands in front of a window that is there.
+    /// The window first, so that what the program asks and says stands in front of one that is there.
     void HauptfensterZeigen() {
         form1.Show();
+        platform.desktop.later([this] { WennDasFensterDaIst(); });
+    }
+    /// The program's own questions come before the invoice that it was started with.
+    void WennDasFensterDaIst() {
         if (!startrechnung.empty()) {
             dateibefehle.Oeffnen(startrechnung);
         }

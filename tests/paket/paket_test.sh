@@ -4,7 +4,7 @@
 # Usage: paket_test.sh BUILD-FOLDER
 set -u
 build=$(realpath "$1")
-work=$(mktemp -d)
+work=$(realpath "$(mktemp -d)")
 pid=
 trap '[ -z "$pid" ] || kill "$pid" 2>/dev/null; chmod -R u+w "$work"; rm -rf "$work"' EXIT
 failed=0
