@@ -1,3 +1,4 @@
+#include "app/befehlszeile.hpp"
 #include "app/programm.hpp"
 #include "app/programmordner.hpp"
 #include "invoice/programmname.hpp"
@@ -7,11 +8,15 @@
 
 #include <QStandardPaths>
 
+#include <algorithm>
 #include <filesystem>
+#include <iostream>
 
-int main(int argc, char** argv) {
-    using namespace quittika;
-    dateigroesse_als_fehler();
+namespace {
+
+using namespace quittika;
+
+int starten(int argc, char** argv, const std::string& rechnung) {
     const QtApplication anwendung(argc, argv);
     QtPlatform plattform;
     const std::filesystem::path daten =
@@ -25,5 +30,17 @@ int main(int argc, char** argv) {
     }
     plattform.desktop().remember_places((ordner / "fenster.cfg").string());
     Programm programm(plattform.platform(), ordner.string());
-    return plattform.desktop().run([&programm] { programm.starten(); });
+    return plattform.desktop().run([&] { programm.starten(rechnung); });
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    dateigroesse_als_fehler();
+    const Befehlszeile zeile = BEFEHLSZEILE({argv + std::min(argc, 1), argv + argc});
+    if (!zeile.antwort.empty()) {
+        (zeile.fehler ? std::cerr : std::cout) << zeile.antwort;
+        return zeile.fehler ? kBefehlszeilenfehler : 0;
+    }
+    return starten(argc, argv, zeile.rechnung.string());
 }

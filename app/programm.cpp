@@ -51,6 +51,18 @@ struct Programm::Teile {
         MENUE_EXTRAS(form1, ereignisse, eingabezeile, barcodefenster);
     }
 
+    /// The window first, so that what the program asks and says stands in front of one that is there.
+    void HauptfensterZeigen() {
+        form1.Show();
+        platform.desktop.later([this] { WennDasFensterDaIst(); });
+    }
+    /// The program's own questions come before the invoice that it was started with.
+    void WennDasFensterDaIst() {
+        if (!startrechnung.empty()) {
+            dateibefehle.Oeffnen(startrechnung);
+        }
+    }
+
     Platform platform;
     Programmverzeichnis verzeichnis;
     PROGRAMMEINSTELLUNG werte;
@@ -185,7 +197,9 @@ struct Programm::Teile {
     Ausgabe ausgabe{form1, ereignisse, summen, vorschauzeichnung, vorschaufenster, bildausgabe, pdfausgabe};
     MenueHilfe menue_hilfe{form1,          ereignisse,       verzeichnis,     werte,
                            platform.shell, platform.dialogs, platform.desktop};
-    Startfenster startfenster{form_start, werte, verzeichnis, platform.clock, [this] { form1.Show(); }};
+    Startfenster startfenster{form_start, werte, verzeichnis, platform.clock,
+                              [this] { HauptfensterZeigen(); }};
+    std::string startrechnung; ///< what the program was started with
 };
 
 Programm::Programm(Platform platform, std::string verzeichnis)
@@ -193,7 +207,8 @@ Programm::Programm(Platform platform, std::string verzeichnis)
 
 Programm::~Programm() = default;
 
-void Programm::starten() {
+void Programm::starten(const std::string& rechnung) {
+    teile_->startrechnung = rechnung;
     teile_->form_start.Show();
 }
 

@@ -16,8 +16,9 @@ public:
     Programm& operator=(const Programm&) = delete;
     ~Programm();
 
-    /// Shows the splash window; its timer leads to the main window.
-    void starten();
+    /// Shows the splash window; its timer leads to the main window, which then opens `rechnung`, a system
+    /// path in UTF-8, unless that is empty.
+    void starten(const std::string& rechnung = {});
     /// Shows the main window at once.
     void hauptfenster_zeigen();
     Form& hauptfenster();

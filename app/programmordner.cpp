@@ -36,9 +36,11 @@ void nachlegen(const std::vector<fs::path>& namen, const fs::path& von, const fs
 
 Programmordner PROGRAMMORDNER(const fs::path& programmdatei, const fs::path& datenordner) {
     const fs::path ordner = programmdatei.parent_path();
-    if (ordner_beschreibbar(ordner.string())) {
+    const fs::path installiert = INSTALLIERTE_DATEIEN(ordner);
+    if (installiert.empty() && ordner_beschreibbar(ordner.string())) {
         return {ordner, {}};
     }
+    const fs::path quelle = installiert.empty() ? ordner : installiert;
     std::error_code fehler;
     const bool neu = fs::create_directories(datenordner, fehler);
     if (fehler) {
@@ -47,11 +49,11 @@ Programmordner PROGRAMMORDNER(const fs::path& programmdatei, const fs::path& dat
                                  "nicht gespeichert werden, bis er da ist."};
     }
     std::string fehlend;
-    nachlegen(MITGELIEFERTE_BILDER(), ordner, datenordner, fehlend);
+    nachlegen(MITGELIEFERTE_BILDER(), quelle, datenordner, fehlend);
     if (!neu) {
         return {datenordner, {}}; // without a picture the program still runs
     }
-    nachlegen(MITGELIEFERTE_BEISPIELE(), ordner, datenordner, fehlend);
+    nachlegen(MITGELIEFERTE_BEISPIELE(), quelle, datenordner, fehlend);
     return {datenordner, fehlend.empty() ? std::string()
                                          : "Diese mitgelieferten Dateien ließen sich nicht nach >>" +
                                                datenordner.string() + "<< kopieren: " + fehlend.substr(2) +

@@ -37,6 +37,7 @@ QtApplication::QtApplication(int& argc, char** argv) : application_(argc, argv) 
     QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
     QApplication::setApplicationName(QStringLiteral("Quittika 2008"));
     QApplication::setApplicationDisplayName(QString());
+    QApplication::setDesktopFileName(QStringLiteral("quittika")); // under which the desktop knows the icon
     if (load_german(translator_)) {
         QApplication::installTranslator(&translator_);
     } else {

@@ -54,6 +54,18 @@ TEST(Programmordner, SonstEinEigenerDerBeimAnlegenGefuelltWird) {
     EXPECT_TRUE(fs::exists(systempfad(daten.pfad("\\DESIGN_A4\\A4-1+1.jpg"))));
 }
 
+TEST(Programmordner, InstalliertLiegtEsBeimBenutzerAuchWennManDortSchreibenDarf) {
+    const Probenordner o;
+    for (const fs::path& name : MITGELIEFERTE_BILDER()) {
+        fs::create_directories(fs::path(o.pfad("share/quittika" / name)).parent_path());
+        o.schreiben("share/quittika" / name, "geliefert");
+    }
+    fs::create_directory(o.pfad("bin"));
+    EXPECT_EQ(PROGRAMMORDNER(o.pfad("bin/quittika"), o.pfad("daten")).ordner, fs::path(o.pfad("daten")));
+    EXPECT_EQ(o.lesen("daten/DESIGN_A4/A4-1+1.jpg"), "geliefert");
+    EXPECT_TRUE(fs::is_empty(o.pfad("bin")));
+}
+
 TEST(Programmordner, WasNichtGehtWirdGesagt) {
     const Probenordner o;
     o.schreiben("datei", "");
