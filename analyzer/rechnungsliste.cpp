@@ -1,6 +1,7 @@
 #include "analyzer/rechnungsliste.hpp"
 
 #include "analyzer/rechnungsauszug.hpp"
+#include "analyzer/rechnungszeilen.hpp"
 #include "platform/laufzeitfehler.hpp"
 
 #include <utility>
@@ -40,7 +41,7 @@ void Rechnungsliste::Dateien_einlesen(const std::string& ordner, const std::vect
 }
 
 void Rechnungsliste::Rechnungen_einlesen(const std::string& ort, const std::string& name) {
-    Rechnungsauszug auszug = AUSZUG_LESEN(leser_.lesen(ort, REICHT_FUER_AUSZUG));
+    Rechnungsauszug auszug = AUSZUG_LESEN(leser_.lesen(ort, Rechnungszeilen::REICHT));
     zeilen.push_back(TABELLENZEILE(auszug.werte));
     dateien.push_back(name);
     for (std::size_t i = 0; i < rohdaten.size(); ++i) {

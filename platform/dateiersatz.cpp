@@ -79,7 +79,7 @@ struct NeueDatei {
 template <class Name> NeueDatei neue_datei(const std::string& ordner, mode_t rechte, Name name) {
     for (int versuch = 1;; ++versuch) {
         std::string pfad = ordner + name(std::to_string(versuch));
-        const int nummer = open(pfad.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, rechte);
+        const int nummer = open(pfad.c_str(), O_RDWR | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, rechte);
         if (nummer >= 0) {
             return {std::move(pfad), nummer};
         }
@@ -109,14 +109,10 @@ void benennen(const std::string& alt, const std::string& neu) {
     umbenennen(alt, neu);
 }
 
-using Inhalt = std::function<void(const Bytesenke&)>;
+using Inhalt = std::function<void(const Datei&)>;
 
 Inhalt inhalt_aus(std::string_view bytes) {
-    return [bytes](const Bytesenke& senke) { senke(bytes); };
-}
-
-void inhalt_schreiben(const Datei& datei, const Inhalt& inhalt) {
-    inhalt([&datei](std::string_view bytes) { datei.schreiben(bytes); });
+    return [bytes](const Datei& datei) { datei.schreiben(bytes); };
 }
 
 /// The file that a path leads to. Throws where it cannot be replaced.
@@ -144,7 +140,7 @@ struct Ersatzziel {
 
 void auf_geraet_schreiben(const std::string& pfad, const Inhalt& inhalt) {
     Datei geraet(pfad, O_WRONLY | O_NONBLOCK); // a pipe without a reader must not hold the program
-    inhalt_schreiben(geraet, inhalt);
+    inhalt(geraet);
     geraet.schliessen();
 }
 
@@ -158,7 +154,7 @@ void daneben_schreiben(const std::string& ziel, const Inhalt& inhalt, std::optio
     });
     try {
         Datei datei(neu.nummer, ziel);
-        inhalt_schreiben(datei, inhalt);
+        inhalt(datei);
         if (rechte) {
             fchmod(datei.nummer(), *rechte);
         }
@@ -230,6 +226,12 @@ std::string am_ort_schreiben(const std::string& ziel, std::string_view bytes, co
 } // namespace
 
 void datei_ersetzen(const std::string& pfad, const std::function<void(const Bytesenke&)>& schreiben) {
+    ersetzen(Ersatzziel(pfad), [&schreiben](const Datei& datei) {
+        schreiben([&datei](std::string_view bytes) { datei.schreiben(bytes); });
+    });
+}
+
+void datei_ersetzen_am_stueck(const std::string& pfad, const std::function<void(const Datei&)>& schreiben) {
     ersetzen(Ersatzziel(pfad), schreiben);
 }
 

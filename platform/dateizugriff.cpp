@@ -138,6 +138,24 @@ void Datei::schreiben(std::string_view bytes) const {
     }
 }
 
+std::size_t Datei::lesen_ab(std::uint64_t stelle, char* ziel, std::size_t hoechstens) const {
+    ssize_t gelesen = -1;
+    do {
+        gelesen = pread(nummer_, ziel, hoechstens, static_cast<off_t>(stelle));
+    } while (gelesen < 0 && errno == EINTR);
+    if (gelesen < 0) {
+        scheitern(errno, pfad_);
+    }
+    return static_cast<std::size_t>(gelesen);
+}
+
+void Datei::schreiben_ab(std::uint64_t stelle, std::string_view bytes) const {
+    if (lseek(nummer_, static_cast<off_t>(stelle), SEEK_SET) < 0) {
+        scheitern(errno, pfad_);
+    }
+    schreiben(bytes);
+}
+
 void Datei::ueberschreiben(std::string_view bytes) const {
     if (lseek(nummer_, 0, SEEK_SET) != 0) {
         scheitern(errno, pfad_);

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -39,6 +41,9 @@ public:
     /// Everything from the present position on. Throws 7 for a file of more than `hoechstens` bytes.
     std::string lesen(std::size_t hoechstens) const;
     void schreiben(std::string_view bytes) const;
+    /// Bytes from a place on; returns how many there were, 0 at the end of the file.
+    std::size_t lesen_ab(std::uint64_t stelle, char* ziel, std::size_t hoechstens) const;
+    void schreiben_ab(std::uint64_t stelle, std::string_view bytes) const;
     /// Puts these bytes in the place of all that the file holds.
     void ueberschreiben(std::string_view bytes) const;
     /// Returns when everything written is on disk.
@@ -49,5 +54,8 @@ private:
     std::string pfad_;
     int nummer_;
 };
+
+/// Replaces a file, as `datei_ersetzen` does, by what `schreiben` makes of a new one, which it may read, too.
+void datei_ersetzen_am_stueck(const std::string& pfad, const std::function<void(const Datei&)>& schreiben);
 
 } // namespace quittika
