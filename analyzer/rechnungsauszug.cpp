@@ -45,7 +45,7 @@ Rechnungsauszug AUSZUG_LESEN(std::string_view bytes) {
     auto& werte = auszug.werte;
     werte[rohdatum::kDatum] = zeilen.text(rechnungszeile::kDatum);
     werte[rohdatum::kNummer] = zeilen.text(rechnungszeile::kTitel);
-    werte[rohdatum::kNummerzusatz] = zeilen.text(dateirechnungszeile::kTitel);
+    werte[rohdatum::kNummerzusatz] = zeilen.text(dateizeile::kNummer);
     werte[rohdatum::kKundennummer] = zeilen.text(zeile::kKundennummer);
     werte[rohdatum::kKundenname] = zeilen.text(rechnungszeile::kKundenname);
     werte[rohdatum::kVersendet] = JaNein(zeilen.bytes(zeile::kVersendet));

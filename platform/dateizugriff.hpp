@@ -11,7 +11,7 @@
 
 namespace quittika {
 
-// The system's file operations, for the file layer alone.
+// The system's file operations, for the file layer and for what reads and writes files piece by piece.
 
 /// Throws the `Laufzeitfehler` that belongs to an error of the system. Where a folder refused, `pfad` is its
 /// own and ends with "/".
