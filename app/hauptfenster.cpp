@@ -48,4 +48,14 @@ void Hauptfenster::m_beenden_Click() {
     form1_.Close();
 }
 
+void Hauptfenster::SofortBeenden() {
+    ohne_frage_schliessen_ = true;
+    form1_.Close();
+}
+
+bool Hauptfenster::ArbeitSichern() {
+    return (!zustand_.geaendert() || dateibefehle_.VorherSpeichern(Buttons::YesNoCancel)) &&
+           andere_schliessen_();
+}
+
 } // namespace quittika

@@ -19,6 +19,11 @@ public:
 
     /// Remembers the state of the window, asks whether to save and ends the program.
     void m_beenden_Click();
+    /// Ends the program as it stands: nothing is asked, nothing is written.
+    void SofortBeenden();
+    /// Saves the invoice and closes what else holds unsaved work, as the user answers; false where there is
+    /// no leave.
+    bool ArbeitSichern();
 
 private:
     void Form_QueryUnload(bool& abbrechen);

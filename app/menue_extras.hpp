@@ -5,11 +5,15 @@
 #include "barcode/barcodemodus.hpp"
 #include "invoice/eingabezeile.hpp"
 #include "invoice/form1.hpp"
+#include "safety/nummernfenster.hpp"
+#include "safety/rueckspielfenster.hpp"
+#include "safety/sicherungsfenster.hpp"
 
 namespace quittika {
 
 /// Wires the menu "Extras" of the main window and the buttons that stand for its commands.
 void MENUE_EXTRAS(Form1& form1, const Ereignisse& ereignisse, Eingabezeile& eingabezeile,
-                  Barcodefenster& barcode, Analyzerfenster& analyzer);
+                  Barcodefenster& barcode, Analyzerfenster& analyzer, Nummernpruefung& nummern,
+                  Datensicherung& sicherung, Rueckspielfenster& rueckspielen);
 
 } // namespace quittika

@@ -48,7 +48,8 @@ struct Programm::Teile {
         MENUE_DRUCKEN(form1, etiketten);
         MENUE_EINSTELLUNGEN(form1, einstellungen, ereignisse, einstellungsfenster, programmfenster,
                             designeraufruf, designerfenster);
-        MENUE_EXTRAS(form1, ereignisse, eingabezeile, barcodefenster, analyzerfenster);
+        MENUE_EXTRAS(form1, ereignisse, eingabezeile, barcodefenster, analyzerfenster, nummernpruefung,
+                     datensicherung, rueckspielfenster);
     }
 
     /// The window first, so that what the program asks and says stands in front of one that is there.
@@ -58,8 +59,17 @@ struct Programm::Teile {
     }
     /// The program's own questions come before the invoice that it was started with.
     void WennDasFensterDaIst() {
+        form1.Hinweise.melden(SICHERUNGSERINNERUNG(verzeichnis, platform.clock.now()));
         if (!startrechnung.empty()) {
             dateibefehle.Oeffnen(startrechnung);
+        }
+    }
+
+    /// Opens an invoice that was chosen in another window.
+    void ImHauptfensterOeffnen(const std::string& pfad) {
+        const bool frei = !zustand.geaendert() || dateibefehle.VorherSpeichern(Buttons::YesNoCancel);
+        if (frei && dateibefehle.oeffneRN(pfad)) {
+            form1.Show();
         }
     }
 
@@ -136,18 +146,12 @@ struct Programm::Teile {
                                                                             artikelzustand, summen,
                                                                             platform.desktop);
                                   }};
-    Analyzerfenster analyzerfenster{
-        platform.desktop, [this](Form_Analyzer& form) {
-            return std::make_unique<Analyzer>(
-                form, verzeichnis, platform.desktop, platform.dialogs, platform.shell, platform.clock,
-                platform.progress, [this](const std::string& pfad) {
-                    const bool frei =
-                        !zustand.geaendert() || dateibefehle.VorherSpeichern(Buttons::YesNoCancel);
-                    if (frei && dateibefehle.oeffneRN(pfad)) {
-                        form1.Show();
-                    }
-                });
-        }};
+    Analyzerfenster analyzerfenster{platform.desktop, [this](Form_Analyzer& form) {
+                                        return std::make_unique<Analyzer>(
+                                            form, verzeichnis, platform.desktop, platform.dialogs,
+                                            platform.shell, platform.clock, platform.progress,
+                                            [this](const std::string& pfad) { ImHauptfensterOeffnen(pfad); });
+                                    }};
     Logo logo{form1, einstellungen, werte};
     Programmstil stil{form1, einstellungen, programm, werte, platform.desktop, [this] {
                           if (Kundenverwaltung* kunden = kundenfenster.module()) {
@@ -209,6 +213,26 @@ struct Programm::Teile {
     Ausgabe ausgabe{form1, ereignisse, summen, vorschauzeichnung, vorschaufenster, bildausgabe, pdfausgabe};
     MenueHilfe menue_hilfe{form1,          ereignisse,       verzeichnis,     werte,
                            platform.shell, platform.dialogs, platform.desktop};
+    Nummernpruefung nummernpruefung{platform.desktop, [this](Form_Nummernpruefung& form) {
+                                        return std::make_unique<Nummernfenster>(
+                                            form, verzeichnis, platform.desktop, platform.dialogs,
+                                            platform.progress, [this] { return zustand.AktuellerPfad(); },
+                                            [this](const std::string& pfad) { ImHauptfensterOeffnen(pfad); });
+                                    }};
+    Datensicherung datensicherung{platform.desktop, [this](Form_Datensicherung& form) {
+                                      return std::make_unique<Sicherungsfenster>(
+                                          form, form1, einstellungen, verzeichnis, platform.desktop,
+                                          platform.dialogs, platform.clock, platform.progress);
+                                  }};
+    Rueckspielfenster rueckspielfenster{verzeichnis,
+                                        platform.desktop,
+                                        platform.dialogs,
+                                        platform.progress,
+                                        {[this] { return hauptfenster.ArbeitSichern(); },
+                                         [this] {
+                                             einstellungsschreiber.SPEICHERN_GESPERRT = true;
+                                             hauptfenster.SofortBeenden();
+                                         }}};
     Startfenster startfenster{form_start, werte, verzeichnis, platform.clock,
                               [this] { HauptfensterZeigen(); }};
     std::string startrechnung; ///< what the program was started with

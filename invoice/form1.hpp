@@ -58,6 +58,9 @@ struct Form1 : Form {
     Menu m_eingabezeile{*this, "m_eingabezeile", "&Zur Eingabezeile"};
     Menu m_start_analyzer{*this, "m_start_analyzer", "Starte Manager + Analyzer..."};
     Menu m_startdesigner{*this, "m_startdesigner", "Starte Designer..."};
+    Menu m_nummern_pruefen{*this, "m_nummern_pruefen", "&Nummern prüfen..."};
+    Menu m_datensicherung{*this, "m_datensicherung", "&Datensicherung..."};
+    Menu m_zurueckspielen{*this, "m_zurueckspielen", "&Sicherung zurückspielen..."};
     Menu m_updatesuchen{*this, "m_updatesuchen", "jetzt nach einer neueren Quittika Version suchen..."};
     Menu m_Benutzerhandbuch_html{*this, "m_Benutzerhandbuch_html", "Benutzerhandbuch (HTML)"};
     Menu m_Benutzerhandbuch_pdf{*this, "m_Benutzerhandbuch_pdf", "Benutzerhandbuch (PDF)"};

@@ -33,6 +33,8 @@ struct FileDialog {
     /// `open_file` where the file need not exist. Off where the program asks, for it may write another file
     /// than the one chosen.
     bool asks_before_replacing = true;
+    /// Folder that the dialog begins in, a system path; empty, or one that is gone: where the last one ended.
+    std::string folder = {};
 };
 
 struct PrinterDialog {

@@ -23,6 +23,8 @@ std::optional<int> zaehler_aus(const std::string& text) {
     }
 }
 
+} // namespace
+
 Zaehlerstand ZAEHLERSTAND(const Programmverzeichnis& verzeichnis) {
     const std::string pfad = verzeichnis.pfad("\\RN.txt");
     if (!datei_vorhanden(pfad)) {
@@ -31,8 +33,6 @@ Zaehlerstand ZAEHLERSTAND(const Programmverzeichnis& verzeichnis) {
     const std::optional<int> wert = zaehler_aus(DATEI_ERSTE_ZEILE(pfad));
     return {wert, !wert};
 }
-
-} // namespace
 
 Rechnungsnummern::Rechnungsnummern(Form1& form1, frm_einstellungen& einstellungen, Rechnungszustand& zustand,
                                    const Programmverzeichnis& verzeichnis, Dialogs& dialogs)

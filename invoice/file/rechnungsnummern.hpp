@@ -17,6 +17,9 @@ struct Zaehlerstand {
     bool unlesbar = false; ///< the file is there and holds no number of 32 bits
 };
 
+/// The counter in RN.txt, which is the next number; without a value where there is none.
+Zaehlerstand ZAEHLERSTAND(const Programmverzeichnis& verzeichnis);
+
 /// Invoice numbers from the counter in RN.txt.
 class Rechnungsnummern {
 public:

@@ -75,7 +75,11 @@ void QtDialogs::prepare(QFileDialog& window, const FileDialog& dialog) const {
     if (!dialog.title.empty()) {
         window.setWindowTitle(to_qt(dialog.title));
     }
-    window.setDirectory(folder_.isEmpty() ? QDir::homePath() : folder_);
+    if (!dialog.folder.empty() && ordner_vorhanden(dialog.folder)) {
+        window.setDirectory(path_to_qt(dialog.folder));
+    } else {
+        window.setDirectory(folder_.isEmpty() ? QDir::homePath() : folder_);
+    }
     const QStringList filters = name_filters(dialog.filter);
     if (!filters.isEmpty()) {
         window.setNameFilters(filters);

@@ -12,6 +12,9 @@
 #include "print/form2_etiketten.hpp"
 #include "print/form_druckvorschau.hpp"
 #include "print/form_lieferschein_opt.hpp"
+#include "safety/form_datensicherung.hpp"
+#include "safety/form_nummernpruefung.hpp"
+#include "safety/form_rueckspielen.hpp"
 #include "settings/frm_einstellungen.hpp"
 #include "settings/frm_programm.hpp"
 
@@ -43,6 +46,9 @@ inline const std::vector<MakeForm> kForms{make<Form1>,
                                           make<Form_Artikelverwaltung>,
                                           make<FORM_DESIGNER>,
                                           make<Form_Analyzer>,
-                                          make<Form_VerzWahlAuftrag>};
+                                          make<Form_VerzWahlAuftrag>,
+                                          make<Form_Datensicherung>,
+                                          make<Form_Rueckspielen>,
+                                          make<Form_Nummernpruefung>};
 
 } // namespace quittika::test
