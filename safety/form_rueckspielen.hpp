@@ -15,6 +15,7 @@ struct Form_Rueckspielen : Form {
     Label Label_Datei{*this, "Label_Datei"}; ///< the backup and its time
     Label Label_Kopf{*this, "Label_Kopf"};   ///< heads over the list
     ListBox List_Teile{*this, "List_Teile"}; ///< a row for each part, with its tick
+    Label Label_Ort{*this, "Label_Ort"};     ///< where the marked part goes
     CommandButton Command_Wahl{*this, "Command_Wahl", "&An- oder abwählen"};
     CommandButton Command_Alle{*this, "Command_Alle", "A&lle"};
     CommandButton Command_Keine{*this, "Command_Keine", "&Keine"};

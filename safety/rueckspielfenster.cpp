@@ -17,16 +17,15 @@ namespace {
 constexpr const char* kTitel = "Sicherung zurückspielen";
 constexpr int kLeertaste = 32;
 constexpr int kHaekchenbreite = twips(40);
-constexpr std::size_t kTitelbreite = 44; ///< characters
+constexpr std::size_t kTitelbreite = 34; ///< characters
 constexpr std::size_t kUmfangbreite = 22;
 
-/// The end of a text that is too long, for in a path it tells more than the beginning.
-std::string vorn_gekuerzt(const std::string& text, std::size_t breite) {
-    return zeichenzahl(text) <= breite ? text : ".." + rechts(text, breite - 2);
+std::string gekuerzt_auf(const std::string& text, std::size_t breite) {
+    return zeichenzahl(text) <= breite ? text : links(text, breite - 2) + "..";
 }
 
 std::string spalten(const std::string& titel, const std::string& umfang, const std::string& zeit) {
-    return linksbuendig(vorn_gekuerzt(titel, kTitelbreite), kTitelbreite) +
+    return linksbuendig(gekuerzt_auf(titel, kTitelbreite), kTitelbreite) +
            rechtsbuendig(umfang, kUmfangbreite) + "   " + zeit;
 }
 
@@ -54,7 +53,8 @@ std::string liste_der(const std::vector<Neuere>& neuere) {
 }
 
 std::string anzahl(std::size_t n) {
-    return std::to_string(n) + (n == 1 ? " Datei" : " Dateien");
+    return n == 1 ? "1 Datei"
+                  : (n == 0 ? "Keine" : std::to_string(n)) + std::string(n == 0 ? " Datei" : " Dateien");
 }
 
 } // namespace
@@ -69,21 +69,28 @@ struct Rueckspielfenster::Auswahl {
 
     void zeigen() {
         std::vector<std::string> zeilen;
+        for (std::size_t i = 0; i < gewaehlt.size(); ++i) {
+            zeilen.push_back(zeile(inhalt.teile()[i], gewaehlt[i]));
+        }
+        form.List_Teile.assign(std::move(zeilen));
+        hinweisen();
+    }
+    void hinweisen() {
         std::size_t dateien = 0;
         std::uint64_t bytes = 0;
         for (std::size_t i = 0; i < gewaehlt.size(); ++i) {
-            const Sicherungsteil& teil = inhalt.teile()[i];
-            zeilen.push_back(zeile(teil, gewaehlt[i]));
-            dateien += gewaehlt[i] ? teil.dateien.size() : 0;
-            bytes += gewaehlt[i] ? teil.bytes() : 0;
+            dateien += gewaehlt[i] ? inhalt.teile()[i].dateien.size() : 0;
+            bytes += gewaehlt[i] ? inhalt.teile()[i].bytes() : 0;
         }
-        form.List_Teile.assign(std::move(zeilen));
         form.Command_Zurueck.Enabled = dateien > 0;
+        const int markiert = form.List_Teile.ListIndex();
+        const std::string ort = markiert < 0 ? "" : inhalt.teile()[static_cast<std::size_t>(markiert)].ordner;
+        form.Label_Ort.Caption = ort.empty() ? "Ordner: der des Programms" : "Ordner: " + ort;
         form.Label_Hinweis.Caption =
             dateien == 0
                 ? "Es ist nichts gewählt."
                 : "Gewählt: " + UMFANG_TEXT(dateien, bytes) + "." +
-                      (neustart() ? " Quittika beendet sich danach und kann neu gestartet werden." : "");
+                      (neustart() ? " Quittika beendet sich danach: bitte starten Sie es dann neu." : "");
     }
     void umschalten() {
         const int nummer = form.List_Teile.ListIndex();
@@ -160,6 +167,7 @@ void Rueckspielfenster::m_zurueckspielen_Click() {
         if (std::exchange(auswahl.am_haekchen, false)) {
             auswahl.umschalten();
         }
+        auswahl.hinweisen();
     };
     form.Command_Wahl.Click = [&auswahl] { auswahl.umschalten(); };
     form.Command_Alle.Click = [&auswahl] { auswahl.alle(true); };
@@ -182,14 +190,19 @@ void Rueckspielfenster::Command_Zurueck_Click(Auswahl& auswahl) {
     if (!auftraege) {
         return;
     }
+    // Saving makes files newer: it comes before they are looked at.
+    if (auswahl.neustart() && !programm_.vorher()) {
+        return;
+    }
     const auto ersetzen = NeuereErsetzen(auswahl, *auftraege);
-    if (!ersetzen || (auswahl.neustart() && !programm_.vorher())) {
+    if (!ersetzen) {
         return;
     }
     {
         const auto fortschritt = progress_.begin("Dateien werden zurückgespielt");
         auswahl.stand = ZURUECKSPIELEN(auswahl.inhalt, *auftraege, *ersetzen, *fortschritt);
     }
+    OrdnerMerken(*auftraege);
     auswahl.fertig = true;
     auswahl.form.Close();
 }
@@ -250,6 +263,25 @@ std::optional<bool> Rueckspielfenster::NeuereErsetzen(const Auswahl& auswahl,
     const Answer antwort =
         dialogs_.message({frage, kTitel, Buttons::YesNoCancel, Symbol::Exclamation, Answer::No});
     return antwort == Answer::Cancel ? std::nullopt : std::optional(antwort == Answer::Yes);
+}
+
+void Rueckspielfenster::OrdnerMerken(const std::vector<Rueckspielauftrag>& auftraege) {
+    Sicherungsmerker merker = Sicherungsmerker::LESEN(verzeichnis_);
+    const std::size_t bisher = merker.ordner.size();
+    for (const Rueckspielauftrag& auftrag : auftraege) {
+        const bool bekannt =
+            std::find(merker.ordner.begin(), merker.ordner.end(), auftrag.ziel) != merker.ordner.end();
+        if (!auftrag.teil->gruppe && !auftrag.teil->bilder && !bekannt) {
+            merker.ordner.push_back(auftrag.ziel);
+        }
+    }
+    try {
+        if (merker.ordner.size() != bisher) {
+            merker.SCHREIBEN(verzeichnis_);
+        }
+    } catch (const Laufzeitfehler&) {
+        // The user is asked for them again.
+    }
 }
 
 void Rueckspielfenster::ErgebnisMelden(const Rueckspielstand& stand, bool neustart) {

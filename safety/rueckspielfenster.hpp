@@ -38,6 +38,8 @@ private:
     /// Whether newer files are replaced; nothing where the user wants none of it all.
     std::optional<bool> NeuereErsetzen(const Auswahl& auswahl,
                                        const std::vector<Rueckspielauftrag>& auftraege);
+    /// The folders that invoices went to belong to the next backup, too.
+    void OrdnerMerken(const std::vector<Rueckspielauftrag>& auftraege);
     void ErgebnisMelden(const Rueckspielstand& stand, bool neustart);
 
     const Programmverzeichnis& verzeichnis_;

@@ -3,7 +3,10 @@
 #include "platform/text.hpp"
 
 #include <algorithm>
-#include <set>
+#include <filesystem>
+#include <functional>
+#include <unordered_map>
+#include <unordered_set>
 #include <utility>
 
 #include <fcntl.h>
@@ -65,31 +68,30 @@ public:
             verweigern("sie enthält einen Pfad, der aus ihren Ordnern hinausführt", name);
         }
         const std::string schluessel = grossbuchstaben(ordner ? name.substr(0, name.size() - 1) : name);
-        if (!(ordner ? ordner_ : dateien_).insert(schluessel).second && !ordner) {
-            verweigern("sie enthält einen Namen zweimal", name);
-        }
-        if (!ordner && !pfade_.insert(pfad).second) {
-            verweigern("sie enthält einen Namen zweimal", name);
+        const auto zweimal = [&name] { verweigern("sie enthält einen Namen zweimal", name); };
+        const std::size_t kennzahl = merkmal_(schluessel);
+        if (ordner) {
+            ordner_.insert(kennzahl);
+        } else if (!dateien_.insert(kennzahl).second || !pfade_.insert(merkmal_(pfad)).second ||
+                   ordner_.count(kennzahl) != 0) {
+            zweimal();
         }
         for (std::size_t i = schluessel.find('/'); i != std::string::npos; i = schluessel.find('/', i + 1)) {
-            ordner_.insert(schluessel.substr(0, i));
+            const std::size_t eltern = merkmal_(std::string_view(schluessel).substr(0, i));
+            ordner_.insert(eltern);
+            if (dateien_.count(eltern) != 0) {
+                zweimal(); // a file and a folder
+            }
         }
         return ordner ? std::string() : pfad;
     }
 
-    /// Throws where a file is a folder, too.
-    void abschliessen() const {
-        for (const std::string& name : dateien_) {
-            if (ordner_.count(name) != 0) {
-                verweigern("sie enthält einen Namen zweimal", name);
-            }
-        }
-    }
-
 private:
-    std::set<std::string> dateien_; ///< names in capitals
-    std::set<std::string> ordner_;
-    std::set<std::string> pfade_; ///< what the names stand for
+    // Numbers in place of names: two names of one number in a backup are likelier to be made than to happen.
+    std::hash<std::string_view> merkmal_;
+    std::unordered_set<std::size_t> dateien_; ///< names in capitals
+    std::unordered_set<std::size_t> ordner_;
+    std::unordered_set<std::size_t> pfade_; ///< what the names stand for
 };
 
 /// The parts of a backup, ready to take their files.
@@ -101,17 +103,29 @@ std::vector<Sicherungsteil> leere_teile(const Sicherungskopf& kopf) {
     }
     for (const Sicherungsordner& ordner : kopf.ordner) {
         const bool bilder = beginnt_mit(ordner.kennung, "Bilder");
-        teile.push_back({(bilder ? "Bilder aus " : "Rechnungen aus ") + ordner.pfad,
-                         std::nullopt,
-                         bilder,
-                         ordner.pfad,
-                         {}});
+        const std::string name = std::filesystem::path(ordner.pfad).filename().string();
+        teile.push_back(
+            {(bilder ? "Bilder: " : "Rechnungen: ") + name, std::nullopt, bilder, ordner.pfad, {}});
     }
     return teile;
 }
 
+/// Numbers of the parts outside of the program folder, by the names of their folders in the backup.
+using Teilnummern = std::unordered_map<std::string, std::size_t>;
+
+Teilnummern teilnummern(const Sicherungskopf& kopf) {
+    Teilnummern nummern;
+    for (const Sicherungsordner& ordner : kopf.ordner) {
+        nummern.emplace(ordner.kennung, kProgrammgruppen + nummern.size());
+    }
+    if (nummern.size() != kopf.ordner.size()) {
+        throw Sicherungsfehler("Die Datei ist keine Datensicherung von Quittika oder beschädigt.");
+    }
+    return nummern;
+}
+
 /// The part that a file belongs to, and its path in there.
-std::pair<std::size_t, std::string> platz_von(const Sicherungskopf& kopf, const std::string& pfad) {
+std::pair<std::size_t, std::string> platz_von(const Teilnummern& nummern, const std::string& pfad) {
     const std::size_t grenze = pfad.find('/');
     const std::string kennung = pfad.substr(0, grenze);
     const std::string rest = grenze == std::string::npos ? "" : pfad.substr(grenze + 1);
@@ -120,14 +134,12 @@ std::pair<std::size_t, std::string> platz_von(const Sicherungskopf& kopf, const 
             return {static_cast<std::size_t>(*gruppe), rest};
         }
     }
-    for (std::size_t i = 0; i < kopf.ordner.size(); ++i) {
-        const bool bilder = beginnt_mit(kennung, "Bilder");
-        if (kopf.ordner[i].kennung == kennung && !rest.empty() &&
-            (!bilder || (IST_BILDNAME(rest) && rest.find('/') == std::string::npos))) {
-            return {static_cast<std::size_t>(kProgrammgruppen) + i, rest};
-        }
+    const auto fund = nummern.find(kennung);
+    const bool bild = IST_BILDNAME(rest) && rest.find('/') == std::string::npos;
+    if (fund == nummern.end() || rest.empty() || (beginnt_mit(kennung, "Bilder") && !bild)) {
+        verweigern("sie enthält eine Datei, die in keine Datensicherung gehört", pfad);
     }
-    verweigern("sie enthält eine Datei, die in keine Datensicherung gehört", pfad);
+    return {fund->second, rest};
 }
 
 Sicherungskopf kopf_lesen(const Zipleser& leser) {
@@ -168,22 +180,18 @@ Sicherungsinhalt::Sicherungsinhalt(const std::string& pfad)
           return datei_;
       }()) {
     groessen_pruefen(leser_.eintraege(), static_cast<std::uint64_t>(datei_.auskunft().st_size));
-    Namenspruefung namen;
-    std::vector<std::string> pfade;
-    for (const Zipeintrag& eintrag : leser_.eintraege()) {
-        pfade.push_back(namen.pruefen(eintrag));
-    }
-    namen.abschliessen();
     const Sicherungskopf kopf = kopf_lesen(leser_);
+    const Teilnummern nummern = teilnummern(kopf);
     zeit_ = kopf.zeit;
     teile_ = leere_teile(kopf);
-    for (std::size_t i = 0; i < pfade.size(); ++i) {
-        if (pfade[i].empty() || pfade[i] == kInhaltsdatei) {
-            continue;
-        }
-        auto [teil, rest] = platz_von(kopf, pfade[i]);
+    Namenspruefung namen;
+    for (std::size_t i = 0; i < leser_.eintraege().size(); ++i) {
         const Zipeintrag& eintrag = leser_.eintraege()[i];
-        teile_.at(teil).dateien.push_back({i, std::move(rest), eintrag.groesse, eintrag.zeit});
+        const std::string ort = namen.pruefen(eintrag);
+        if (!ort.empty() && ort != kInhaltsdatei) {
+            auto [teil, rest] = platz_von(nummern, ort);
+            teile_.at(teil).dateien.push_back({i, std::move(rest), eintrag.groesse, eintrag.zeit});
+        }
     }
     std::erase_if(teile_, [](const Sicherungsteil& teil) { return teil.dateien.empty(); });
 }

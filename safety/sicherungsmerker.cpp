@@ -13,7 +13,6 @@ namespace quittika {
 
 namespace {
 
-constexpr const char* kDatei = "\\Datensicherung.txt";
 constexpr std::size_t kHoechstens = 1U << 20U; // bytes
 constexpr std::string_view kLetzte = "Letzte Datensicherung: ";
 constexpr std::string_view kErinnert = "Erinnert: ";
@@ -38,13 +37,14 @@ void zeile_lesen(Sicherungsmerker& merker, std::string_view zeile) {
 Sicherungsmerker Sicherungsmerker::LESEN(const Programmverzeichnis& verzeichnis) {
     Sicherungsmerker merker;
     try {
-        zeilen_teilen(bytes_lesen(verzeichnis.pfad(kDatei), kHoechstens), [&merker](std::string_view zeile) {
-            zeile_lesen(merker, zeile);
-            return true;
-        });
+        zeilen_teilen(bytes_lesen(verzeichnis.pfad(std::string("\\") + kMerkerdatei), kHoechstens),
+                      [&merker](std::string_view zeile) {
+                          zeile_lesen(merker, zeile);
+                          return true;
+                      });
         merker.vorhanden = true;
     } catch (const Laufzeitfehler&) {
-        merker.vorhanden = datei_vorhanden(verzeichnis.pfad(kDatei));
+        merker.vorhanden = datei_vorhanden(verzeichnis.pfad(std::string("\\") + kMerkerdatei));
     }
     return merker;
 }
@@ -66,7 +66,7 @@ void Sicherungsmerker::SCHREIBEN(const Programmverzeichnis& verzeichnis) const {
     for (const std::string& pfad : ordner) {
         zeile(kOrdner, NAME_SCHREIBEN(pfad));
     }
-    datei_ersetzen(verzeichnis.pfad(kDatei), text);
+    datei_ersetzen(verzeichnis.pfad(std::string("\\") + kMerkerdatei), text);
 }
 
 std::string SICHERUNGSERINNERUNG(const Programmverzeichnis& verzeichnis, const Zeitpunkt& jetzt) {

@@ -33,7 +33,6 @@ constexpr std::array kRegeln{
     Namensregel{"PROG", ".CFG", Programmgruppe::Einstellungen},
     Namensregel{"SICHERUNG VON PROG", "", Programmgruppe::Einstellungen},
     Namensregel{"", ".LLD", Programmgruppe::Einstellungen},
-    Namensregel{"DATENSICHERUNG.TXT", "", Programmgruppe::Einstellungen},
     Namensregel{"ANALYSE_QUELLE.TXT", "", Programmgruppe::Einstellungen},
     Namensregel{"RN.TXT", "", Programmgruppe::Nummern},
     Namensregel{"KUNDENLISTE.TXT", "", Programmgruppe::Kunden},
@@ -95,7 +94,7 @@ std::optional<Programmgruppe> PROGRAMMGRUPPE(std::string_view pfad) {
     if (beginnt_mit(pfad, "DESIGN_A4/")) {
         return IST_BILDNAME(pfad) ? std::optional(Programmgruppe::Design) : std::nullopt;
     }
-    if (pfad.find('/') != std::string_view::npos || pfad == "fenster.cfg") {
+    if (pfad.find('/') != std::string_view::npos || pfad == "fenster.cfg" || pfad == kMerkerdatei) {
         return std::nullopt;
     }
     if (IST_BILDNAME(pfad)) {

@@ -8,6 +8,7 @@ namespace quittika {
 
 inline constexpr const char* kProgrammteil = "Programm"; ///< folder of the program's files in a backup
 inline constexpr const char* kInhaltsdatei = "Inhalt.txt";
+inline constexpr const char* kMerkerdatei = "Datensicherung.txt"; ///< what the program remembers of backups
 
 /// What belongs together among the program's files.
 enum class Programmgruppe {

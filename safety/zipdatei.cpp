@@ -83,8 +83,8 @@ Versprechen versprochen(const Datei& datei, std::string_view ende, std::size_t s
 /// each end record: both have to be looked at before.
 void ende_pruefen(const Datei& datei) {
     constexpr std::size_t kSuchweite = kEndsatz + 0xFFFF + kWegweiser;
-    constexpr std::uint64_t kLaengsteListe = kZipHoechstens * 320; // bytes
-    constexpr int kHoechstensEnden = 3;                            // bytes of a file that look like one
+    constexpr std::uint64_t kLaengsteListe = 16U << 20U; // bytes
+    constexpr int kHoechstensEnden = 3;                  // bytes of a file that look like one
     const auto groesse = static_cast<std::uint64_t>(datei.auskunft().st_size);
     const std::uint64_t anfang = groesse - std::min<std::uint64_t>(groesse, kSuchweite);
     std::string ende(groesse - anfang, '\0');

@@ -35,7 +35,7 @@ zip_int64_t Zipstrom::rufen(void* selbst, void* daten, zip_uint64_t laenge, zip_
 }
 
 zip_int64_t Archivstrom::springen(void* daten, zip_uint64_t laenge, zip_uint64_t& stelle) {
-    const zip_int64_t neu = zip_source_seek_compute_offset(stelle, groesse(), daten, laenge, fehler());
+    const zip_int64_t neu = zip_source_seek_compute_offset(stelle, groesse_, daten, laenge, fehler());
     if (neu < 0) {
         return -1;
     }
@@ -60,7 +60,7 @@ zip_int64_t Archivstrom::antworten(void* daten, zip_uint64_t laenge, zip_source_
     case ZIP_SOURCE_STAT: {
         auto& stand = *static_cast<zip_stat_t*>(daten);
         zip_stat_init(&stand);
-        stand.size = groesse();
+        stand.size = groesse_;
         stand.valid |= ZIP_STAT_SIZE;
         return sizeof stand;
     }
@@ -72,6 +72,7 @@ zip_int64_t Archivstrom::antworten(void* daten, zip_uint64_t laenge, zip_source_
     case ZIP_SOURCE_WRITE:
         datei_.schreiben_ab(schreiben_, {static_cast<const char*>(daten), laenge});
         schreiben_ += laenge;
+        groesse_ = std::max(groesse_, schreiben_);
         return static_cast<zip_int64_t>(laenge);
     case ZIP_SOURCE_SEEK:
         return springen(daten, laenge, lesen_);

@@ -41,14 +41,15 @@ private:
 /// The archive itself, an open file.
 class Archivstrom final : public Zipstrom {
 public:
-    explicit Archivstrom(const Datei& datei) : datei_(datei) {}
+    explicit Archivstrom(const Datei& datei)
+        : datei_(datei), groesse_(static_cast<zip_uint64_t>(datei.auskunft().st_size)) {}
 
 private:
     zip_int64_t antworten(void* daten, zip_uint64_t laenge, zip_source_cmd_t befehl) override;
     zip_int64_t springen(void* daten, zip_uint64_t laenge, zip_uint64_t& stelle);
-    zip_uint64_t groesse() const { return static_cast<zip_uint64_t>(datei_.auskunft().st_size); }
 
     const Datei& datei_;
+    zip_uint64_t groesse_;       ///< of the file
     zip_uint64_t lesen_ = 0;     ///< where reading goes on
     zip_uint64_t schreiben_ = 0; ///< where writing goes on
 };
