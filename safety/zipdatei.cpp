@@ -72,8 +72,12 @@ Versprechen versprochen(const Datei& datei, std::string_view ende, std::size_t s
     if (stelle < kWegweiser || ende.substr(stelle - kWegweiser, 4) != kWegweisermarke) {
         return klein;
     }
+    const std::uint64_t ort = zahl(ende, stelle - kWegweiser + 8, 8);
+    if (ort >= static_cast<std::uint64_t>(datei.auskunft().st_size)) {
+        beschaedigt();
+    }
     std::string gross(kGrossersatz, '\0');
-    gross.resize(datei.lesen_ab(zahl(ende, stelle - kWegweiser + 8, 8), gross.data(), gross.size()));
+    gross.resize(datei.lesen_ab(ort, gross.data(), gross.size()));
     return gross.size() < kGrossersatz
                ? klein
                : Versprechen{std::max(zahl(gross, 24, 8), zahl(gross, 32, 8)), zahl(gross, 40, 8)};
