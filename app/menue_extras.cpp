@@ -4,7 +4,7 @@ namespace quittika {
 
 void MENUE_EXTRAS(Form1& form1, const Ereignisse& ereignisse, Eingabezeile& eingabezeile,
                   Barcodefenster& barcode, Analyzerfenster& analyzer, Nummernpruefung& nummern,
-                  Datensicherung& sicherung, Rueckspielfenster& rueckspielen) {
+                  Datensicherung& sicherung, Rueckspielfenster& rueckspielen, Updatecheck& updatecheck) {
     form1.m_eingabezeile.Click = [&eingabezeile] { eingabezeile.anwaehlen(); };
     form1.Cmd_Barcode.Click = ereignisse.befehl([&barcode] { barcode.open(); });
     for (Control* starten :
@@ -15,7 +15,7 @@ void MENUE_EXTRAS(Form1& form1, const Ereignisse& ereignisse, Eingabezeile& eing
     form1.m_datensicherung.Click = ereignisse.befehl([&sicherung] { sicherung.open(); });
     form1.m_zurueckspielen.Click =
         ereignisse.befehl([&rueckspielen] { rueckspielen.m_zurueckspielen_Click(); });
-    SPERREN({&form1.m_updatesuchen});
+    form1.m_updatesuchen.Click = ereignisse.befehl([&updatecheck] { updatecheck.m_updatesuchen_Click(); });
 }
 
 } // namespace quittika

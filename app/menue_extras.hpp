@@ -8,12 +8,13 @@
 #include "safety/nummernfenster.hpp"
 #include "safety/rueckspielfenster.hpp"
 #include "safety/sicherungsfenster.hpp"
+#include "tools/updatecheck.hpp"
 
 namespace quittika {
 
 /// Wires the menu "Extras" of the main window and the buttons that stand for its commands.
 void MENUE_EXTRAS(Form1& form1, const Ereignisse& ereignisse, Eingabezeile& eingabezeile,
                   Barcodefenster& barcode, Analyzerfenster& analyzer, Nummernpruefung& nummern,
-                  Datensicherung& sicherung, Rueckspielfenster& rueckspielen);
+                  Datensicherung& sicherung, Rueckspielfenster& rueckspielen, Updatecheck& updatecheck);
 
 } // namespace quittika

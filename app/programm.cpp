@@ -9,6 +9,7 @@
 #include "app/hauptfenster.hpp"
 #include "app/kopf.hpp"
 #include "app/ladefolge.hpp"
+#include "app/menue_bearbeiten.hpp"
 #include "app/menue_datei.hpp"
 #include "app/menue_drucken.hpp"
 #include "app/menue_einstellungen.hpp"
@@ -17,6 +18,7 @@
 #include "app/menue_listen.hpp"
 #include "app/raster.hpp"
 #include "app/startfenster.hpp"
+#include "app/werkzeuge.hpp"
 #include "designer/designer.hpp"
 #include "invoice/erste_rechnung.hpp"
 #include "invoice/file/textexport.hpp"
@@ -44,12 +46,14 @@ struct Programm::Teile {
         platform.desktop.adopt(einstellungen);
         platform.desktop.adopt(programm);
         platform.desktop.adopt(form_start);
+        MENUE_BEARBEITEN(form1, ereignisse, rueckgaengig);
         MENUE_LISTEN(form1, ereignisse, platform.dialogs, kundenfenster, artikeluebernahme);
         MENUE_DRUCKEN(form1, etiketten);
         MENUE_EINSTELLUNGEN(form1, einstellungen, ereignisse, einstellungsfenster, programmfenster,
                             designeraufruf, designerfenster);
         MENUE_EXTRAS(form1, ereignisse, eingabezeile, barcodefenster, analyzerfenster, nummernpruefung,
-                     datensicherung, rueckspielfenster);
+                     datensicherung, rueckspielfenster, updatecheck);
+        WERKZEUGE(form1, ereignisse, zustand, notizfenster, verzeichnis, platform.dialogs, platform.desktop);
     }
 
     /// The window first, so that what the program asks and says stands in front of one that is there.
@@ -60,6 +64,7 @@ struct Programm::Teile {
     /// The program's own questions come before the invoice that it was started with.
     void WennDasFensterDaIst() {
         form1.Hinweise.melden(SICHERUNGSERINNERUNG(verzeichnis, platform.clock.now()));
+        updatecheck.Updatecheck_Start();
         if (!startrechnung.empty()) {
             dateibefehle.Oeffnen(startrechnung);
         }
@@ -149,7 +154,8 @@ struct Programm::Teile {
     Analyzerfenster analyzerfenster{platform.desktop, [this](Form_Analyzer& form) {
                                         return std::make_unique<Analyzer>(
                                             form, verzeichnis, platform.desktop, platform.dialogs,
-                                            platform.shell, platform.clock, platform.progress,
+                                            platform.printing, platform.shell, platform.clock,
+                                            platform.progress,
                                             [this](const std::string& pfad) { ImHauptfensterOeffnen(pfad); });
                                     }};
     Logo logo{form1, einstellungen, werte};
@@ -190,10 +196,16 @@ struct Programm::Teile {
     Designeraufruf designeraufruf{platform.dialogs, platform.clock,
                                   [this] { einstellungsfenster.UEBERNEHMEN(false); },
                                   [this] { designerfenster.open(); }};
+    Notizfenster notizfenster{
+        platform.desktop, [this](Form_Notiz& form) { return std::make_unique<Notiz>(form, form1, zustand); }};
+    Updatecheck updatecheck{form1, verzeichnis, platform.dialogs, platform.shell, platform.clock};
     ErsteRechnung erste_rechnung{form1, einstellungen, vorgaben, rechnung, nummern, platform.clock};
 
     // The main window: its areas, then the window, then its menus.
-    Ereignisse ereignisse{form1.Hinweise, zustand, summen};
+    Standaufnahme standaufnahme{form1,  werte,      zustand, eingabezeile, rechnung,
+                                summen, positionen, nummern, stand};
+    Rueckgaengig rueckgaengig{form1, zustand, standaufnahme, platform.desktop.activity()};
+    Ereignisse ereignisse{form1.Hinweise, zustand, summen, rueckgaengig};
     Kopf kopf{form1, ereignisse, kunde_aufnehmen, platform.clock};
     Eingabe eingabe{form1, ereignisse, eingabezeile, positionen, zeilenmenue, artikeluebernahme};
     Betraege betraege{form1, ereignisse, zustand, eingabezeile, summen, werte, einstellungsschreiber};

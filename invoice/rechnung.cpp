@@ -1,9 +1,9 @@
 #include "invoice/rechnung.hpp"
 
 #include "invoice/compressor.hpp"
+#include "invoice/notiztext.hpp"
 #include "invoice/zahleneingabe.hpp"
 #include "platform/datum.hpp"
-#include "platform/text.hpp"
 #include "platform/zahlen.hpp"
 
 #include <optional>
@@ -63,6 +63,7 @@ Rechnung::Rechnung(Form1& form1, Rechnungszustand& zustand, Eingabezeile& eingab
     : form1_(form1), zustand_(zustand), eingabezeile_(eingabezeile), uhr_(uhr) {}
 
 void Rechnung::RechnungLeeren() {
+    zustand_.NeuerBeleg();
     const Rechnungszustand::Sperre still(zustand_);
     KopfLeeren();
     for (TextBox* betrag : {&form1_.Text_summe, &form1_.Text_summemwst, &form1_.Text_gesamtbetrag,
@@ -116,7 +117,7 @@ void Rechnung::RasterLeeren() {
 
 void Rechnung::NotizSetzen(const std::string& notiz) {
     zustand_.Notiztext = notiz;
-    form1_.Text_Notiz.Text = ersetzen(notiz, kZeilenwechsel, "\r\n");
+    form1_.Text_Notiz.Text = NOTIZ_LESBAR(notiz);
 }
 
 void Rechnung::DarstellungAufbauen(int ab) {

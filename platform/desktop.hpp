@@ -2,6 +2,9 @@
 
 #include "platform/forms/form.hpp"
 
+#include <functional>
+#include <utility>
+
 namespace quittika {
 
 /// Colours of the windows and of the groups on them that have none of their own.
@@ -18,6 +21,10 @@ public:
     Desktop(const Desktop&) = delete;
     Desktop& operator=(const Desktop&) = delete;
     virtual ~Desktop() = default;
+
+    /// What runs on behalf of any of the windows: idle when everything that one deed of the user leads to is
+    /// done.
+    Activity& activity() { return activity_; }
 
     /// Makes a form known; from then on it can be shown. The form tells when it goes (`release`).
     virtual void adopt(Form& form) = 0;
@@ -49,6 +56,19 @@ public:
 
     /// Ends the program's event loop.
     virtual void end() = 0;
+
+    /// What F1 does in a window of the program.
+    void on_help(std::function<void(const Form&)> help) { help_ = std::move(help); }
+    /// The user has pressed F1 in a form's window.
+    void help(const Form& form) const {
+        if (help_) {
+            help_(form);
+        }
+    }
+
+private:
+    std::function<void(const Form&)> help_;
+    Activity activity_;
 };
 
 /// While one lives, the keyboard stays with a form's window whatever else is shown or asks for the focus:

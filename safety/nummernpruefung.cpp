@@ -1,6 +1,7 @@
 #include "safety/nummernpruefung.hpp"
 
-#include "analyzer/rechnungszeilen.hpp"
+#include "analyzer/rechnungsauszug.hpp"
+#include "invoice/file/dateifelder.hpp"
 #include "platform/dateianfang.hpp"
 #include "platform/dateisuche.hpp"
 #include "platform/laufzeitfehler.hpp"
@@ -112,9 +113,13 @@ std::vector<std::string> dateien_mit_unterordnern(const std::string& ordner) {
 }
 
 Nummernzeile zeile_lesen(Dateianfang& leser, const std::string& ordner, const std::string& datei) {
-    const Rechnungszeilen zeilen(leser.lesen(ordner + "/" + datei, Rechnungszeilen::REICHT));
-    return {datei, zeilen.text(rechnungszeile::kTitel), zeilen.text(dateizeile::kNummer),
-            zeilen.text(rechnungszeile::kDatum), zeilen.text(rechnungszeile::kKundenname)};
+    constexpr int kTitel = 1;
+    constexpr int kDatum = 2;
+    constexpr int kKundenname = 3;
+    Rechnungszeilen ZEILEN;
+    leser.lesen(ordner + "/" + datei, [&ZEILEN](std::string_view bytes) { return ZEILEN.lesen(bytes); });
+    return {datei, aus_ansi(ZEILEN[kTitel]), aus_ansi(ZEILEN[dateizeile::kNummer]), aus_ansi(ZEILEN[kDatum]),
+            aus_ansi(ZEILEN[kKundenname])};
 }
 
 } // namespace

@@ -18,6 +18,8 @@ protected:
     void push_all() override;
     Clicks clicks() const override { return Clicks::Shared; }
     bool eventFilter(QObject* watched, QEvent* event) override;
+    bool key_pressed(const QKeyEvent& event) override;
+    void left() override;
 
     /// The widget's text has changed under the user's hands.
     void take_text();
@@ -29,6 +31,7 @@ private:
     void push_read_only();
     void push_selection();
     void insert_copy(QDropEvent& drop);
+    bool takes_back(const QKeyEvent& key) const;
 
     bool inserting_ = false;
     bool pushing_ = false;
@@ -42,6 +45,8 @@ public:
 protected:
     /// What is marked when the field is entered stays so when it was entered by a click.
     bool eventFilter(QObject* watched, QEvent* event) override;
+    /// Escape empties a field that has a button for it; an empty one leaves the key to its window.
+    bool key_pressed(const QKeyEvent& event) override;
 
 private:
     bool marked_on_entry_ = false; ///< and the mouse button is still down

@@ -17,6 +17,9 @@
 #include "safety/form_rueckspielen.hpp"
 #include "settings/frm_einstellungen.hpp"
 #include "settings/frm_programm.hpp"
+#include "tools/form_helferlein.hpp"
+#include "tools/form_notiz.hpp"
+#include "tools/form_txt_vorlagen.hpp"
 
 #include <memory>
 #include <vector>
@@ -45,6 +48,10 @@ inline const std::vector<MakeForm> kForms{make<Form1>,
                                           make<Form_Kundenverwaltung>,
                                           make<Form_Artikelverwaltung>,
                                           make<FORM_DESIGNER>,
+                                          make<Form_txt_Vorlagen>,
+                                          make<Form_Helferlein>,
+                                          make<Form_Helferlein_Bkg>,
+                                          make<Form_Notiz>,
                                           make<Form_Analyzer>,
                                           make<Form_VerzWahlAuftrag>,
                                           make<Form_Datensicherung>,
