@@ -37,7 +37,12 @@ const std::map<std::string, Zeilen> kWege{
     {"Form_txt_Vorlagen", {"click form1.Cmd_Vorlagen"}},
     {"Form_Helferlein", {"click form1.CMD_FORM_HELFERLEIN"}},
     {"Form_Helferlein_Bkg", {"click form1.CMD_FORM_HELFERLEIN_Bkg"}},
-    {"Form_Notiz", {"click form1.Cmd_Notiz"}}};
+    {"Form_Notiz", {"click form1.Cmd_Notiz"}},
+    {"Form_Datensicherung", {"click form1.m_datensicherung"}},
+    {"Form_Rueckspielen",
+     {"click form1.m_datensicherung", "file @ORDNER@/s.zip", "click Form_Datensicherung.Command_Sichern",
+      "click Form_Datensicherung.Command_Schliessen", "file @ORDNER@/s.zip", "click form1.m_zurueckspielen"}},
+    {"Form_Nummernpruefung", {"click form1.m_nummern_pruefen"}}};
 
 /// What has to be done before a command can do anything, by the beginning of its name. "%n" is its index,
 /// "%s" the page of six that it stands on.
@@ -76,6 +81,15 @@ const std::pair<const char*, Zeilen> kVoraussetzungen[]{
     {"FORM_DESIGNER.m_Wieder",
      {"mouse FORM_DESIGNER.Image_datum down 1 9 9", "mouse FORM_DESIGNER.Image_datum up 1 9 9",
       "click FORM_DESIGNER.m_Pfeil(1)", "click FORM_DESIGNER.m_Rueckgaengig"}},
+    {"Form_Datensicherung.Command_Ordner_weg",
+     {"click Form_Datensicherung.Command_Ordner_hinzu", "set Form_VerzWahlAuftrag.Text_VerzWahl @ORDNER@",
+      "click Form_VerzWahlAuftrag.Command_OK", "select Form_Datensicherung.List_Ordner 0"}},
+    {"Form_Rueckspielen.Command_Alle", {"click Form_Rueckspielen.Command_Keine"}},
+    {"Form_Nummernpruefung.Command_Oeffnen",
+     {"click Form_Nummernpruefung.Command_Ordner", "set Form_VerzWahlAuftrag.Text_VerzWahl @ORDNER@",
+      "click Form_VerzWahlAuftrag.Command_OK", "click Form_Nummernpruefung.Command_Pruefen",
+      "select Form_Nummernpruefung.List_Befund 0"}},
+    {"Form_Nummernpruefung.Command_Speichern", {"click Form_Nummernpruefung.Command_Pruefen"}},
     {"Form_txt_Vorlagen.Command1_choose", {"click Form_txt_Vorlagen.Option%s"}}};
 
 /// Titles of menus, and a button that calculates what is calculated already.
