@@ -45,7 +45,6 @@ void Kopf::KundeVerdrahten(const Ereignisse& ereignisse, KundeAufnehmen& kunde_a
     form1_.Check_tele_nichtdrucken.Click = ereignisse.vom_benutzer(ereignisse.rechnen());
     form1_.Command_KD_Add.Click =
         ereignisse.befehl([&kunde_aufnehmen] { kunde_aufnehmen.Command_KD_Add_Click(); });
-    SPERREN({&form1_.CMD_FORM_HELFERLEIN});
 }
 
 void Kopf::TexteVerdrahten(const Ereignisse& ereignisse) {
@@ -60,7 +59,6 @@ void Kopf::TexteVerdrahten(const Ereignisse& ereignisse) {
             zeile.Change = ereignisse.eintrag();
         }
     }
-    SPERREN({&form1_.Cmd_Vorlagen, &form1_.CMD_FORM_HELFERLEIN_Bkg});
 }
 
 void Kopf::StatusVerdrahten(const Ereignisse& ereignisse) {
@@ -68,7 +66,6 @@ void Kopf::StatusVerdrahten(const Ereignisse& ereignisse) {
     form1_.Check_bezahlt.Click = ereignisse.aenderung();
     form1_.Check_abgemahnt.Click = ereignisse.aenderung([this] { Check_abgemahnt_Click(); });
     form1_.Combo1_mahnung.Click = ereignisse.eintrag();
-    SPERREN({&form1_.Cmd_Notiz});
 }
 
 void Kopf::KundeAnwaehlen() {

@@ -2,15 +2,9 @@
 
 #include "app/ueber_quittika.hpp"
 #include "tools/dokument_oeffnen.hpp"
+#include "tools/internetseiten.hpp"
 
 namespace quittika {
-
-namespace {
-
-constexpr const char* kHilfeseite = "https://www.quittika.example/hilfe.htm";
-constexpr const char* kHauptseite = "https://www.quittika.example/";
-
-} // namespace
 
 MenueHilfe::MenueHilfe(Form1& form1, const Ereignisse& ereignisse, const Programmverzeichnis& verzeichnis,
                        const PROGRAMMEINSTELLUNG& werte, Shell& shell, Dialogs& dialogs, Desktop& desktop)

@@ -17,6 +17,7 @@
 #include "app/menue_listen.hpp"
 #include "app/raster.hpp"
 #include "app/startfenster.hpp"
+#include "app/werkzeuge.hpp"
 #include "designer/designer.hpp"
 #include "invoice/erste_rechnung.hpp"
 #include "invoice/file/textexport.hpp"
@@ -48,7 +49,8 @@ struct Programm::Teile {
         MENUE_DRUCKEN(form1, etiketten);
         MENUE_EINSTELLUNGEN(form1, einstellungen, ereignisse, einstellungsfenster, programmfenster,
                             designeraufruf, designerfenster);
-        MENUE_EXTRAS(form1, ereignisse, eingabezeile, barcodefenster);
+        MENUE_EXTRAS(form1, ereignisse, eingabezeile, barcodefenster, updatecheck);
+        WERKZEUGE(form1, ereignisse, zustand, notizfenster, verzeichnis, platform.dialogs, platform.desktop);
     }
 
     /// The window first, so that what the program asks and says stands in front of one that is there.
@@ -58,6 +60,7 @@ struct Programm::Teile {
     }
     /// The program's own questions come before the invoice that it was started with.
     void WennDasFensterDaIst() {
+        updatecheck.Updatecheck_Start();
         if (!startrechnung.empty()) {
             dateibefehle.Oeffnen(startrechnung);
         }
@@ -174,6 +177,9 @@ struct Programm::Teile {
     Designeraufruf designeraufruf{platform.dialogs, platform.clock,
                                   [this] { einstellungsfenster.UEBERNEHMEN(false); },
                                   [this] { designerfenster.open(); }};
+    Notizfenster notizfenster{
+        platform.desktop, [this](Form_Notiz& form) { return std::make_unique<Notiz>(form, form1, zustand); }};
+    Updatecheck updatecheck{form1, verzeichnis, platform.dialogs, platform.shell, platform.clock};
     ErsteRechnung erste_rechnung{form1, einstellungen, vorgaben, rechnung, nummern, platform.clock};
 
     // The main window: its areas, then the window, then its menus.

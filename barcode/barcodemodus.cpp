@@ -4,6 +4,7 @@
 #include "invoice/zahleneingabe.hpp"
 #include "platform/forms/tasten.hpp"
 #include "platform/laufzeitfehler.hpp"
+#include "platform/zeilenenden.hpp"
 
 #include <utility>
 
@@ -33,16 +34,6 @@ constexpr Befehl kBefehle[] = {
 };
 
 } // namespace
-
-std::optional<std::string> ZEILE_ABTRENNEN(std::string& text) {
-    const std::size_t ende = text.find_first_of("\r\n");
-    if (ende == std::string::npos) {
-        return std::nullopt;
-    }
-    std::string zeile = text.substr(0, ende);
-    text.erase(0, ende + (text.compare(ende, 2, "\r\n") == 0 ? 2 : 1));
-    return zeile;
-}
 
 Barcodemodus::Barcodemodus(Form_Etp_Barcode& form, Form1& form1, const PROGRAMMEINSTELLUNG& werte,
                            Artikeltabelle& ARTIKEL, const Artikelzustand& artikel, Summen& summen,
@@ -81,15 +72,16 @@ void Barcodemodus::Form_Load() {
 }
 
 void Barcodemodus::Text_Barcode_Change() {
-    std::string text = form_.Text_Barcode.Text();
-    std::optional<std::string> code = ZEILE_ABTRENNEN(text);
+    const std::string text = form_.Text_Barcode.Text();
+    std::string_view rest = text;
+    std::optional<std::string_view> code = ZEILE_ABTRENNEN(rest);
     if (!code) {
         return;
     }
-    for (; code; code = ZEILE_ABTRENNEN(text)) {
-        code_annehmen(*code);
+    for (; code; code = ZEILE_ABTRENNEN(rest)) {
+        code_annehmen(std::string(*code));
     }
-    form_.Text_Barcode.Text = text;
+    form_.Text_Barcode.Text = std::string(rest);
 }
 
 void Barcodemodus::code_annehmen(const std::string& code) {
@@ -209,12 +201,12 @@ void Barcodemodus::summe_zeigen() {
 
 /// A line end hands the keyboard to the code; what follows it in a pasted text belongs there.
 void Barcodemodus::Text_Menge_Change() {
-    std::string text = form_.Text_Menge.Text();
-    const std::optional<std::string> menge = ZEILE_ABTRENNEN(text);
-    if (menge) {
-        form_.Text_Menge.Text = *menge;
+    const std::string text = form_.Text_Menge.Text();
+    std::string_view rest = text;
+    if (const auto menge = ZEILE_ABTRENNEN(rest)) {
+        form_.Text_Menge.Text = std::string(*menge);
         form_.Text_Barcode.SetFocus();
-        form_.Text_Barcode.Text = form_.Text_Barcode.Text() + text;
+        form_.Text_Barcode.Text = form_.Text_Barcode.Text() + std::string(rest);
     }
 }
 

@@ -8,7 +8,6 @@
 #include "platform/forms/opened_window.hpp"
 #include "settings/programmeinstellung.hpp"
 
-#include <optional>
 #include <string>
 
 namespace quittika {
@@ -58,9 +57,5 @@ private:
 };
 
 using Barcodefenster = OpenedWindow<Form_Etp_Barcode, Barcodemodus>;
-
-/// Takes the first text that a line end follows, and that line end, off a text; nothing where none does.
-/// Carriage return, line feed, and both together are each one line end.
-std::optional<std::string> ZEILE_ABTRENNEN(std::string& text);
 
 } // namespace quittika

@@ -1,6 +1,7 @@
 #include "designer/design.hpp"
 
 #include "platform/laufzeitfehler.hpp"
+#include "platform/schluesselzeilen.hpp"
 #include "platform/text.hpp"
 #include "platform/textdatei.hpp"
 #include "platform/zahlen.hpp"
@@ -104,23 +105,10 @@ Design DESIGN_STANDARD(const Programmverzeichnis& verzeichnis) {
     return design;
 }
 
-void designzeilen_durchgehen(
-    std::string_view bytes,
-    const std::function<bool(const std::string& schluessel, const std::string& wert)>& weiter) {
-    zeilen_durchgehen(bytes, [&weiter](std::string_view zeile) {
-        const std::size_t mitte = zeile.find(':');
-        if (mitte == std::string_view::npos) {
-            return true;
-        }
-        const std::string_view rest = zeile.substr(mitte + 1);
-        return weiter(grossbuchstaben(zeile.substr(0, mitte)), std::string(rest.substr(0, rest.find(';'))));
-    });
-}
-
 Designlesung DESIGN_LESEN(std::string_view bytes) {
     Designlesung lesung;
     std::array<bool, kZeilen.size()> gelesen{};
-    designzeilen_durchgehen(bytes, [&](const std::string& schluessel, const std::string& wert) {
+    SCHLUESSELZEILEN_DURCHGEHEN(bytes, [&](const std::string& schluessel, const std::string& wert) {
         for (std::size_t i = 0; i < kZeilen.size(); ++i) {
             if (schluessel != grossbuchstaben(kZeilen.at(i).schluessel)) {
                 continue;
@@ -151,7 +139,7 @@ Designtext DESIGN_SCHREIBEN(const Design& design) {
                      std::visit([&design](auto feld) { return text_von(design.*feld); }, zeile.feld) + ";");
     }
     Designtext text{puffer.bytes(), {}};
-    designzeilen_durchgehen(text.bytes, [&](const std::string& schluessel, const std::string& wert) {
+    SCHLUESSELZEILEN_DURCHGEHEN(text.bytes, [&](const std::string& schluessel, const std::string& wert) {
         for (const auto& [name, pfad] :
              {std::pair<const char*, const std::string&>{"IMG_LOGO", design.IMG_LOGO},
               {"IMG_WASSERZEICHEN", design.IMG_WASSERZEICHEN}}) {

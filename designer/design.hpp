@@ -3,7 +3,6 @@
 #include "platform/verzeichnis.hpp"
 
 #include <cstddef>
-#include <functional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -80,11 +79,6 @@ struct Designlesung {
 };
 /// Throws `Laufzeitfehler` 13 or 6 for a value that is no 16-bit integer, 13 where not one key is known.
 Designlesung DESIGN_LESEN(std::string_view bytes);
-
-/// Hands over key, in capitals, and value of each line until `weiter` answers false.
-void designzeilen_durchgehen(
-    std::string_view bytes,
-    const std::function<bool(const std::string& schluessel, const std::string& wert)>& weiter);
 
 /// The bytes of a design file, numbers with their fractions, paths in the system's form.
 struct Designtext {

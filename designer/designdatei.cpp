@@ -3,6 +3,7 @@
 #include "invoice/programmname.hpp"
 #include "platform/datei.hpp"
 #include "platform/laufzeitfehler.hpp"
+#include "platform/schluesselzeilen.hpp"
 #include "platform/text.hpp"
 #include "platform/textdatei.hpp"
 
@@ -21,7 +22,7 @@ std::string pfad(const Programmverzeichnis& verzeichnis) {
 /// Value of the first line with that key; empty where no line has it.
 std::string gelesener_wert(std::string_view bytes, std::string_view schluessel) {
     std::string gefunden;
-    designzeilen_durchgehen(bytes, [&](const std::string& name, const std::string& wert) {
+    SCHLUESSELZEILEN_DURCHGEHEN(bytes, [&](const std::string& name, const std::string& wert) {
         if (name == schluessel) {
             gefunden = wert;
         }

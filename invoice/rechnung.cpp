@@ -1,9 +1,9 @@
 #include "invoice/rechnung.hpp"
 
 #include "invoice/compressor.hpp"
+#include "invoice/notiztext.hpp"
 #include "invoice/zahleneingabe.hpp"
 #include "platform/datum.hpp"
-#include "platform/text.hpp"
 #include "platform/zahlen.hpp"
 
 #include <optional>
@@ -13,8 +13,6 @@
 namespace quittika {
 
 namespace {
-
-constexpr const char* kZeilenwechsel = "#$§$#";
 
 std::string Darstellungszeile(const Form1& form1, int zeile) {
     constexpr std::size_t kUeblich = 3 + 9 + 76 + 6 + 10;
@@ -118,7 +116,7 @@ void Rechnung::RasterLeeren() {
 
 void Rechnung::NotizSetzen(const std::string& notiz) {
     zustand_.Notiztext = notiz;
-    form1_.Text_Notiz.Text = ersetzen(notiz, kZeilenwechsel, "\r\n");
+    form1_.Text_Notiz.Text = NOTIZ_LESBAR(notiz);
 }
 
 void Rechnung::DarstellungAufbauen(int ab) {

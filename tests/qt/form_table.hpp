@@ -12,6 +12,9 @@
 #include "print/form_lieferschein_opt.hpp"
 #include "settings/frm_einstellungen.hpp"
 #include "settings/frm_programm.hpp"
+#include "tools/form_helferlein.hpp"
+#include "tools/form_notiz.hpp"
+#include "tools/form_txt_vorlagen.hpp"
 
 #include <memory>
 #include <vector>
@@ -39,6 +42,10 @@ inline const std::vector<MakeForm> kForms{make<Form1>,
                                           make<frm_einstellungen>,
                                           make<Form_Kundenverwaltung>,
                                           make<Form_Artikelverwaltung>,
-                                          make<FORM_DESIGNER>};
+                                          make<FORM_DESIGNER>,
+                                          make<Form_txt_Vorlagen>,
+                                          make<Form_Helferlein>,
+                                          make<Form_Helferlein_Bkg>,
+                                          make<Form_Notiz>};
 
 } // namespace quittika::test

@@ -14,6 +14,7 @@ here=$(dirname "$(realpath "$0")")
 work=$(mktemp -d)
 folder=$work/ordner
 mkdir "$folder"
+printf '1\r\n' >"$folder/prgaufruf.lld" # a first start would ask whether to look for a newer version
 trap 'chmod -R u+w "$work" 2>/dev/null; rm -rf "$work"' EXIT
 
 # A text file of the program, its line ends made visible where they are not CR LF.

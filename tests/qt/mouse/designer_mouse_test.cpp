@@ -2,6 +2,7 @@
 #include "designer/design.hpp"
 #include "invoice/form1.hpp"
 #include "platform/qt/qt_platform.hpp"
+#include "platform/schluesselzeilen.hpp"
 #include "tests/pruefstand.hpp"
 
 #include <gtest/gtest.h>
@@ -74,7 +75,7 @@ TEST(DesignerMouse, BlocksStandWhereTheyWereDropped) {
     ASSERT_TRUE(QTest::qWaitFor([] { return open_window("FORM_DESIGNER") == nullptr; }));
 
     std::map<std::string, double> saved;
-    designzeilen_durchgehen(folder.lesen("design.dsg"), [&](const std::string& key, const std::string& text) {
+    SCHLUESSELZEILEN_DURCHGEHEN(folder.lesen("design.dsg"), [&](const std::string& key, const std::string& text) {
         saved[key] = QString::fromStdString(text).replace(QLatin1Char(','), QLatin1Char('.')).toDouble();
         return true;
     });
