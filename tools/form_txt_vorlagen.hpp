@@ -12,7 +12,7 @@ namespace quittika {
 struct Form_txt_Vorlagen : Form {
     static constexpr int kProSeite = 6;
 
-    Form_txt_Vorlagen() : Form_txt_Vorlagen(std::make_index_sequence<kVorlagen>{}) {}
+    Form_txt_Vorlagen() : Form_txt_Vorlagen(std::make_index_sequence<kTextvorlagen>{}) {}
 
     OptionButton Option1{*this, "Option1", "Vorlagen &1-6"};
     OptionButton Option2{*this, "Option2", "Vorlagen &7-12"};
@@ -30,7 +30,7 @@ struct Form_txt_Vorlagen : Form {
         std::array<TextBox, kVorlagenzeilen> Text;        ///< Text1 to Text4
         std::array<Label, kVorlagenzeilen> Label_Hinweis; ///< beside the fields, what will not be kept
     };
-    std::array<Vorlage, kVorlagen> Vorlagen;
+    std::array<Vorlage, kTextvorlagen> Vorlagen;
 
     CommandButton Command1_SAVE{*this, "Command1_SAVE", "&Speichern"};
     CommandButton Command1{*this, "Command1", "S&chliessen"};

@@ -8,11 +8,11 @@
 
 namespace quittika {
 
-inline constexpr int kVorlagen = 18;
+inline constexpr int kTextvorlagen = 18;
 inline constexpr int kVorlagenzeilen = 4;
 
 /// The texts of all templates: template, line.
-using Vorlagentexte = std::array<std::array<std::string, kVorlagenzeilen>, kVorlagen>;
+using Vorlagentexte = std::array<std::array<std::string, kVorlagenzeilen>, kTextvorlagen>;
 
 /// What a file keeps of a template's line: one line, up to the first ";".
 std::string VORLAGENTEXT(std::string_view text);
