@@ -41,7 +41,7 @@ struct Form_txt_Vorlagen : Form {
 private:
     template <std::size_t... I>
     explicit Form_txt_Vorlagen(std::index_sequence<I...> /*nummern*/)
-        : Form("Form_txt_Vorlagen", "Textvorlagen", {.width = twips(980), .height = twips(640)}),
+        : Form("Form_txt_Vorlagen", "Textvorlagen", {.width = twips(980), .height = twips(580)}),
           Vorlagen{{Vorlage(*Seiten().at(I / kProSeite), static_cast<int>(I))...}} {
         Option1.Value.adopt(true);
         Frame2.Visible.adopt(false);
