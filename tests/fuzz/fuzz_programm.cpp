@@ -1,12 +1,10 @@
 // The whole program under a user without a plan: fuzz_programm <seed> <seconds>
 // Without a fault it says how much it did and returns 0. A fault is printed as the shortest script found that
 // still shows it, which tests/skripte/pruefen.sh and (but for its "#$" lines) quittika-skript replay.
-#include "app/programm.hpp"
-#include "platform/script/runner.hpp"
 #include "platform/text.hpp"
-#include "tests/feste_schrift.hpp"
 #include "tests/fuzz/pruefung.hpp"
 #include "tests/fuzz/zufallsnutzer.hpp"
+#include "tests/programmlauf.hpp"
 #include "tests/pruefstand.hpp"
 
 #include <chrono>
@@ -36,51 +34,12 @@ bool nur_abgelehnt(const std::string& antwort) {
     });
 }
 
-/// Hands the runner one line after the other and looks at the program in between.
-class Eingabe : public std::streambuf {
-public:
-    /// Called before each line that is asked for; false ends the input.
-    std::function<bool(std::string& zeile)> naechste;
-
-protected:
-    int_type underflow() override {
-        zeile_.clear();
-        if (!naechste(zeile_)) {
-            return traits_type::eof();
-        }
-        zeile_ += '\n';
-        setg(zeile_.data(), zeile_.data(), zeile_.data() + zeile_.size());
-        return traits_type::to_int_type(zeile_.front());
-    }
-
-private:
-    std::string zeile_;
-};
-
-/// A program on the scripted platform, driven from outside.
-struct Lauf {
-    Eingabe eingabe;
-    std::istream ein{&eingabe};
-    std::ostringstream aus;
-    FesteSchrift schrift;
-    Runner runner{{[](Platform platform, const std::string& ordner) {
-                       auto programm = std::make_shared<Programm>(platform, ordner);
-                       programm->starten();
-                       return programm;
-                   },
-                   schrift},
-                  ein,
-                  aus};
-
-    Form1* form1() { return dynamic_cast<Form1*>(runner.platform().desktop.find("form1")); }
-};
-
 /// What the file of the invoice in hand holds, read by a program of its own, against that invoice.
 std::string Lesebefund(Form1& f, const std::string& ordner) {
     const std::string pfad = f.Label_Pfad.Caption();
     Zeilen zeilen{"click form1.m_oeffnen", "file " + pfad, "start " + ordner + "/leser 2008-03-05T10:20:30"};
     std::string befund;
-    Lauf leser;
+    Programmlauf leser;
     leser.eingabe.naechste = [&](std::string& zeile) {
         if (zeilen.empty()) {
             Form1* const gelesen = leser.form1();
@@ -164,7 +123,7 @@ private:
 
     Probenordner ordner_;
     std::ostream* protokoll_;
-    Lauf lauf_;
+    Programmlauf lauf_;
     std::function<Zeilen(const ScriptDesktop&)> weiter_;
     Zeilen vorrat_;
     std::size_t offen_ = 0;
