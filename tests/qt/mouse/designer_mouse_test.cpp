@@ -75,10 +75,11 @@ TEST(DesignerMouse, BlocksStandWhereTheyWereDropped) {
     ASSERT_TRUE(QTest::qWaitFor([] { return open_window("FORM_DESIGNER") == nullptr; }));
 
     std::map<std::string, double> saved;
-    SCHLUESSELZEILEN_DURCHGEHEN(folder.lesen("design.dsg"), [&](const std::string& key, const std::string& text) {
-        saved[key] = QString::fromStdString(text).replace(QLatin1Char(','), QLatin1Char('.')).toDouble();
-        return true;
-    });
+    SCHLUESSELZEILEN_DURCHGEHEN(
+        folder.lesen("design.dsg"), [&](const std::string& key, const std::string& text) {
+            saved[key] = QString::fromStdString(text).replace(QLatin1Char(','), QLatin1Char('.')).toDouble();
+            return true;
+        });
     const double half = mm_per_pixel / 2;
     EXPECT_NEAR(saved["X_KDNR"], standard.X_KDNR - 161 * mm_per_pixel, half);
     EXPECT_NEAR(saved["Y_KDNR"], standard.Y_KDNR + 73 * mm_per_pixel, half);
