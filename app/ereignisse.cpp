@@ -50,10 +50,4 @@ std::function<void(const std::string&)> ABLEGEN(TextBox& feld) {
     return [&feld](const std::string& text) { feld.Text = einzeilig(text); };
 }
 
-void SPERREN(std::initializer_list<Control*> befehle) {
-    for (Control* befehl : befehle) {
-        befehl->Enabled = false;
-    }
-}
-
 } // namespace quittika

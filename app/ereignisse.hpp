@@ -5,7 +5,6 @@
 #include "platform/forms/tasten.hpp"
 
 #include <functional>
-#include <initializer_list>
 #include <string>
 
 namespace quittika {
@@ -36,8 +35,5 @@ private:
 
 /// Takes dropped text over in one line: each character of a line end becomes a blank.
 std::function<void(const std::string&)> ABLEGEN(TextBox& feld);
-
-/// Commands whose windows the program does not have are not offered.
-void SPERREN(std::initializer_list<Control*> befehle);
 
 } // namespace quittika

@@ -49,7 +49,7 @@ struct Programm::Teile {
         MENUE_DRUCKEN(form1, etiketten);
         MENUE_EINSTELLUNGEN(form1, einstellungen, ereignisse, einstellungsfenster, programmfenster,
                             designeraufruf, designerfenster);
-        MENUE_EXTRAS(form1, ereignisse, eingabezeile, barcodefenster, updatecheck);
+        MENUE_EXTRAS(form1, ereignisse, eingabezeile, barcodefenster, analyzerfenster, updatecheck);
         WERKZEUGE(form1, ereignisse, zustand, notizfenster, verzeichnis, platform.dialogs, platform.desktop);
     }
 
@@ -139,6 +139,18 @@ struct Programm::Teile {
                                                                             artikelzustand, summen,
                                                                             platform.desktop);
                                   }};
+    Analyzerfenster analyzerfenster{
+        platform.desktop, [this](Form_Analyzer& form) {
+            return std::make_unique<Analyzer>(
+                form, verzeichnis, platform.desktop, platform.dialogs, platform.shell, platform.clock,
+                platform.progress, [this](const std::string& pfad) {
+                    const bool frei =
+                        !zustand.geaendert() || dateibefehle.VorherSpeichern(Buttons::YesNoCancel);
+                    if (frei && dateibefehle.oeffneRN(pfad)) {
+                        form1.Show();
+                    }
+                });
+        }};
     Logo logo{form1, einstellungen, werte};
     Programmstil stil{form1, einstellungen, programm, werte, platform.desktop, [this] {
                           if (Kundenverwaltung* kunden = kundenfenster.module()) {

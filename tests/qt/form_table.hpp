@@ -1,5 +1,7 @@
 #pragma once
 
+#include "analyzer/form_analyzer.hpp"
+#include "analyzer/form_verzwahlauftrag.hpp"
 #include "app/form_start.hpp"
 #include "app/form_ueber_quittika.hpp"
 #include "barcode/form_etp_barcode.hpp"
@@ -46,6 +48,8 @@ inline const std::vector<MakeForm> kForms{make<Form1>,
                                           make<Form_txt_Vorlagen>,
                                           make<Form_Helferlein>,
                                           make<Form_Helferlein_Bkg>,
-                                          make<Form_Notiz>};
+                                          make<Form_Notiz>,
+                                          make<Form_Analyzer>,
+                                          make<Form_VerzWahlAuftrag>};
 
 } // namespace quittika::test
