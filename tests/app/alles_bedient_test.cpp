@@ -32,6 +32,8 @@ const std::map<std::string, Zeilen> kWege{
     {"Form_Kundenverwaltung", {"click form1.Command_Kundenliste"}},
     {"Form_Artikelverwaltung", {"click form1.Command_Artikelliste"}},
     {"FORM_DESIGNER", {"click form1.m_startdesigner"}},
+    {"Form_Analyzer", {"click form1.m_start_analyzer"}},
+    {"Form_VerzWahlAuftrag", {"click form1.m_start_analyzer", "click Form_Analyzer.Command_Quellordner"}},
     {"Form_txt_Vorlagen", {"click form1.Cmd_Vorlagen"}},
     {"Form_Helferlein", {"click form1.CMD_FORM_HELFERLEIN"}},
     {"Form_Helferlein_Bkg", {"click form1.CMD_FORM_HELFERLEIN_Bkg"}},
