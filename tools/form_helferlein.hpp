@@ -3,6 +3,10 @@
 #include "platform/forms/controls.hpp"
 #include "platform/forms/twips.hpp"
 
+#include <string>
+#include <string_view>
+#include <utility>
+
 namespace quittika {
 
 /// A window that takes a text from elsewhere for four fields of the invoice.

@@ -4,6 +4,7 @@
 #include "platform/forms/twips.hpp"
 #include "tools/vorlagendatei.hpp"
 
+#include <array>
 #include <utility>
 
 namespace quittika {

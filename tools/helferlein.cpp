@@ -4,6 +4,8 @@
 #include "platform/zeilenenden.hpp"
 
 #include <algorithm>
+#include <iterator>
+#include <utility>
 
 namespace quittika {
 

@@ -1,6 +1,7 @@
 #include "tools/updatecheck.hpp"
 
 #include "invoice/programmname.hpp"
+#include "platform/fluechtige_datei.hpp"
 #include "platform/laufzeitfehler.hpp"
 #include "platform/textdatei.hpp"
 #include "platform/zahlen.hpp"
@@ -92,7 +93,7 @@ void Updatecheck::Neujahr() {
 
 void Updatecheck::zaehler_schreiben(int zaehler) const {
     try {
-        DATEI_SCHREIBEN(pfad_, std::to_string(zaehler));
+        DATEI_FLUECHTIG_SCHREIBEN(pfad_, std::to_string(zaehler));
     } catch (const Laufzeitfehler&) {
         return; // the reminder comes by chance then
     }
