@@ -10,12 +10,13 @@
 #include "platform/qt/qt_text.hpp"
 #include "platform/qt/widgets/theme.hpp"
 #include "platform/qt/window_picture.hpp"
+#include "platform/script/script_dialogs.hpp"
 
 #include <QAbstractButton>
 #include <QEventLoop>
 #include <QFont>
+#include <QKeyEvent>
 #include <QLineEdit>
-#include <QListView>
 #include <QTabWidget>
 #include <QTemporaryDir>
 #include <QTimer>
@@ -62,41 +63,100 @@ struct Aufnahme {
     const char* fenster;
     void (*hinfuehren)(Form1&);
     void (*im_fenster)() = [] {};
+    const char* ausschnitt = nullptr; ///< the part of the window that is wanted; all of it without
 };
 
+void druecken(const char* fenster, const char* knopf) {
+    teil<QAbstractButton>(fenster, knopf).click();
+}
+
+void tippen(const char* fenster, const char* feld, const char* text) {
+    teil<QLineEdit>(fenster, feld).setText(QString::fromUtf8(text));
+}
+
+void taste(int code, const QString& text) {
+    QKeyEvent druck(QEvent::KeyPress, code, Qt::NoModifier, text);
+    QApplication::sendEvent(QApplication::focusWidget(), &druck);
+}
+
+void scannen(const char* code) {
+    for (const char* zeichen = code; *zeichen != 0; ++zeichen) {
+        taste(*zeichen, QString(QLatin1Char(*zeichen)));
+    }
+    taste(Qt::Key_Return, QStringLiteral("\r"));
+}
+
+/// A page of the invoice settings.
 void blatt(int seite) {
-    fenster("frm_einstellungen")->findChild<QTabWidget*>()->setCurrentIndex(seite);
+    QWidget* einstellungen = fenster("frm_einstellungen");
+    einstellungen->resize(1024, 560);
+    einstellungen->findChild<QTabWidget*>()->setCurrentIndex(seite);
 }
 
 void oeffnen(Form1& form1, const char* rechnung) {
     form1.FilesDropped({(fs::current_path() / rechnung).string()});
+    form1.StatusBar1[3].Caption = rechnung; // where it lies today is nobody's business
 }
 
+void zeile_eintippen(Form1& form1) {
+    form1.Text_Menge.Text = "3";
+    form1.Text_leistung.Text = "Haken, verzinkt";
+    form1.Text_preis.Text = "1,25";
+}
+
+/// A picture more is a row here, and its name in the text of the manual.
 const Aufnahme kAufnahmen[] = {
-    {"leer", "form1", [](Form1&) {}},
-    {"hauptfenster", "form1",
-     [](Form1& f) {
-         oeffnen(f, "Beispielrechnung.qk8");
-         f.List_DARSTELLUNG.ListIndex = 0;
-     }},
-    {"kundenliste", "Form_Kundenverwaltung", [](Form1& f) { f.m_Kundenliste.Click(); },
-     [] { teil<QLineEdit>("Form_Kundenverwaltung", "Text_suchen").setText("muster"); }},
-    {"artikelliste", "Form_Artikelverwaltung", [](Form1& f) { f.m_Artikelliste.Click(); },
-     [] { teil<QAbstractButton>("Form_Artikelverwaltung", "Command_neuerArtikel").click(); }},
-    {"scanner", "Form_Etp_Barcode", [](Form1& f) { f.Cmd_Barcode.Click(); }},
-    {"vorschau", "Form_Druckvorschau", [](Form1& f) { f.m_Vorschau.Click(); }},
+    {"hauptfenster", "form1", [](Form1& f) { oeffnen(f, "Beispielrechnung.qk8"); }},
+    {"kunde", "form1", [](Form1&) {}, [] {}, "Frame_Kundendaten"},
+    {"mehrwertsteuer", "form1", [](Form1&) {}, [] {}, "Frame6"},
+    {"positionen", "form1", zeile_eintippen, [] { fenster("form1")->resize(1360, 780); }, "Frame_ADDs"},
     {"firmendaten", "frm_einstellungen", [](Form1& f) { f.m_Rechnungsdaten.Click(); }, [] { blatt(0); }},
     {"logo", "frm_einstellungen", [](Form1& f) { f.m_Rechnungsdaten.Click(); }, [] { blatt(4); }},
     {"layouts", "frm_einstellungen", [](Form1& f) { f.m_Rechnungsdaten.Click(); }, [] { blatt(6); }},
-    {"justierung", "frm_einstellungen", [](Form1& f) { f.m_Rechnungsdaten.Click(); }, [] { blatt(9); }},
-    {"programmeinstellungen", "frm_Programm", [](Form1& f) { f.m_Programmeinstellungen.Click(); }},
+    {"justierung", "frm_einstellungen", [](Form1& f) { f.m_druckjustierung.Click(); }, [] {}, "SSTab1"},
     {"designer", "FORM_DESIGNER", [](Form1& f) { f.m_startdesigner.Click(); }},
+    {"kundenliste", "Form_Kundenverwaltung", [](Form1& f) { f.m_Kundenliste.Click(); }},
+    {"artikelliste", "Form_Artikelverwaltung", [](Form1& f) { f.m_Artikelliste.Click(); },
+     [] {
+         druecken("Form_Artikelverwaltung", "Command_neuerArtikel");
+         tippen("Form_Artikelverwaltung", "Text_leistung", "Regalboden Eiche, 80 x 30 cm");
+         tippen("Form_Artikelverwaltung", "Text_preis", "24,90");
+     }},
+    {"vorschau", "Form_Druckvorschau", [](Form1& f) { f.m_Vorschau.Click(); }},
+    {"blatt", "Form_Druckvorschau", [](Form1& f) { f.m_Vorschau.Click(); },
+     [] {
+         fenster("Form_Druckvorschau")->resize(660, 960);
+         druecken("Form_Druckvorschau", "Command_Seite");
+     }},
+    {"lieferschein", "Form_Lieferschein_opt",
+     [](Form1& f) {
+         f.Option_LIEFERSCHEIN.Value = true;
+         f.m_Rechnung_pdf_export.Click();
+     },
+     [] {}},
     {"umschlag", "Form2_Breiter_Brief", [](Form1& f) { f.m_druckenBRIEF.Click(); }},
+    {"scanner", "Form_Etp_Barcode", [](Form1& f) { f.Cmd_Barcode.Click(); },
+     [] { scannen("4006381333931"); }},
+    {"programmeinstellungen", "frm_Programm", [](Form1& f) { f.m_Programmeinstellungen.Click(); }},
 };
+
+QImage ausschneiden(QWidget& offen, const char* name) {
+    constexpr int kRand = 4;
+    QImage ganz = window_picture(offen, kVergroesserung);
+    if (name == nullptr) {
+        return ganz;
+    }
+    const auto& ausschnitt = teil<QWidget>(qPrintable(offen.objectName()), name);
+    const QRect platz = QRect(ausschnitt.mapTo(&offen, QPoint()), ausschnitt.size())
+                            .marginsAdded({kRand, kRand, kRand, kRand}) &
+                        offen.rect();
+    ganz.setDevicePixelRatio(1);
+    return ganz.copy(QRect(platz.topLeft() * kVergroesserung, platz.size() * kVergroesserung));
+}
 
 /// Brings the program there, waits until the window is at rest, saves the picture and closes the window.
 void aufnehmen(const Aufnahme& aufnahme, Form1& form1, const fs::path& ziel) {
-    constexpr int kRuhe = 250; ///< milliseconds
+    constexpr int kRuhe = 120; ///< milliseconds
     QEventLoop warten;
     QTimer::singleShot(0, &warten, [&] {
         try {
@@ -111,7 +171,7 @@ void aufnehmen(const Aufnahme& aufnahme, Form1& form1, const fs::path& ziel) {
         if (offen != nullptr) {
             aufnahme.im_fenster();
             QTimer::singleShot(kRuhe, &warten, [&, offen] {
-                const QImage bild = window_picture(*offen, kVergroesserung);
+                const QImage bild = ausschneiden(*offen, aufnahme.ausschnitt);
                 gelungen = bild.save(path_to_qt((ziel / aufnahme.datei).string() + ".png"));
                 if (offen->objectName() != "form1") {
                     offen->close();
@@ -133,7 +193,8 @@ void einrichten(const fs::path& ordner, const std::vector<fs::path>& quellen) {
     for (const fs::path& quelle : quellen) {
         fs::copy(quelle, ordner, fs::copy_options::recursive);
     }
-    std::ofstream(ordner / "prgaufruf.lld") << "1\r\n"; // no start that asks something
+    std::ofstream(ordner / "prgaufruf.lld") << "1\r\n";
+    std::ofstream(ordner / "RN.txt") << "18\r\n";
     fs::current_path(ordner);
 }
 
@@ -141,8 +202,8 @@ int alle_aufnehmen(const fs::path& ziel, const fs::path& ordner) {
     QtPlatform plattform;
     Platform teile = plattform.platform();
     Bilduhr uhr;
-    Platform mit_uhr{teile.desktop,  teile.dialogs,  teile.shell,   uhr,
-                     teile.printing, teile.progress, teile.pictures};
+    ScriptDialogs stumm; // no question stops the work
+    Platform mit_uhr{teile.desktop, stumm, teile.shell, uhr, teile.printing, teile.progress, teile.pictures};
     Programm programm(mit_uhr, ordner.string());
     auto& form1 = dynamic_cast<Form1&>(programm.hauptfenster());
     int ergebnis = 0;
@@ -165,6 +226,7 @@ int alle_aufnehmen(const fs::path& ziel, const fs::path& ordner) {
 void bildschirm_beschreiben(const fs::path& datei) {
     std::ofstream(datei) << R"({"screens": [{"name": "Bild", "x": 0, "y": 0, "width": 1920, "height": 1200,
         "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})";
+    qputenv("QT_LOGGING_RULES", "default.warning=false"); // about what such a screen cannot do
     qputenv("QT_QPA_PLATFORM", QByteArray("offscreen:configfile=") + datei.c_str());
 }
 
