@@ -95,7 +95,7 @@ void blatt(int seite) {
 
 void oeffnen(Form1& form1, const char* rechnung) {
     form1.FilesDropped({(fs::current_path() / rechnung).string()});
-    form1.StatusBar1[3].Caption = rechnung; // where it lies today is nobody's business
+    form1.Label_Pfad.Caption = std::string("Rechnungen 2008/") + rechnung;
 }
 
 void zeile_eintippen(Form1& form1) {
@@ -106,18 +106,21 @@ void zeile_eintippen(Form1& form1) {
 
 /// A picture more is a row here, and its name in the text of the manual.
 const Aufnahme kAufnahmen[] = {
-    {"hauptfenster", "form1", [](Form1& f) { oeffnen(f, "Beispielrechnung.qk8"); }},
+    {"hauptfenster", "form1", [](Form1& f) { oeffnen(f, "Beispielrechnung.qk8"); },
+     [] { fenster("form1")->resize(1360, 760); }},
     {"kunde", "form1", [](Form1&) {}, [] {}, "Frame_Kundendaten"},
     {"mehrwertsteuer", "form1", [](Form1&) {}, [] {}, "Frame6"},
-    {"positionen", "form1", zeile_eintippen, [] { fenster("form1")->resize(1360, 780); }, "Frame_ADDs"},
+    {"positionen", "form1", zeile_eintippen, [] { fenster("form1")->resize(1180, 690); }, "Frame_ADDs"},
     {"firmendaten", "frm_einstellungen", [](Form1& f) { f.m_Rechnungsdaten.Click(); }, [] { blatt(0); }},
     {"logo", "frm_einstellungen", [](Form1& f) { f.m_Rechnungsdaten.Click(); }, [] { blatt(4); }},
     {"layouts", "frm_einstellungen", [](Form1& f) { f.m_Rechnungsdaten.Click(); }, [] { blatt(6); }},
     {"justierung", "frm_einstellungen", [](Form1& f) { f.m_druckjustierung.Click(); }, [] {}, "SSTab1"},
     {"designer", "FORM_DESIGNER", [](Form1& f) { f.m_startdesigner.Click(); }},
-    {"kundenliste", "Form_Kundenverwaltung", [](Form1& f) { f.m_Kundenliste.Click(); }},
+    {"kundenliste", "Form_Kundenverwaltung", [](Form1& f) { f.m_Kundenliste.Click(); },
+     [] { fenster("Form_Kundenverwaltung")->resize(940, 360); }},
     {"artikelliste", "Form_Artikelverwaltung", [](Form1& f) { f.m_Artikelliste.Click(); },
      [] {
+         fenster("Form_Artikelverwaltung")->resize(1000, 460);
          druecken("Form_Artikelverwaltung", "Command_neuerArtikel");
          tippen("Form_Artikelverwaltung", "Text_leistung", "Regalboden Eiche, 80 x 30 cm");
          tippen("Form_Artikelverwaltung", "Text_preis", "24,90");
