@@ -157,39 +157,63 @@ QImage ausschneiden(QWidget& offen, const char* name) {
     return ganz.copy(QRect(platz.topLeft() * kVergroesserung, platz.size() * kVergroesserung));
 }
 
-/// Brings the program there, waits until the window is at rest, saves the picture and closes the window.
-void aufnehmen(const Aufnahme& aufnahme, Form1& form1, const fs::path& ziel) {
-    constexpr int kRuhe = 120; ///< milliseconds
-    QEventLoop warten;
-    QTimer::singleShot(0, &warten, [&] {
-        try {
-            aufnahme.hinfuehren(form1);
-        } catch (const std::exception& fehler) {
-            std::cerr << aufnahme.datei << ": " << fehler.what() << '\n';
-        }
-    });
-    bool gelungen = false;
-    QTimer::singleShot(kRuhe, &warten, [&] {
-        QWidget* offen = fenster(aufnahme.fenster);
-        if (offen != nullptr) {
-            aufnahme.im_fenster();
-            QTimer::singleShot(kRuhe, &warten, [&, offen] {
-                const QImage bild = ausschneiden(*offen, aufnahme.ausschnitt);
-                gelungen = bild.save(path_to_qt((ziel / aufnahme.datei).string() + ".png"));
-                if (offen->objectName() != "form1") {
-                    offen->close();
-                }
-                warten.quit();
-            });
-            return;
-        }
-        warten.quit();
-    });
-    warten.exec();
-    if (!gelungen) {
-        throw std::runtime_error(std::string("Kein Bild ") + aufnahme.datei);
+/// Takes the pictures, one after the other.
+class Fotograf {
+public:
+    Fotograf(Form1& form1, fs::path ziel) : form1_(form1), ziel_(std::move(ziel)) {
+        constexpr int kTakt = 100; ///< milliseconds
+        takt_.setInterval(kTakt);
+        QObject::connect(&takt_, &QTimer::timeout, [this] { hinsehen(); });
     }
-}
+
+    /// Brings the program there, waits until two looks at the window see the same, saves that and closes the
+    /// window. Returns whether there is a picture.
+    bool aufnehmen(const Aufnahme& aufnahme) {
+        aufnahme_ = &aufnahme;
+        zuletzt_ = QImage();
+        blicke_ = 0;
+        gelungen_ = false;
+        takt_.start();
+        QTimer::singleShot(0, &takt_, [this] { aufnahme_->hinfuehren(form1_); });
+        warten_.exec();
+        takt_.stop();
+        return gelungen_;
+    }
+
+private:
+    void hinsehen() {
+        constexpr int kGeduld = 50; ///< looks
+        QWidget* offen = fenster(aufnahme_->fenster);
+        if (++blicke_ > kGeduld) {
+            warten_.quit();
+        } else if (offen != nullptr && zuletzt_.isNull()) {
+            aufnahme_->im_fenster();
+            zuletzt_ = ausschneiden(*offen, aufnahme_->ausschnitt);
+        } else if (offen != nullptr) {
+            const QImage bild = ausschneiden(*offen, aufnahme_->ausschnitt);
+            if (bild == std::exchange(zuletzt_, bild)) {
+                fertig(*offen);
+            }
+        }
+    }
+
+    void fertig(QWidget& offen) {
+        gelungen_ = zuletzt_.save(path_to_qt((ziel_ / aufnahme_->datei).string() + ".png"));
+        if (offen.objectName() != form1_.name().c_str()) {
+            offen.close();
+        }
+        warten_.quit();
+    }
+
+    Form1& form1_;
+    fs::path ziel_;
+    QTimer takt_;
+    QEventLoop warten_;
+    const Aufnahme* aufnahme_ = nullptr;
+    QImage zuletzt_;
+    int blicke_ = 0;
+    bool gelungen_ = false;
+};
 
 /// A program folder of its own, with what ships and the sample lists in it.
 void einrichten(const fs::path& ordner, const std::vector<fs::path>& quellen) {
@@ -209,20 +233,19 @@ int alle_aufnehmen(const fs::path& ziel, const fs::path& ordner) {
     Platform mit_uhr{teile.desktop, stumm, teile.shell, uhr, teile.printing, teile.progress, teile.pictures};
     Programm programm(mit_uhr, ordner.string());
     auto& form1 = dynamic_cast<Form1&>(programm.hauptfenster());
-    int ergebnis = 0;
+    Fotograf fotograf(form1, ziel);
+    int fehlend = 0;
     QTimer::singleShot(0, [&] {
-        try {
-            for (const Aufnahme& aufnahme : kAufnahmen) {
-                aufnehmen(aufnahme, form1, ziel);
+        for (const Aufnahme& aufnahme : kAufnahmen) {
+            if (!fotograf.aufnehmen(aufnahme)) {
+                std::cerr << "Kein Bild: " << aufnahme.datei << '\n';
+                ++fehlend;
             }
-        } catch (const std::exception& fehler) {
-            std::cerr << fehler.what() << '\n';
-            ergebnis = 1;
         }
         plattform.desktop().end();
     });
     plattform.desktop().run([&programm] { programm.hauptfenster_zeigen(); });
-    return ergebnis;
+    return fehlend == 0 ? 0 : 1;
 }
 
 /// A screen that every window has room on.
@@ -254,6 +277,7 @@ int main(int argc, char** argv) {
     bildschirm_beschreiben(bildschirm);
     const QtApplication anwendung(argc, argv);
     QApplication::setFont(QFont(QStringLiteral("Liberation Sans"), 10));
+    QApplication::setCursorFlashTime(0);
     theme::apply(*qApp);
     einrichten(ordner, quellen);
     return alle_aufnehmen(ziel, ordner);
