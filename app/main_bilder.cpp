@@ -110,7 +110,7 @@ const Aufnahme kAufnahmen[] = {
      [] { fenster("form1")->resize(1360, 760); }},
     {"kunde", "form1", [](Form1&) {}, [] {}, "Frame_Kundendaten"},
     {"mehrwertsteuer", "form1", [](Form1&) {}, [] {}, "Frame6"},
-    {"positionen", "form1", zeile_eintippen, [] { fenster("form1")->resize(1180, 690); }, "Frame_ADDs"},
+    {"positionen", "form1", zeile_eintippen, [] { fenster("form1")->resize(1180, 716); }, "Frame_ADDs"},
     {"firmendaten", "frm_einstellungen", [](Form1& f) { f.m_Rechnungsdaten.Click(); }, [] { blatt(0); }},
     {"logo", "frm_einstellungen", [](Form1& f) { f.m_Rechnungsdaten.Click(); }, [] { blatt(4); }},
     {"layouts", "frm_einstellungen", [](Form1& f) { f.m_Rechnungsdaten.Click(); }, [] { blatt(6); }},
