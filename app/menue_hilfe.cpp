@@ -1,5 +1,6 @@
 #include "app/menue_hilfe.hpp"
 
+#include "app/hilfekapitel.hpp"
 #include "app/ueber_quittika.hpp"
 #include "tools/dokument_oeffnen.hpp"
 #include "tools/internetseiten.hpp"
@@ -9,8 +10,12 @@ namespace quittika {
 MenueHilfe::MenueHilfe(Form1& form1, const Ereignisse& ereignisse, const Programmverzeichnis& verzeichnis,
                        const PROGRAMMEINSTELLUNG& werte, Shell& shell, Dialogs& dialogs, Desktop& desktop)
     : shell_(shell), dialogs_(dialogs) {
-    form1.m_Benutzerhandbuch_html.Click =
-        oeffnen("file:///" + verzeichnis.pfad("\\startbenutzerhandbuch.htm"));
+    const std::string handbuch = "file:///" + verzeichnis.pfad("\\startbenutzerhandbuch.htm");
+    form1.m_Hilfe_Fenster.Click = oeffnen(handbuch + '#' + std::string(HILFEKAPITEL(form1.name())));
+    form1.m_Benutzerhandbuch_html.Click = oeffnen(handbuch);
+    desktop.on_help([this, handbuch](const Form& fenster) {
+        DOKUMENT_OEFFNEN(handbuch + '#' + std::string(HILFEKAPITEL(fenster.name())), shell_, dialogs_);
+    });
     form1.m_Benutzerhandbuch_pdf.Click = oeffnen(verzeichnis.pfad("\\Benutzerhandbuch - Quittika 2008.pdf"));
     form1.m_ErsteRechnungerstellen.Click = oeffnen(verzeichnis.pfad("\\DIE_ERSTE_RECHNUNG.pdf"));
     form1.m_hilfe.Click = oeffnen(kHilfeseite);

@@ -12,7 +12,7 @@
 
 namespace quittika {
 
-/// The menu "Hilfe" of the main window: manuals, web pages, about box.
+/// The menu "Hilfe" of the main window: manuals, web pages, about box; F1 in every window.
 class MenueHilfe {
 public:
     MenueHilfe(Form1& form1, const Ereignisse& ereignisse, const Programmverzeichnis& verzeichnis,

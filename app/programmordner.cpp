@@ -10,6 +10,9 @@ namespace fs = std::filesystem;
 
 namespace {
 
+constexpr const char* kHandbuecher[] = {"startbenutzerhandbuch.htm", "Benutzerhandbuch - Quittika 2008.pdf",
+                                        "DIE_ERSTE_RECHNUNG.pdf"};
+
 bool kopieren(const fs::path& von, const fs::path& nach) {
     std::error_code fehler;
     fs::create_directories(nach.parent_path(), fehler);
@@ -32,6 +35,22 @@ void nachlegen(const std::vector<fs::path>& namen, const fs::path& von, const fs
     }
 }
 
+/// Nobody writes into a manual: the one of this version replaces that of another. A program without one is as
+/// good; the command that opens it says so.
+void handbuecher_mitnehmen(const fs::path& von, const fs::path& nach) {
+    for (const char* name : kHandbuecher) {
+        std::error_code fehler;
+        const auto stand = fs::last_write_time(von / name, fehler);
+        if (fehler || fs::last_write_time(nach / name, fehler) == stand) {
+            continue;
+        }
+        if (fs::copy_file(von / name, nach / name, fs::copy_options::overwrite_existing, fehler)) {
+            fs::permissions(nach / name, fs::perms::owner_write, fs::perm_options::add, fehler);
+            fs::last_write_time(nach / name, stand, fehler);
+        }
+    }
+}
+
 } // namespace
 
 Programmordner PROGRAMMORDNER(const fs::path& programmdatei, const fs::path& datenordner) {
@@ -50,6 +69,7 @@ Programmordner PROGRAMMORDNER(const fs::path& programmdatei, const fs::path& dat
     }
     std::string fehlend;
     nachlegen(MITGELIEFERTE_BILDER(), quelle, datenordner, fehlend);
+    handbuecher_mitnehmen(quelle, datenordner);
     if (!neu) {
         return {datenordner, {}}; // without a picture the program still runs
     }

@@ -22,7 +22,7 @@ struct Programmordner {
 
 /// The folder of the executable, or where the program is installed or the user may not write there,
 /// `datenordner`. When that has to be created, it is filled with the shipped files; later on with those
-/// pictures that it lacks. Nobody's own files are copied.
+/// pictures that it lacks, and with the manual of this version. Nobody's own files are copied.
 Programmordner PROGRAMMORDNER(const std::filesystem::path& programmdatei,
                               const std::filesystem::path& datenordner);
 

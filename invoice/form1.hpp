@@ -59,6 +59,7 @@ struct Form1 : Form {
     Menu m_start_analyzer{*this, "m_start_analyzer", "Starte Manager + Analyzer..."};
     Menu m_startdesigner{*this, "m_startdesigner", "Starte Designer..."};
     Menu m_updatesuchen{*this, "m_updatesuchen", "jetzt nach einer neueren Quittika Version suchen..."};
+    Menu m_Hilfe_Fenster{*this, "m_Hilfe_Fenster", "Hilfe zu diesem &Fenster"};
     Menu m_Benutzerhandbuch_html{*this, "m_Benutzerhandbuch_html", "Benutzerhandbuch (HTML)"};
     Menu m_Benutzerhandbuch_pdf{*this, "m_Benutzerhandbuch_pdf", "Benutzerhandbuch (PDF)"};
     Menu m_ErsteRechnungerstellen{*this, "m_ErsteRechnungerstellen",

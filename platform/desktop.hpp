@@ -2,6 +2,9 @@
 
 #include "platform/forms/form.hpp"
 
+#include <functional>
+#include <utility>
+
 namespace quittika {
 
 /// Colours of the windows and of the groups on them that have none of their own.
@@ -49,6 +52,18 @@ public:
 
     /// Ends the program's event loop.
     virtual void end() = 0;
+
+    /// What F1 does in a window of the program.
+    void on_help(std::function<void(const Form&)> help) { help_ = std::move(help); }
+    /// The user has pressed F1 in a form's window.
+    void help(const Form& form) const {
+        if (help_) {
+            help_(form);
+        }
+    }
+
+private:
+    std::function<void(const Form&)> help_;
 };
 
 /// While one lives, the keyboard stays with a form's window whatever else is shown or asks for the focus:

@@ -14,6 +14,7 @@ inline constexpr int kEscape = 27;
 inline constexpr int kPfeilHoch = 38;
 inline constexpr int kPfeilRunter = 40;
 inline constexpr int kEntfernen = 46;
+inline constexpr int kF1 = 112;
 inline constexpr int kF3 = 114;
 
 /// What each of these keys does.

@@ -396,13 +396,21 @@ bool FormWindow::escape() {
     return true;
 }
 
+bool FormWindow::key_pressed(const QKeyEvent& event) {
+    if (event.key() == Qt::Key_F1 && event.modifiers() == Qt::NoModifier) {
+        guarded(form_, [this] { desktop_.help(form_); });
+        return true;
+    }
+    return event.key() == Qt::Key_Escape && escape();
+}
+
 bool FormWindow::eventFilter(QObject* /*watched*/, QEvent* event) {
     switch (event->type()) {
     case QEvent::Close:
         event->setAccepted(asked_to_close());
         return true;
     case QEvent::KeyPress:
-        return static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape && escape();
+        return key_pressed(*static_cast<QKeyEvent*>(event));
     case QEvent::Move:
     case QEvent::Resize:
         take_place();

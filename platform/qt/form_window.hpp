@@ -12,6 +12,7 @@
 #include <vector>
 
 class QEventLoop;
+class QKeyEvent;
 class QWidget;
 
 namespace quittika {
@@ -68,6 +69,7 @@ private:
     bool asked_to_close();
     /// Closes any window but the main one and the splash. Returns whether it is such a window.
     bool escape();
+    bool key_pressed(const QKeyEvent& event);
     void take_place();
     void take_state();
 

@@ -15,12 +15,28 @@ namespace quittika {
 
 namespace {
 
+QUrl local_file(const std::string& path) {
+    const QFileInfo file(path_to_qt(systempfad(path)));
+    return file.exists() ? QUrl::fromLocalFile(file.absoluteFilePath()) : QUrl();
+}
+
+/// `path`: in the program's own form, with "#" and the place in the page behind it where one is meant.
+QUrl local_page(const std::string& path) {
+    QUrl address = local_file(path);
+    const std::size_t mark = path.rfind('#');
+    if (!address.isValid() && mark != std::string::npos) {
+        address = local_file(path.substr(0, mark));
+        address.setFragment(to_qt(path.substr(mark + 1)));
+    }
+    return address;
+}
+
 /// An address is told from a path by its beginning; a drive letter is no scheme.
 QUrl address_of(const std::string& document) {
     const QString text = to_qt(document).trimmed();
     constexpr std::string_view kFile = "file:///";
     if (std::string_view(document).substr(0, kFile.size()) == kFile) {
-        return address_of(document.substr(kFile.size())); // the program's own form of a path stands behind it
+        return local_page(document.substr(kFile.size()));
     }
     for (const char* scheme : {"http://", "https://", "mailto:"}) {
         if (text.startsWith(QLatin1String(scheme), Qt::CaseInsensitive)) {
@@ -30,8 +46,7 @@ QUrl address_of(const std::string& document) {
     if (text.startsWith(QLatin1String("www."), Qt::CaseInsensitive)) {
         return QUrl(QStringLiteral("http://") + text);
     }
-    const QFileInfo file(path_to_qt(systempfad(document)));
-    return file.exists() ? QUrl::fromLocalFile(file.absoluteFilePath()) : QUrl();
+    return local_file(document);
 }
 
 } // namespace

@@ -14,13 +14,17 @@ QImage window_picture(Form& form, double scale) {
     if (window == nullptr) {
         return {};
     }
+    return window_picture(*window, scale);
+}
+
+QImage window_picture(QWidget& window, double scale) {
     QCoreApplication::sendPostedEvents(); // lists that wait for their items
     // The first picture lets the layouts find their places.
-    window->grab();
-    QImage image(window->size() * scale, QImage::Format_ARGB32_Premultiplied);
+    window.grab();
+    QImage image(window.size() * scale, QImage::Format_ARGB32_Premultiplied);
     image.setDevicePixelRatio(scale);
     image.fill(Qt::white);
-    window->render(&image);
+    window.render(&image);
     return image;
 }
 

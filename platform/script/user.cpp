@@ -1,6 +1,7 @@
 #include "platform/script/user.hpp"
 
 #include "platform/forms/controls.hpp"
+#include "platform/forms/tasten.hpp"
 #include "platform/script/lookup.hpp"
 #include "platform/script/protocol.hpp"
 #include "platform/script/user_values.hpp"
@@ -167,6 +168,9 @@ void User::key(Control& control, int code) {
     const Deed deed(desktop_, control);
     focus(control);
     control.KeyDown(code);
+    if (code == kF1) {
+        desktop_.help(control.form());
+    }
 }
 
 void User::mouse(Control& control, const std::string& action, const MouseEvent& event) {

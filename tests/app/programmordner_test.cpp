@@ -66,6 +66,20 @@ TEST(Programmordner, InstalliertLiegtEsBeimBenutzerAuchWennManDortSchreibenDarf)
     EXPECT_TRUE(fs::is_empty(o.pfad("bin")));
 }
 
+TEST(Programmordner, DasHandbuchIstImmerDasDieserVersion) {
+    const Probenordner o;
+    const std::string name = "share/quittika/startbenutzerhandbuch.htm";
+    fs::create_directories(o.pfad("share/quittika"));
+    const auto ausliefern = [&](const std::string& inhalt, int jahre) {
+        o.schreiben(name, inhalt);
+        fs::last_write_time(o.pfad(name), fs::file_time_type::clock::now() - std::chrono::years(jahre));
+        PROGRAMMORDNER(o.pfad("bin/quittika"), o.pfad("daten"));
+        return o.lesen("daten/startbenutzerhandbuch.htm");
+    };
+    EXPECT_EQ(ausliefern("neu", 1), "neu");
+    EXPECT_EQ(ausliefern("noch neuer, aber früher gebaut", 2), "noch neuer, aber früher gebaut");
+}
+
 TEST(Programmordner, WasNichtGehtWirdGesagt) {
     const Probenordner o;
     o.schreiben("datei", "");

@@ -259,12 +259,19 @@ TEST(ShellTest, TellsFilesFromAddresses) {
     QtShell shell;
     shell.open(file.fileName().toStdString());
     shell.open("file:///" + folder.path().toStdString() + "\\100% #1.txt");
+    shell.open("file:///" + folder.path().toStdString() + "\\100% #1.txt#kunden");
     shell.open("http://www.firma.example/a?b=c");
     shell.open("www.firma.example");
     shell.open("mailto:info@firma.example");
     const QUrl local = QUrl::fromLocalFile(file.fileName());
-    const QList<QUrl> expected{local, local, QUrl("http://www.firma.example/a?b=c"),
-                               QUrl("http://www.firma.example"), QUrl("mailto:info@firma.example")};
+    QUrl chapter = local;
+    chapter.setFragment("kunden");
+    const QList<QUrl> expected{local,
+                               local,
+                               chapter,
+                               QUrl("http://www.firma.example/a?b=c"),
+                               QUrl("http://www.firma.example"),
+                               QUrl("mailto:info@firma.example")};
     EXPECT_EQ(opener.opened, expected);
     EXPECT_EQ(fehlernummer([&] { shell.open(folder.filePath("fehlt.txt").toStdString()); }), 53);
 }

@@ -6,6 +6,8 @@
 
 #include <gtest/gtest.h>
 
+#include <QApplication>
+#include <QKeyEvent>
 #include <QWidget>
 
 namespace quittika::test {
@@ -31,6 +33,24 @@ TEST_P(DesignTest, ShowsAPicture) {
     QImage empty = picture;
     empty.fill(picture.pixel(0, 0));
     EXPECT_NE(picture, empty);
+}
+
+TEST_P(DesignTest, F1AsksForHelpWhereverTheFocusIs) {
+    QtDesktop desktop;
+    desktop.adopt(*form);
+    std::vector<const Form*> asked;
+    desktop.on_help([&asked](const Form& about) { asked.push_back(&about); });
+    QWidget& window = *desktop.window(*form);
+    QWidgetList places = window.findChildren<QWidget*>();
+    places.append(&window);
+    for (QWidget* place : places) {
+        if (place->focusPolicy() != Qt::NoFocus || place == &window) {
+            asked.clear();
+            QKeyEvent press(QEvent::KeyPress, Qt::Key_F1, Qt::NoModifier);
+            QApplication::sendEvent(place, &press);
+            EXPECT_EQ(asked, std::vector<const Form*>{form.get()}) << place->objectName().toStdString();
+        }
+    }
 }
 
 INSTANTIATE_TEST_SUITE_P(Designs, DesignTest, ::testing::ValuesIn(kForms),

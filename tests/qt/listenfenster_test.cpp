@@ -69,6 +69,10 @@ TEST_F(Listenfenstertest, KundenMitDerTastatur) {
     const auto* liste = kunden->findChild<ColumnList*>();
     EXPECT_EQ(liste->model()->index(2, 0).data(ColumnList::kColumnTexts).toStringList(),
               QStringList({"Muehl", "Tor 3"}));
+    std::string hilfe;
+    plattform.desktop().on_help([&hilfe](const Form& form) { hilfe += form.name() + " "; });
+    taste(Qt::Key_F1);
+    EXPECT_EQ(hilfe, "Form_Kundenverwaltung ");
     taste(Qt::Key_Return, Qt::ControlModifier);
     EXPECT_EQ(f().Text_Kunde_2.Text(), "Tor 3");
     EXPECT_EQ(fenster("Form_Kundenverwaltung"), nullptr);
