@@ -1,0 +1,197 @@
+#include "platform/qt/chart_drawing.hpp"
+
+#include "platform/qt/qt_text.hpp"
+#include "platform/qt/widgets/contrast.hpp"
+
+#include <QBarSet>
+#include <QCategoryAxis>
+#include <QChart>
+#include <QFontMetricsF>
+#include <QLegend>
+#include <QLegendMarker>
+#include <QLocale>
+#include <QPen>
+#include <QStackedBarSeries>
+#include <QValueAxis>
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace quittika {
+
+namespace {
+
+constexpr double kCents = 100;
+constexpr double kHalf = 0.5;
+
+struct Look {
+    QColor fill;
+    QColor edge;
+    Qt::BrushStyle style;
+};
+
+Look look_of(ChartTone tone, bool dark_ground) {
+    if (tone == ChartTone::Settled) {
+        return dark_ground ? Look{QColor(86, 180, 233), QColor(86, 180, 233), Qt::SolidPattern}
+                           : Look{QColor(0, 114, 178), QColor(0, 92, 144), Qt::SolidPattern};
+    }
+    return dark_ground ? Look{QColor(240, 170, 60), QColor(255, 196, 110), Qt::BDiagPattern}
+                       : Look{QColor(213, 94, 0), QColor(168, 74, 0), Qt::BDiagPattern};
+}
+
+/// Lowest and highest end of the columns.
+std::pair<double, double> bounds_of(const ChartContent& content) {
+    std::pair<double, double> bounds{0, 0};
+    for (std::size_t category = 0; category < content.categories.size(); ++category) {
+        double below = 0;
+        double above = 0;
+        for (const ChartSeries& series : content.series) {
+            const auto cents = static_cast<double>(series.cents[category]);
+            (cents < 0 ? below : above) += cents / kCents;
+        }
+        bounds = {std::min(bounds.first, below), std::max(bounds.second, above)};
+    }
+    return bounds.first == bounds.second ? std::pair<double, double>{0, 1} : bounds;
+}
+
+} // namespace
+
+ChartDrawing::ChartDrawing(const Chart& chart, QChart& drawing) : chart_(chart), drawing_(drawing) {
+    drawing.setLocale(QLocale(QLocale::German, QLocale::Germany));
+    drawing.setLocalizeNumbers(true);
+    drawing.setBackgroundVisible(false);
+    drawing.setTitle(to_qt(chart.Caption()).toHtmlEscaped());
+    drawing.legend()->setAlignment(Qt::AlignBottom);
+    constexpr int kMargin = 4;
+    drawing.setMargins({kMargin, kMargin, kMargin, kMargin});
+}
+
+void ChartDrawing::clear() {
+    drawing_.removeAllSeries();
+    for (QAbstractAxis* axis : drawing_.axes()) {
+        drawing_.removeAxis(axis);
+        delete axis;
+    }
+    bars_ = nullptr;
+    step_ = 0;
+}
+
+void ChartDrawing::fill() {
+    clear();
+    constexpr double kBarWidth = 0.7; // of the room
+    bars_ = new QStackedBarSeries;
+    bars_->setBarWidth(kBarWidth);
+    for (const ChartSeries& series : chart_.content().series) {
+        auto* set = new QBarSet(to_qt(series.name));
+        for (const std::int64_t cents : series.cents) {
+            set->append(static_cast<double>(cents) / kCents);
+        }
+        bars_->append(set);
+    }
+    drawing_.addSeries(bars_);
+    add_axes();
+    drawing_.legend()->setVisible(chart_.content().series.size() > 1);
+    mark();
+}
+
+void ChartDrawing::add_axes() {
+    names_ = new QCategoryAxis;
+    names_->setStartValue(-kHalf);
+    names_->setRange(-kHalf,
+                     std::max<double>(static_cast<double>(chart_.content().categories.size()), 1) - kHalf);
+    names_->setLabelsPosition(QCategoryAxis::AxisLabelsPositionOnValue);
+    names_->setGridLineVisible(false);
+    amounts_ = new QValueAxis;
+    const auto [low, high] = bounds_of(chart_.content());
+    amounts_->setRange(low, high);
+    amounts_->applyNiceNumbers();
+    constexpr double kSmall = 10;
+    amounts_->setLabelFormat(amounts_->max() - amounts_->min() < kSmall ? QStringLiteral("%.2f")
+                                                                        : QStringLiteral("%.0f"));
+    drawing_.addAxis(names_, Qt::AlignBottom);
+    drawing_.addAxis(amounts_, Qt::AlignLeft);
+    bars_->attachAxis(names_);
+    bars_->attachAxis(amounts_);
+}
+
+void ChartDrawing::dress(const QFont& font, const QColor& text, const QColor& ground) {
+    font_ = font;
+    text_ = text;
+    ground_ = ground;
+    QFont bold = font;
+    bold.setBold(true);
+    drawing_.setTitleFont(bold);
+    drawing_.setTitleBrush(text);
+    drawing_.legend()->setFont(font);
+    drawing_.legend()->setLabelColor(text);
+    constexpr double kLine = 0.5; // share of the text's colour
+    constexpr double kGrid = 0.2;
+    for (QAbstractAxis* axis : drawing_.axes()) {
+        axis->setLabelsFont(font);
+        axis->setLabelsColor(text);
+        axis->setLinePenColor(theme::soft(text, ground, kLine, 1));
+        axis->setGridLineColor(theme::soft(text, ground, kGrid, 1));
+    }
+    dress_bars();
+    step_ = 0;
+    name_categories();
+}
+
+void ChartDrawing::dress_bars() const {
+    if (bars_ == nullptr) {
+        return;
+    }
+    const bool dark_ground = theme::readable_on(ground_) == QColor(Qt::white);
+    for (int i = 0; i < bars_->count(); ++i) {
+        const ChartTone tone = chart_.content().series.at(static_cast<std::size_t>(i)).tone;
+        const Look look = look_of(tone, dark_ground);
+        QBarSet& set = *bars_->barSets().at(i);
+        set.setBrush(QBrush(look.fill, look.style));
+        set.setPen(QPen(look.edge, 1));
+        set.setSelectedColor(text_);
+    }
+}
+
+void ChartDrawing::mark() {
+    const ChartBar marked = chart_.bar(chart_.ListIndex());
+    for (int i = 0; bars_ != nullptr && i < bars_->count(); ++i) {
+        QBarSet& set = *bars_->barSets().at(i);
+        set.deselectAllBars();
+        if (i == marked.series) {
+            set.selectBar(marked.category);
+        }
+    }
+}
+
+void ChartDrawing::name_categories() {
+    const auto& categories = chart_.content().categories;
+    const auto count = static_cast<int>(categories.size());
+    if (names_ == nullptr || count == 0) {
+        return;
+    }
+    double widest = 1;
+    for (const std::string& category : categories) {
+        widest = std::max(widest, QFontMetricsF(font_).horizontalAdvance(to_qt(category)));
+    }
+    constexpr double kGap = 1.3; // of a name's width
+    const double room = std::max(drawing_.plotArea().width(), 1.0) / count;
+    const int step = std::max(1, static_cast<int>(std::ceil(widest * kGap / room)));
+    if (step == step_) {
+        return;
+    }
+    step_ = step;
+    for (const QString& label : names_->categoriesLabels()) {
+        names_->remove(label);
+    }
+    for (int i = (count - 1) % step; i < count; i += step) {
+        names_->append(to_qt(categories[static_cast<std::size_t>(i)]), i);
+    }
+}
+
+int ChartDrawing::index_of(const QBarSet& set, int category) const {
+    const auto series = bars_->barSets().indexOf(const_cast<QBarSet*>(&set));
+    return chart_.index_of({category, static_cast<int>(series)});
+}
+
+} // namespace quittika
