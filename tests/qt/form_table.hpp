@@ -1,5 +1,7 @@
 #pragma once
 
+#include "analyzer/form_analyzer.hpp"
+#include "analyzer/form_verzwahlauftrag.hpp"
 #include "app/form_start.hpp"
 #include "app/form_ueber_quittika.hpp"
 #include "barcode/form_etp_barcode.hpp"
@@ -39,6 +41,8 @@ inline const std::vector<MakeForm> kForms{make<Form1>,
                                           make<frm_einstellungen>,
                                           make<Form_Kundenverwaltung>,
                                           make<Form_Artikelverwaltung>,
-                                          make<FORM_DESIGNER>};
+                                          make<FORM_DESIGNER>,
+                                          make<Form_Analyzer>,
+                                          make<Form_VerzWahlAuftrag>};
 
 } // namespace quittika::test
