@@ -3,10 +3,14 @@
 namespace quittika {
 
 void MENUE_EXTRAS(Form1& form1, const Ereignisse& ereignisse, Eingabezeile& eingabezeile,
-                  Barcodefenster& barcode) {
+                  Barcodefenster& barcode, Analyzerfenster& analyzer) {
     form1.m_eingabezeile.Click = [&eingabezeile] { eingabezeile.anwaehlen(); };
     form1.Cmd_Barcode.Click = ereignisse.befehl([&barcode] { barcode.open(); });
-    SPERREN({&form1.m_start_analyzer, &form1.Command1, &form1.m_updatesuchen});
+    for (Control* starten :
+         {static_cast<Control*>(&form1.m_start_analyzer), static_cast<Control*>(&form1.Command1)}) {
+        starten->Click = ereignisse.befehl([&analyzer] { analyzer.open(); });
+    }
+    SPERREN({&form1.m_updatesuchen});
 }
 
 } // namespace quittika

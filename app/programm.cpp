@@ -48,7 +48,7 @@ struct Programm::Teile {
         MENUE_DRUCKEN(form1, etiketten);
         MENUE_EINSTELLUNGEN(form1, einstellungen, ereignisse, einstellungsfenster, programmfenster,
                             designeraufruf, designerfenster);
-        MENUE_EXTRAS(form1, ereignisse, eingabezeile, barcodefenster);
+        MENUE_EXTRAS(form1, ereignisse, eingabezeile, barcodefenster, analyzerfenster);
     }
 
     Platform platform;
@@ -124,6 +124,16 @@ struct Programm::Teile {
                                                                             artikelzustand, summen,
                                                                             platform.desktop);
                                   }};
+    Analyzerfenster analyzerfenster{platform.desktop, [this](Form_Analyzer& form) {
+                                        return std::make_unique<Analyzer>(
+                                            form, verzeichnis, platform.desktop, platform.dialogs,
+                                            platform.shell, platform.clock, platform.progress,
+                                            [this](const std::string& pfad) {
+                                                if (dateibefehle.Oeffnen(pfad, Buttons::YesNoCancel)) {
+                                                    form1.Show();
+                                                }
+                                            });
+                                    }};
     Logo logo{form1, einstellungen, werte};
     Programmstil stil{form1, einstellungen, programm, werte, platform.desktop, [this] {
                           if (Kundenverwaltung* kunden = kundenfenster.module()) {

@@ -14,8 +14,6 @@ namespace quittika {
 
 namespace {
 
-constexpr const char* kZeilenwechsel = "#$§$#";
-
 std::string Darstellungszeile(const Form1& form1, int zeile) {
     constexpr std::size_t kUeblich = 3 + 9 + 76 + 6 + 10;
     std::string text;

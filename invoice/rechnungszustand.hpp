@@ -6,11 +6,13 @@
 
 namespace quittika {
 
+inline constexpr const char* kZeilenwechsel = "#$§$#"; ///< a line break of a note, in its file
+
 /// What the program knows of the invoice in hand besides its controls.
 class Rechnungszustand {
 public:
     std::string ZuletztGeoeffnet; ///< file chosen last in the open dialog
-    std::string Notiztext;        ///< note; a line break stands as "#$§$#"
+    std::string Notiztext;        ///< note; a line break stands as `kZeilenwechsel`
     bool OhneRueckfrage = false;  ///< "Neu" does not ask whether to save
 
     /// Called when the file in hand, or whether there are unsaved changes, may be another than before.

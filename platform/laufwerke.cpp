@@ -47,8 +47,9 @@ std::vector<std::string> medien(const std::string& tabelle) {
     return pfade;
 }
 
-/// The user's home folder, or "/" where there is none.
-std::string heim() {
+} // namespace
+
+std::string HEIMORDNER() {
     const char* gesetzt = std::getenv("HOME"); // NOLINT(concurrency-mt-unsafe)
     std::string pfad = gesetzt == nullptr ? "" : gesetzt;
     while (!pfad.empty() && pfad.back() == '/') {
@@ -57,11 +58,9 @@ std::string heim() {
     return pfad.empty() || pfad.front() != '/' ? "/" : pfad;
 }
 
-} // namespace
-
 std::vector<Laufwerk> LAUFWERKE(const std::string& tabelle) {
     std::vector<Laufwerk> laufwerke{{"/", "Dateisystem"}};
-    const std::string eigenes = heim();
+    const std::string eigenes = HEIMORDNER();
     if (eigenes != "/") {
         laufwerke.push_back({eigenes, "Persönlicher Ordner"});
     }

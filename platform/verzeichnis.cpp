@@ -38,6 +38,10 @@ bool datei_vorhanden(std::string_view pfad) {
     return vorhanden(systempfad(pfad));
 }
 
+bool ordner_vorhanden(std::string_view pfad) {
+    return ist_ordner(systempfad(pfad));
+}
+
 bool ordner_beschreibbar(const std::string& ordner) {
     return faccessat(AT_FDCWD, ordner.c_str(), W_OK | X_OK, AT_EACCESS) == 0;
 }

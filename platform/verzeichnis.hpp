@@ -27,6 +27,9 @@ std::string systempfad(std::string_view pfad);
 /// Whether a path names something that exists.
 bool datei_vorhanden(std::string_view pfad);
 
+/// Whether a path names a folder.
+bool ordner_vorhanden(std::string_view pfad);
+
 /// Whether the user may put files into a folder, given as a system path.
 bool ordner_beschreibbar(const std::string& ordner);
 
