@@ -1,5 +1,6 @@
 #include "analyzer/analyzeransicht.hpp"
 
+#include "analyzer/cent.hpp"
 #include "analyzer/unbezahlte_csv.hpp"
 #include "invoice/file/dateiablage.hpp"
 #include "invoice/file/hindernis.hpp"
@@ -20,16 +21,16 @@ constexpr const char* kPdf = ".pdf";
 constexpr const char* kPng = ".png";
 constexpr const char* kCsv = ".csv";
 
-Rohdaten daten(const Form_Analyzer& form) {
-    return Rohdaten(form.List_rohdata);
+Rechnungstabelle daten(const Form_Analyzer& form) {
+    return Rechnungstabelle(form.List_rohdata);
 }
 
 ChartContent monatsdiagramm(const std::vector<Saeule>& saeulen) {
     ChartContent inhalt{{}, {{"unbezahlt", ChartTone::Open, {}}, {"bezahlt", ChartTone::Settled, {}}}};
     for (const Saeule& saeule : saeulen) {
         inhalt.categories.push_back(saeule.name);
-        inhalt.series[0].cents.push_back(saeule.unbezahlt.summe);
-        inhalt.series[1].cents.push_back(saeule.bezahlt.summe);
+        inhalt.series[0].cents.push_back(CENT(saeule.unbezahlt.summe));
+        inhalt.series[1].cents.push_back(CENT(saeule.bezahlt.summe));
     }
     return inhalt;
 }
@@ -38,7 +39,7 @@ ChartContent stufendiagramm(const std::vector<Saeule>& saeulen) {
     ChartContent inhalt{{}, {{"unbezahlt", ChartTone::Open, {}}}};
     for (const Saeule& saeule : saeulen) {
         inhalt.categories.push_back(saeule.name);
-        inhalt.series[0].cents.push_back(saeule.unbezahlt.summe);
+        inhalt.series[0].cents.push_back(CENT(saeule.unbezahlt.summe));
     }
     return inhalt;
 }
@@ -187,6 +188,7 @@ void Analyzeransicht::ansicht_zeigen() {
     befund_zeigen();
 }
 
+/// What is marked can be seen; where nothing can be, nothing is.
 void Analyzeransicht::auswahl_nachfuehren() {
     ListBox& liste = form_.List_ANSICHT;
     if (liste.row_of(liste.ListIndex()) < 0) {
@@ -210,6 +212,11 @@ void Analyzeransicht::befund_zeigen() {
     form_.Label_Ansicht.Caption = befund;
 }
 
+void Analyzeransicht::melden(const std::string& text) {
+    form_.Label_Status.Caption = text;
+    form_.Label_Status.ToolTipText = "";
+}
+
 template <class Schreiben>
 void Analyzeransicht::speichern(const FileDialog& dialog, const Schreiben& schreiben) {
     try {
@@ -219,7 +226,7 @@ void Analyzeransicht::speichern(const FileDialog& dialog, const Schreiben& schre
             return;
         }
         const std::string grund = SPEICHERHINDERNIS(fehler);
-        form_.Label_Status.Caption = grund;
+        melden(grund);
         dialogs_.message({grund, "Achtung!", Buttons::Ok, Symbol::Exclamation});
     }
 }
@@ -236,11 +243,10 @@ void Analyzeransicht::CMD_Unbezahlte_CSV_Click() {
         const Zeichensatz satz = form_.Check_UTF8.ticked() ? Zeichensatz::Utf8 : Zeichensatz::Windows1252;
         const Csvinhalt inhalt = UNBEZAHLTE_CSV(daten(form_), form_.List_dateien.items(), satz);
         datei_ersetzen(pfad, inhalt.bytes);
-        form_.Label_Status.Caption =
-            rechnungen(inhalt.rechnungen) + " gespeichert: " + pfad +
-            (inhalt.ersetzt == 0 ? ""
-                                 : "  (" + std::to_string(inhalt.ersetzt) +
-                                       " Zeichen kennt Windows-1252 nicht; in UTF-8 bleiben sie.)");
+        melden(rechnungen(inhalt.rechnungen) + " gespeichert: " + pfad +
+               (inhalt.ersetzt == 0 ? ""
+                                    : "  (" + std::to_string(inhalt.ersetzt) +
+                                          " Zeichen kennt Windows-1252 nicht; in UTF-8 bleiben sie.)"));
     });
 }
 
@@ -258,7 +264,7 @@ void Analyzeransicht::CMD_Diagramm_speichern_Click() {
                                form_.Label_ohne_Datum.Caption(),
                                {&form_.Diagramm_Monate, &form_.Diagramm_Mahnstufen}},
                               pfad);
-        form_.Label_Status.Caption = "Das Diagramm liegt hier: " + pfad;
+        melden("Das Diagramm liegt hier: " + pfad);
     });
 }
 

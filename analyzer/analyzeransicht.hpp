@@ -36,6 +36,7 @@ private:
     void diagramme_fuellen();
     std::optional<std::vector<int>> gewaehlte() const;
     bool eingeschraenkt() const;
+    void melden(const std::string& text);
     /// Asks for a file and lets `schreiben` make it. Tells what stands in the way.
     template <class Schreiben> void speichern(const FileDialog& dialog, const Schreiben& schreiben);
 

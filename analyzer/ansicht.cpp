@@ -49,7 +49,7 @@ bool textfolge(std::string_view a, std::string_view b) {
     return a.empty() && !b.empty();
 }
 
-std::string spaltentext(const Rohdaten& daten, const Tabellenspalte& spalte, int zeile) {
+std::string spaltentext(const Rechnungstabelle& daten, const Tabellenspalte& spalte, int zeile) {
     return spalte.rohspalte == rohdatum::kNummer ? daten.nummer(zeile) : daten.text(spalte.rohspalte, zeile);
 }
 
@@ -79,8 +79,8 @@ void sortieren(std::vector<int>& zeilen, bool absteigend, const Schluessel& schl
     std::transform(werte.begin(), werte.end(), zeilen.begin(), [](const auto& wert) { return wert.first; });
 }
 
-void nach_spalte_sortieren(std::vector<int>& zeilen, const Rohdaten& daten, const Tabellenspalte& spalte,
-                           bool absteigend) {
+void nach_spalte_sortieren(std::vector<int>& zeilen, const Rechnungstabelle& daten,
+                           const Tabellenspalte& spalte, bool absteigend) {
     if (spalte.art != Spaltenart::Text) {
         const auto wert = [&](int zeile) {
             return zahlwert(spalte.art, daten.text(spalte.rohspalte, zeile));
@@ -108,21 +108,22 @@ std::vector<std::string> woerter(std::string_view gesucht) {
 
 } // namespace
 
-std::vector<std::string> SUCHTEXTE(const Rohdaten& daten) {
+std::vector<std::string> SUCHTEXTE(const Rechnungstabelle& daten) {
     std::vector<std::string> texte(static_cast<std::size_t>(daten.anzahl()));
     for (int zeile = 0; zeile < daten.anzahl(); ++zeile) {
         std::string& text = texte[static_cast<std::size_t>(zeile)];
         suchtext_anfuegen(text, daten.nummer(zeile));
-        for (const int spalte :
-             {rohdatum::kDatum, rohdatum::kKundennummer, rohdatum::kKundenname, rohdatum::kNotiz}) {
+        for (const std::size_t spalte : {rohdatum::kDatum, rohdatum::kKundennummer, rohdatum::kKundenname}) {
             text += '\n';
             suchtext_anfuegen(text, daten.text(spalte, zeile));
         }
+        text += '\n';
+        suchtext_anfuegen(text, daten.notiz(zeile));
     }
     return texte;
 }
 
-std::vector<int> ANSICHT(const Rohdaten& daten, const std::vector<std::string>& suchtexte,
+std::vector<int> ANSICHT(const Rechnungstabelle& daten, const std::vector<std::string>& suchtexte,
                          const Ansichtswunsch& wunsch) {
     const std::vector<std::string> gesucht = woerter(wunsch.gesucht);
     std::vector<int> zeilen;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "analyzer/rohdaten.hpp"
+#include "analyzer/rechnungstabelle.hpp"
 
 #include <array>
 #include <optional>
@@ -16,7 +16,7 @@ enum class Spaltenart { Text, Datum, Betrag };
 /// A column of the table.
 struct Tabellenspalte {
     std::string_view name;
-    int rohspalte;
+    std::size_t rohspalte;
     Spaltenart art;
 };
 
@@ -45,11 +45,11 @@ struct Ansichtswunsch {
 };
 
 /// The texts in which the search looks, one for each invoice, as `SUCHTEXT` makes them.
-std::vector<std::string> SUCHTEXTE(const Rohdaten& daten);
+std::vector<std::string> SUCHTEXTE(const Rechnungstabelle& daten);
 
 /// The invoices to show, from top to bottom. Dates are sorted as dates, amounts as numbers, texts with their
 /// numbers as numbers; what cannot be read stands last. Equal ones keep the order of the files.
-std::vector<int> ANSICHT(const Rohdaten& daten, const std::vector<std::string>& suchtexte,
+std::vector<int> ANSICHT(const Rechnungstabelle& daten, const std::vector<std::string>& suchtexte,
                          const Ansichtswunsch& wunsch);
 
 } // namespace quittika

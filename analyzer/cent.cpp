@@ -1,6 +1,5 @@
 #include "analyzer/cent.hpp"
 
-#include "invoice/zahleneingabe.hpp"
 #include "platform/zahlen.hpp"
 
 #include <algorithm>
@@ -11,25 +10,25 @@
 
 namespace quittika {
 
-std::optional<std::int64_t> CENT(std::string_view betrag) {
-    const auto zahl = ZAHL_LESEN(betrag);
-    if (!zahl) {
-        return std::nullopt;
-    }
-    std::string ziffern = format_zahl(zahl->wert, "0.00");
+std::int64_t CENT(const Betragssumme& summe) {
+    using Grenzen = std::numeric_limits<std::int64_t>;
+    std::string ziffern = summe.text();
     ziffern.erase(std::remove(ziffern.begin(), ziffern.end(), deutsch().decimal_mark), ziffern.end());
     std::int64_t cent = 0;
-    const auto [ende, grund] = std::from_chars(ziffern.data(), ziffern.data() + ziffern.size(), cent);
-    const bool ganz = grund == std::errc() && ende == ziffern.data() + ziffern.size();
-    return ganz ? std::optional(cent) : std::nullopt;
+    const auto gelesen = std::from_chars(ziffern.data(), ziffern.data() + ziffern.size(), cent);
+    if (gelesen.ec == std::errc::result_out_of_range) {
+        return ziffern.front() == '-' ? Grenzen::min() : Grenzen::max();
+    }
+    return cent;
 }
 
-std::int64_t CENTSUMME(std::int64_t a, std::int64_t b) {
-    using Grenzen = std::numeric_limits<std::int64_t>;
-    if (b > 0 && a > Grenzen::max() - b) {
-        return Grenzen::max();
+std::optional<std::int64_t> CENT(std::string_view betrag) {
+    if (!BETRAG_LESEN(betrag)) {
+        return std::nullopt;
     }
-    return b < 0 && a < Grenzen::min() - b ? Grenzen::min() : a + b;
+    Betragssumme summe;
+    summe.dazu(betrag);
+    return CENT(summe);
 }
 
 } // namespace quittika

@@ -1,6 +1,5 @@
 #include "analyzer/diagramm.hpp"
 
-#include "analyzer/cent.hpp"
 #include "platform/datum.hpp"
 #include "platform/zahlen.hpp"
 
@@ -18,9 +17,12 @@ namespace {
 constexpr int kMonate = 12;
 constexpr int kLueckenlos = 20 * kMonate;
 
-void aufnehmen(Saeule& saeule, const Rohdaten& daten, int zeile) {
+void aufnehmen(Saeule& saeule, const Rechnungstabelle& daten, int zeile) {
     Diagrammteil& teil = daten.bezahlt(zeile) ? saeule.bezahlt : saeule.unbezahlt;
-    teil.summe = CENTSUMME(teil.summe, CENT(daten.text(rohdatum::kBrutto, zeile)).value_or(0));
+    const std::string& brutto = daten.text(rohdatum::kBrutto, zeile);
+    if (BETRAG_LESEN(brutto)) {
+        teil.summe.dazu(brutto);
+    }
     teil.rechnungen.push_back(zeile);
 }
 
@@ -48,7 +50,7 @@ void luecken_fuellen(std::map<int, Saeule>& monate) {
 constexpr int kUngemahnt = -1;
 constexpr int kUnbekannt = 100;
 
-int mahnstufe(const Rohdaten& daten, int zeile) {
+int mahnstufe(const Rechnungstabelle& daten, int zeile) {
     if (!daten.abgemahnt(zeile)) {
         return kUngemahnt;
     }
@@ -71,7 +73,7 @@ std::string stufenname(int stufe) {
 
 } // namespace
 
-Monatsbild NACH_MONATEN(const Rohdaten& daten) {
+Monatsbild NACH_MONATEN(const Rechnungstabelle& daten) {
     std::map<int, Saeule> monate;
     Saeule ohne_datum{"ohne Datum", {}, {}};
     Monatsbild bild;
@@ -91,7 +93,7 @@ Monatsbild NACH_MONATEN(const Rohdaten& daten) {
     return bild;
 }
 
-std::vector<Saeule> NACH_MAHNSTUFEN(const Rohdaten& daten) {
+std::vector<Saeule> NACH_MAHNSTUFEN(const Rechnungstabelle& daten) {
     std::map<int, Saeule> stufen;
     for (int zeile = 0; zeile < daten.anzahl(); ++zeile) {
         if (!daten.bezahlt(zeile)) {

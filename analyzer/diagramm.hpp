@@ -1,16 +1,16 @@
 #pragma once
 
-#include "analyzer/rohdaten.hpp"
+#include "analyzer/betragssumme.hpp"
+#include "analyzer/rechnungstabelle.hpp"
 
-#include <cstdint>
 #include <string>
 #include <vector>
 
 namespace quittika {
 
-/// Gross amounts of some invoices in cents, and which invoices these are. An amount that is none counts 0.
+/// Gross amounts of some invoices, and which invoices these are. An amount that is none counts 0.
 struct Diagrammteil {
-    std::int64_t summe = 0;
+    Betragssumme summe;
     std::vector<int> rechnungen;
 };
 
@@ -28,9 +28,9 @@ struct Monatsbild {
 
 /// By month, "11.2008". Months without an invoice are there too, unless the dates lie more than 20 years
 /// apart.
-Monatsbild NACH_MONATEN(const Rohdaten& daten);
+Monatsbild NACH_MONATEN(const Rechnungstabelle& daten);
 
 /// The unpaid ones by dunning level, as far as there are any; first those that were not dunned.
-std::vector<Saeule> NACH_MAHNSTUFEN(const Rohdaten& daten);
+std::vector<Saeule> NACH_MAHNSTUFEN(const Rechnungstabelle& daten);
 
 } // namespace quittika

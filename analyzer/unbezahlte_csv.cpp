@@ -1,10 +1,8 @@
 #include "analyzer/unbezahlte_csv.hpp"
 
-#include "analyzer/cent.hpp"
+#include "analyzer/betragssumme.hpp"
 #include "platform/text.hpp"
 
-#include <cstdint>
-#include <cstdlib>
 #include <initializer_list>
 #include <string_view>
 
@@ -22,14 +20,12 @@ std::string feld(std::string_view text) {
 }
 
 std::string betragsfeld(std::string_view text) {
-    const auto cent = CENT(text);
-    if (!cent) {
+    if (!BETRAG_LESEN(text)) {
         return feld(text);
     }
-    constexpr int kCent = 100;
-    const std::string rest = std::to_string(std::abs(*cent % kCent));
-    return (*cent < 0 ? "-" : "") + std::to_string(std::abs(*cent / kCent)) + (rest.size() < 2 ? ",0" : ",") +
-           rest;
+    Betragssumme betrag;
+    betrag.dazu(text);
+    return betrag.text();
 }
 
 std::string zeile(std::initializer_list<std::string> felder) {
@@ -43,7 +39,7 @@ std::string zeile(std::initializer_list<std::string> felder) {
 
 } // namespace
 
-Csvinhalt UNBEZAHLTE_CSV(const Rohdaten& daten, const std::vector<std::string>& dateien,
+Csvinhalt UNBEZAHLTE_CSV(const Rechnungstabelle& daten, const std::vector<std::string>& dateien,
                          Zeichensatz zeichensatz) {
     using namespace rohdatum;
     Csvinhalt inhalt;
@@ -53,11 +49,11 @@ Csvinhalt UNBEZAHLTE_CSV(const Rohdaten& daten, const std::vector<std::string>& 
         if (daten.bezahlt(i)) {
             continue;
         }
-        const auto wort = [&](int spalte) { return feld(daten.text(spalte, i)); };
-        const auto betrag = [&](int spalte) { return betragsfeld(daten.text(spalte, i)); };
+        const auto wort = [&](std::size_t spalte) { return feld(daten.text(spalte, i)); };
+        const auto betrag = [&](std::size_t spalte) { return betragsfeld(daten.text(spalte, i)); };
         text += zeile({wort(kDatum), feld(daten.nummer(i)), wort(kKundennummer), wort(kKundenname),
                        wort(kVersendet), wort(kAbgemahnt), wort(kMahnstufe), betrag(kNetto), betrag(kMwSt),
-                       betrag(kBrutto), wort(kNotiz), feld(dateien.at(static_cast<std::size_t>(i)))});
+                       betrag(kBrutto), feld(daten.notiz(i)), feld(dateien.at(static_cast<std::size_t>(i)))});
         ++inhalt.rechnungen;
     }
     if (zeichensatz == Zeichensatz::Utf8) {

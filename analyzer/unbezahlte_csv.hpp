@@ -1,6 +1,6 @@
 #pragma once
 
-#include "analyzer/rohdaten.hpp"
+#include "analyzer/rechnungstabelle.hpp"
 
 #include <cstddef>
 #include <string>
@@ -21,7 +21,7 @@ struct Csvinhalt {
 /// CR LF behind it. Amounts have a decimal comma and no marks of thousands; what is no amount stays as it
 /// stands. UTF-8 begins with its mark, by which table programs know it.
 /// `dateien`: the file of each invoice.
-Csvinhalt UNBEZAHLTE_CSV(const Rohdaten& daten, const std::vector<std::string>& dateien,
+Csvinhalt UNBEZAHLTE_CSV(const Rechnungstabelle& daten, const std::vector<std::string>& dateien,
                          Zeichensatz zeichensatz);
 
 } // namespace quittika

@@ -127,8 +127,8 @@ struct Programm::Teile {
     Analyzerfenster analyzerfenster{platform.desktop, [this](Form_Analyzer& form) {
                                         return std::make_unique<Analyzer>(
                                             form, verzeichnis, platform.desktop, platform.dialogs,
-                                            platform.shell, platform.clock, platform.progress,
-                                            [this](const std::string& pfad) {
+                                            platform.printing, platform.shell, platform.clock,
+                                            platform.progress, [this](const std::string& pfad) {
                                                 if (dateibefehle.Oeffnen(pfad, Buttons::YesNoCancel)) {
                                                     form1.Show();
                                                 }

@@ -29,8 +29,8 @@ inline const std::vector<Probenrechnung> kProbenrechnungen{
 /// Fills the lists as an analysis does.
 inline void PROBE_EINTRAGEN(Form_Analyzer& form, const std::vector<Probenrechnung>& rechnungen) {
     for (const Probenrechnung& rechnung : rechnungen) {
-        for (int i = 0; i < rohdatum::kAnzahl; ++i) {
-            form.List_rohdata[i].AddItem(rechnung.at(static_cast<std::size_t>(i)));
+        for (std::size_t i = 0; i < rohdatum::kAnzahl; ++i) {
+            form.List_rohdata[static_cast<int>(i)].AddItem(rechnung.at(i));
         }
         const auto spalte = [&rechnung](int rohspalte, int art, std::size_t breite) {
             return SPALTE_FORMAT(art, rechnung.at(static_cast<std::size_t>(rohspalte)), breite);
