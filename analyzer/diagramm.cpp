@@ -63,7 +63,7 @@ std::string stufenname(int stufe) {
     case kUngemahnt:
         return "nicht gemahnt";
     case 0:
-        return "Erinnerung";
+        return "erinnert";
     case kUnbekannt:
         return "Stufe unbekannt";
     default:

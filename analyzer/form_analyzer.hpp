@@ -48,8 +48,8 @@ struct Form_Analyzer : Form {
     CheckBox Check_UTF8{SSTab_Ergebnis.page(0), "Check_UTF8", "in UTF-8"};
     CommandButton CMD_Unbezahlte_CSV{SSTab_Ergebnis.page(0), "CMD_Unbezahlte_CSV", "Unbezahlte als &CSV..."};
 
-    Chart Diagramm_Monate{SSTab_Ergebnis.page(1), "Diagramm_Monate", "Brutto nach Monaten"};
-    Chart Diagramm_Mahnstufen{SSTab_Ergebnis.page(1), "Diagramm_Mahnstufen", "Unbezahlt nach Mahnstufen"};
+    Chart Diagramm_Monate{SSTab_Ergebnis.page(1), "Diagramm_Monate", "Brutto nach Monat"};
+    Chart Diagramm_Mahnstufen{SSTab_Ergebnis.page(1), "Diagramm_Mahnstufen", "Unbezahlt nach Mahnstufe"};
     Label Label_ohne_Datum{SSTab_Ergebnis.page(1), "Label_ohne_Datum"};
     CommandButton CMD_Diagramm_speichern{SSTab_Ergebnis.page(1), "CMD_Diagramm_speichern",
                                          "Diagramm s&peichern..."};

@@ -52,7 +52,15 @@ std::pair<double, double> bounds_of(const ChartContent& content) {
         }
         bounds = {std::min(bounds.first, below), std::max(bounds.second, above)};
     }
-    return bounds.first == bounds.second ? std::pair<double, double>{0, 1} : bounds;
+    constexpr double kHeadroom = 1.03;
+    return bounds.first == bounds.second
+               ? std::pair<double, double>{0, 1}
+               : std::pair<double, double>{bounds.first * kHeadroom, bounds.second * kHeadroom};
+}
+
+/// The words of a name, one below the other.
+QStringList words_of(const std::string& category) {
+    return to_qt(category).toHtmlEscaped().split(QLatin1Char(' '));
 }
 
 } // namespace
@@ -64,7 +72,8 @@ ChartDrawing::ChartDrawing(const Chart& chart, QChart& drawing) : chart_(chart),
     drawing.setTitle(to_qt(chart.Caption()).toHtmlEscaped());
     drawing.legend()->setAlignment(Qt::AlignBottom);
     constexpr int kMargin = 4;
-    drawing.setMargins({kMargin, kMargin, kMargin, kMargin});
+    constexpr int kRight = 20; // half of a name may stand out there
+    drawing.setMargins({kMargin, kMargin, kRight, kMargin});
 }
 
 void ChartDrawing::clear() {
@@ -172,9 +181,11 @@ void ChartDrawing::name_categories() {
     }
     double widest = 1;
     for (const std::string& category : categories) {
-        widest = std::max(widest, QFontMetricsF(font_).horizontalAdvance(to_qt(category)));
+        for (const QString& word : words_of(category)) {
+            widest = std::max(widest, QFontMetricsF(font_).horizontalAdvance(word));
+        }
     }
-    constexpr double kGap = 1.3; // of a name's width
+    constexpr double kGap = 1.15; // of a name's width
     const double room = std::max(drawing_.plotArea().width(), 1.0) / count;
     const int step = std::max(1, static_cast<int>(std::ceil(widest * kGap / room)));
     if (step == step_) {
@@ -185,7 +196,7 @@ void ChartDrawing::name_categories() {
         names_->remove(label);
     }
     for (int i = (count - 1) % step; i < count; i += step) {
-        names_->append(to_qt(categories[static_cast<std::size_t>(i)]), i);
+        names_->append(words_of(categories[static_cast<std::size_t>(i)]).join(QLatin1String("<br>")), i);
     }
 }
 

@@ -85,7 +85,7 @@ TEST_F(Analyzerprobe, GruppiertNachMonatenUndMahnstufen) {
     EXPECT_EQ(bild.saeulen.front().bezahlt.rechnungen, (Zeilen{0, 5}));
     EXPECT_EQ(bild.saeulen.front().unbezahlt.rechnungen, (Zeilen{3, 4}));
     EXPECT_EQ(als_text(NACH_MAHNSTUFEN(Rechnungstabelle(form.List_rohdata))),
-              "nicht gemahnt 0,00/71,40;Erinnerung 0,00/-23,80;1. Mahnung 0,00/1.190,00;");
+              "nicht gemahnt 0,00/71,40;erinnert 0,00/-23,80;1. Mahnung 0,00/1.190,00;");
 }
 
 TEST_F(Analyzerprobe, WeitEntfernteMonateLassenKeineTausendSaeulenEntstehen) {
