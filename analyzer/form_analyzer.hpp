@@ -9,7 +9,7 @@ namespace quittika {
 /// All invoices of a folder: a row for each, their sums, and the state of the one that is marked.
 struct Form_Analyzer : Form {
     Form_Analyzer()
-        : Form("Form_Analyzer", "Rechnungsmanager + Analyzer", {.width = twips(1120), .height = twips(760)}) {
+        : Form("Form_Analyzer", "Rechnungsmanager + Analyzer", {.width = twips(1280), .height = twips(800)}) {
         List_dateien.Visible.adopt(false);
         Text_Notiz.Locked.adopt(true);
         CMD_Alle_zeigen.Enabled.adopt(false);

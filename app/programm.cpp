@@ -124,16 +124,18 @@ struct Programm::Teile {
                                                                             artikelzustand, summen,
                                                                             platform.desktop);
                                   }};
-    Analyzerfenster analyzerfenster{platform.desktop, [this](Form_Analyzer& form) {
-                                        return std::make_unique<Analyzer>(
-                                            form, verzeichnis, platform.desktop, platform.dialogs,
-                                            platform.printing, platform.shell, platform.clock,
-                                            platform.progress, [this](const std::string& pfad) {
-                                                if (dateibefehle.Oeffnen(pfad, Buttons::YesNoCancel)) {
-                                                    form1.Show();
-                                                }
-                                            });
-                                    }};
+    Analyzerfenster analyzerfenster{
+        platform.desktop, [this](Form_Analyzer& form) {
+            return std::make_unique<Analyzer>(
+                form, verzeichnis, platform.desktop, platform.dialogs, platform.printing, platform.shell,
+                platform.clock, platform.progress, [this](const std::string& pfad) {
+                    const bool frei =
+                        !zustand.geaendert() || dateibefehle.VorherSpeichern(Buttons::YesNoCancel);
+                    if (frei && dateibefehle.oeffneRN(pfad)) {
+                        form1.Show();
+                    }
+                });
+        }};
     Logo logo{form1, einstellungen, werte};
     Programmstil stil{form1, einstellungen, programm, werte, platform.desktop, [this] {
                           if (Kundenverwaltung* kunden = kundenfenster.module()) {

@@ -192,9 +192,9 @@ void Dateibefehle::m_oeffnen_Click() {
     Oeffnen("");
 }
 
-bool Dateibefehle::Oeffnen(const std::string& pfad, Buttons tasten) {
+bool Dateibefehle::Oeffnen(const std::string& pfad) {
     const Hinweiszeile::Befehl befehl(form1_.Hinweise);
-    if (zustand_.geaendert() && !VorherSpeichern(tasten)) {
+    if (zustand_.geaendert() && !VorherSpeichern(Buttons::YesNo)) {
         return false;
     }
     const bool gelesen = oeffneRN(pfad);

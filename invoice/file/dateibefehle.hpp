@@ -35,7 +35,7 @@ public:
     void m_oeffnen_Click();
     /// Opens `pfad`, or the file that the user chooses when it is empty, after asking whether to save.
     /// Answers whether anything was read.
-    bool Oeffnen(const std::string& pfad, Buttons tasten = Buttons::YesNo);
+    bool Oeffnen(const std::string& pfad);
     /// Opens `pfad`, or the file that the user chooses when it is empty. Answers whether anything was read.
     bool oeffneRN(const std::string& pfad);
     /// Opens recent file `n`, 1 to 3, without asking.
