@@ -204,10 +204,10 @@ void Analyzeransicht::befund_zeigen() {
         return;
     }
     std::string befund =
-        std::to_string(liste.shown_count()) + " von " + rechnungen(liste.ListCount()) + " gezeigt";
+        std::to_string(liste.shown_count()) + " von " + std::to_string(liste.ListCount()) + " gezeigt";
     for (const Chart* diagramm : {&form_.Diagramm_Monate, &form_.Diagramm_Mahnstufen}) {
         const std::string balken = diagramm->bar_text(diagramm->ListIndex());
-        befund += balken.empty() ? "" : " (" + balken + ")";
+        befund += balken.empty() ? "" : ": " + balken;
     }
     form_.Label_Ansicht.Caption = befund;
 }

@@ -4,17 +4,17 @@
 #include "platform/qt/widgets/contrast.hpp"
 
 #include <QBarSet>
-#include <QCategoryAxis>
 #include <QChart>
 #include <QFontMetricsF>
+#include <QGraphicsSimpleTextItem>
 #include <QLegend>
-#include <QLegendMarker>
 #include <QLocale>
 #include <QPen>
 #include <QStackedBarSeries>
 #include <QValueAxis>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <utility>
 
@@ -24,6 +24,7 @@ namespace {
 
 constexpr double kCents = 100;
 constexpr double kHalf = 0.5;
+constexpr double kNameGap = 4; // pixels
 
 struct Look {
     QColor fill;
@@ -58,9 +59,19 @@ std::pair<double, double> bounds_of(const ChartContent& content) {
                : std::pair<double, double>{bounds.first * kHeadroom, bounds.second * kHeadroom};
 }
 
+/// How many categories share a name, where one takes the room of `rooms` of them: a part of a year of months,
+/// or years.
+int step_for(double rooms) {
+    constexpr std::array<int, 6> kSteps{1, 2, 3, 4, 6, 12};
+    const auto found =
+        std::find_if(kSteps.begin(), kSteps.end(), [rooms](int step) { return step >= rooms; });
+    return found != kSteps.end() ? *found
+                                 : kSteps.back() * static_cast<int>(std::ceil(rooms / kSteps.back()));
+}
+
 /// The words of a name, one below the other.
 QStringList words_of(const std::string& category) {
-    return to_qt(category).toHtmlEscaped().split(QLatin1Char(' '));
+    return to_qt(category).split(QLatin1Char(' '));
 }
 
 } // namespace
@@ -70,10 +81,7 @@ ChartDrawing::ChartDrawing(const Chart& chart, QChart& drawing) : chart_(chart),
     drawing.setLocalizeNumbers(true);
     drawing.setBackgroundVisible(false);
     drawing.setTitle(to_qt(chart.Caption()).toHtmlEscaped());
-    drawing.legend()->setAlignment(Qt::AlignBottom);
-    constexpr int kMargin = 4;
-    constexpr int kRight = 20; // half of a name may stand out there
-    drawing.setMargins({kMargin, kMargin, kRight, kMargin});
+    drawing.legend()->setAlignment(Qt::AlignTop);
 }
 
 void ChartDrawing::clear() {
@@ -83,7 +91,6 @@ void ChartDrawing::clear() {
         delete axis;
     }
     bars_ = nullptr;
-    step_ = 0;
 }
 
 void ChartDrawing::fill() {
@@ -105,23 +112,23 @@ void ChartDrawing::fill() {
 }
 
 void ChartDrawing::add_axes() {
-    names_ = new QCategoryAxis;
-    names_->setStartValue(-kHalf);
-    names_->setRange(-kHalf,
-                     std::max<double>(static_cast<double>(chart_.content().categories.size()), 1) - kHalf);
-    names_->setLabelsPosition(QCategoryAxis::AxisLabelsPositionOnValue);
-    names_->setGridLineVisible(false);
-    amounts_ = new QValueAxis;
+    auto* categories = new QValueAxis;
+    categories->setRange(
+        -kHalf, std::max<double>(static_cast<double>(chart_.content().categories.size()), 1) - kHalf);
+    categories->setLabelsVisible(false);
+    categories->setGridLineVisible(false);
+    categories->setTickCount(2);
+    auto* amounts = new QValueAxis;
     const auto [low, high] = bounds_of(chart_.content());
-    amounts_->setRange(low, high);
-    amounts_->applyNiceNumbers();
+    amounts->setRange(low, high);
+    amounts->applyNiceNumbers();
     constexpr double kSmall = 10;
-    amounts_->setLabelFormat(amounts_->max() - amounts_->min() < kSmall ? QStringLiteral("%.2f")
-                                                                        : QStringLiteral("%.0f"));
-    drawing_.addAxis(names_, Qt::AlignBottom);
-    drawing_.addAxis(amounts_, Qt::AlignLeft);
-    bars_->attachAxis(names_);
-    bars_->attachAxis(amounts_);
+    amounts->setLabelFormat(amounts->max() - amounts->min() < kSmall ? QStringLiteral("%.2f")
+                                                                     : QStringLiteral("%.0f"));
+    drawing_.addAxis(categories, Qt::AlignBottom);
+    drawing_.addAxis(amounts, Qt::AlignLeft);
+    bars_->attachAxis(categories);
+    bars_->attachAxis(amounts);
 }
 
 void ChartDrawing::dress(const QFont& font, const QColor& text, const QColor& ground) {
@@ -142,8 +149,11 @@ void ChartDrawing::dress(const QFont& font, const QColor& text, const QColor& gr
         axis->setLinePenColor(theme::soft(text, ground, kLine, 1));
         axis->setGridLineColor(theme::soft(text, ground, kGrid, 1));
     }
+    constexpr int kMargin = 4;
+    constexpr int kRight = 20; // half of a name may stand out there
+    const int names = qRound(2 * QFontMetricsF(font).height() + kNameGap);
+    drawing_.setMargins({kMargin, kMargin, kRight, names});
     dress_bars();
-    step_ = 0;
     name_categories();
 }
 
@@ -173,30 +183,40 @@ void ChartDrawing::mark() {
     }
 }
 
+// The toolkit's own names are shortened to the room of one category; these are as long as they are.
 void ChartDrawing::name_categories() {
+    qDeleteAll(names_);
+    names_.clear();
     const auto& categories = chart_.content().categories;
     const auto count = static_cast<int>(categories.size());
-    if (names_ == nullptr || count == 0) {
-        return;
+    const QRectF plot = drawing_.plotArea();
+    const double room = plot.width() / std::max(count, 1);
+    const int step = step_for(widest_name() / std::max(room, 1.0));
+    for (int i = (count - 1) % step; i >= 0 && i < count; i += step) {
+        add_name(categories[static_cast<std::size_t>(i)], plot.left() + (i + kHalf) * room);
     }
-    double widest = 1;
-    for (const std::string& category : categories) {
+}
+
+double ChartDrawing::widest_name() const {
+    constexpr double kGap = 5; // pixels
+    double widest = 0;
+    for (const std::string& category : chart_.content().categories) {
         for (const QString& word : words_of(category)) {
             widest = std::max(widest, QFontMetricsF(font_).horizontalAdvance(word));
         }
     }
-    constexpr double kGap = 1.15; // of a name's width
-    const double room = std::max(drawing_.plotArea().width(), 1.0) / count;
-    const int step = std::max(1, static_cast<int>(std::ceil(widest * kGap / room)));
-    if (step == step_) {
-        return;
-    }
-    step_ = step;
-    for (const QString& label : names_->categoriesLabels()) {
-        names_->remove(label);
-    }
-    for (int i = (count - 1) % step; i < count; i += step) {
-        names_->append(words_of(categories[static_cast<std::size_t>(i)]).join(QLatin1String("<br>")), i);
+    return widest + kGap;
+}
+
+void ChartDrawing::add_name(const std::string& category, double middle) {
+    double top = drawing_.plotArea().bottom() + kNameGap;
+    for (const QString& word : words_of(category)) {
+        auto* name = new QGraphicsSimpleTextItem(word, &drawing_);
+        name->setFont(font_);
+        name->setBrush(text_);
+        name->setPos(middle - name->boundingRect().width() / 2, top);
+        top += QFontMetricsF(font_).height();
+        names_.append(name);
     }
 }
 

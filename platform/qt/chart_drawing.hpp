@@ -4,12 +4,14 @@
 
 #include <QColor>
 #include <QFont>
+#include <QList>
+
+#include <string>
 
 class QBarSet;
-class QCategoryAxis;
 class QChart;
+class QGraphicsSimpleTextItem;
 class QStackedBarSeries;
-class QValueAxis;
 
 namespace quittika {
 
@@ -36,13 +38,15 @@ private:
     void clear();
     void add_axes();
     void dress_bars() const;
+    /// In pixels, with the gap to the next one.
+    double widest_name() const;
+    /// Puts a name beneath the columns, its words one below the other.
+    void add_name(const std::string& category, double middle);
 
     const Chart& chart_;
     QChart& drawing_;
     QStackedBarSeries* bars_ = nullptr;
-    QCategoryAxis* names_ = nullptr;
-    QValueAxis* amounts_ = nullptr;
-    int step_ = 0; ///< every so many categories is named
+    QList<QGraphicsSimpleTextItem*> names_; ///< of the categories
     QFont font_;
     QColor text_;
     QColor ground_;

@@ -51,7 +51,7 @@ void ChartBarsView::items_changed() {
 void ChartBarsView::dress() {
     const Pushing here(dressing_);
     const QPalette& palette = widget_.palette();
-    drawing_.dress(widget_.font(), palette.color(QPalette::Text), palette.color(QPalette::Base));
+    drawing_.dress(widget_.font(), palette.color(QPalette::WindowText), palette.color(QPalette::Window));
 }
 
 void ChartBarsView::push(PropertyId id) {

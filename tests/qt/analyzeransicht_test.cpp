@@ -67,7 +67,7 @@ TEST_F(Ansichtsfenster, EinKlickAufDenBalkenZeigtSeineRechnungen) {
     EXPECT_EQ(markiert(), 0);
     klicken(0, 200);
     EXPECT_EQ(gezeigt(), (QStringList{"RN-10", "RN-8"}));
-    EXPECT_EQ(form.Label_Ansicht.Caption(), "2 von 6 Rechnungen gezeigt (11.2008, bezahlt: 357,00)");
+    EXPECT_EQ(form.Label_Ansicht.Caption(), "2 von 6 gezeigt: 11.2008, bezahlt: 357,00");
     klicken(0, 200);
     EXPECT_EQ(gezeigt().size(), 6) << "the second click shows all again";
     QTest::keyClick(&widget<QChartView>("Diagramm_Monate"), Qt::Key_Right);
