@@ -13,6 +13,7 @@
 #include "platform/script/script_shell.hpp"
 #include "platform/text.hpp"
 #include "tests/fehlernummer.hpp"
+#include "tests/feste_schrift.hpp"
 #include "tests/pruefstand.hpp"
 
 #include <gtest/gtest.h>
