@@ -75,7 +75,8 @@ Analyzeransicht::Analyzeransicht(Form_Analyzer& form, Printing& printing, Dialog
 }
 
 void Analyzeransicht::NEUE_DATEN() {
-    suchtexte_ = SUCHTEXTE(daten(form_));
+    anzahl_ = daten(form_).anzahl();
+    suchtexte_.clear();
     monate_ = NACH_MONATEN(daten(form_));
     stufen_ = NACH_MAHNSTUFEN(daten(form_));
     diagramme_fuellen();
@@ -87,8 +88,7 @@ void Analyzeransicht::NEUE_DATEN() {
 void Analyzeransicht::diagramme_fuellen() {
     form_.Diagramm_Monate.show(monatsdiagramm(monate_.saeulen));
     form_.Diagramm_Mahnstufen.show(stufendiagramm(stufen_));
-    const bool etwas = !suchtexte_.empty();
-    form_.CMD_Diagramm_speichern.Enabled = etwas;
+    form_.CMD_Diagramm_speichern.Enabled = anzahl_ > 0;
     form_.CMD_Unbezahlte_CSV.Enabled = !stufen_.empty();
     form_.Label_ohne_Datum.Caption =
         monate_.ohne_datum == 0
@@ -172,20 +172,30 @@ bool Analyzeransicht::eingeschraenkt() const {
 }
 
 void Analyzeransicht::ansicht_zeigen() {
-    if (static_cast<int>(suchtexte_.size()) != form_.List_ANSICHT.ListCount()) {
-        return; // an analysis is filling the lists
-    }
     for (ListBox* liste : {&form_.List_ANSICHT, &form_.List_dateien}) {
-        if (eingeschraenkt() || spalte_ >= 0) {
-            liste->show_rows(ANSICHT(daten(form_), suchtexte_,
-                                     {spalte_, absteigend_, form_.Text_suchen.Text(),
-                                      form_.Check_nur_Unbezahlte.ticked(), gewaehlte()}));
-        } else {
-            liste->show_all();
+        if (liste->ListCount() != anzahl_) {
+            return; // an analysis is filling the lists
         }
+    }
+    if (eingeschraenkt() || spalte_ >= 0) {
+        const std::vector<int> zeilen = gewuenschte();
+        form_.List_ANSICHT.show_rows(zeilen);
+        form_.List_dateien.show_rows(zeilen);
+    } else {
+        form_.List_ANSICHT.show_all();
+        form_.List_dateien.show_all();
     }
     auswahl_nachfuehren();
     befund_zeigen();
+}
+
+std::vector<int> Analyzeransicht::gewuenschte() {
+    const std::string& gesucht = form_.Text_suchen.Text();
+    if (!gesucht.empty() && suchtexte_.empty()) {
+        suchtexte_ = SUCHTEXTE(daten(form_));
+    }
+    return ANSICHT(daten(form_), suchtexte_,
+                   {spalte_, absteigend_, gesucht, form_.Check_nur_Unbezahlte.ticked(), gewaehlte()});
 }
 
 /// What is marked can be seen; where nothing can be, nothing is.

@@ -34,6 +34,8 @@ private:
     void befund_zeigen();
     void auswahl_nachfuehren();
     void diagramme_fuellen();
+    std::vector<int> gewuenschte();
+    /// The invoices of the bar that is marked.
     std::optional<std::vector<int>> gewaehlte() const;
     bool eingeschraenkt() const;
     void melden(const std::string& text);
@@ -43,7 +45,8 @@ private:
     Form_Analyzer& form_;
     Printing& printing_;
     Dialogs& dialogs_;
-    std::vector<std::string> suchtexte_;
+    int anzahl_ = 0;                     ///< invoices that the lists hold
+    std::vector<std::string> suchtexte_; ///< made for the first search
     Monatsbild monate_;
     std::vector<Saeule> stufen_;
     int spalte_ = -1; ///< that sorts

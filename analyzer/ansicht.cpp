@@ -128,9 +128,8 @@ std::vector<int> ANSICHT(const Rechnungstabelle& daten, const std::vector<std::s
     const std::vector<std::string> gesucht = woerter(wunsch.gesucht);
     std::vector<int> zeilen;
     for (int zeile = 0; zeile < daten.anzahl(); ++zeile) {
-        const std::string& text = suchtexte.at(static_cast<std::size_t>(zeile));
-        const bool gefunden = std::all_of(gesucht.begin(), gesucht.end(), [&text](const std::string& wort) {
-            return text.find(wort) != std::string::npos;
+        const bool gefunden = std::all_of(gesucht.begin(), gesucht.end(), [&](const std::string& wort) {
+            return suchtexte.at(static_cast<std::size_t>(zeile)).find(wort) != std::string::npos;
         });
         const bool gewaehlt =
             !wunsch.auswahl || std::binary_search(wunsch.auswahl->begin(), wunsch.auswahl->end(), zeile);

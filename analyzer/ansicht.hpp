@@ -47,8 +47,9 @@ struct Ansichtswunsch {
 /// The texts in which the search looks, one for each invoice, as `SUCHTEXT` makes them.
 std::vector<std::string> SUCHTEXTE(const Rechnungstabelle& daten);
 
-/// The invoices to show, from top to bottom. Dates are sorted as dates, amounts as numbers, texts with their
-/// numbers as numbers; what cannot be read stands last. Equal ones keep the order of the files.
+/// The invoices to show, from top to bottom. `suchtexte` may be empty where nothing is searched. Dates are
+/// sorted as dates, amounts as numbers, texts with their numbers as numbers; what cannot be read stands last.
+/// Equal ones keep the order of the files.
 std::vector<int> ANSICHT(const Rechnungstabelle& daten, const std::vector<std::string>& suchtexte,
                          const Ansichtswunsch& wunsch);
 
