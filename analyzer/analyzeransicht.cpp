@@ -10,6 +10,7 @@
 #include "platform/text.hpp"
 #include "platform/verzeichnis.hpp"
 
+#include <algorithm>
 #include <cstddef>
 #include <utility>
 
@@ -69,6 +70,7 @@ Analyzeransicht::Analyzeransicht(Form_Analyzer& form, Printing& printing, Dialog
     form.Diagramm_Mahnstufen.Click = [this] {
         Diagramm_Click(form_.Diagramm_Mahnstufen, form_.Diagramm_Monate);
     };
+    form.SSTab_Ergebnis.Click = [this] { diagramme_fuellen(); };
     form.CMD_Unbezahlte_CSV.Click = [this] { CMD_Unbezahlte_CSV_Click(); };
     form.CMD_Diagramm_speichern.Click = [this] { CMD_Diagramm_speichern_Click(); };
     pfeile_zeigen();
@@ -77,19 +79,26 @@ Analyzeransicht::Analyzeransicht(Form_Analyzer& form, Printing& printing, Dialog
 void Analyzeransicht::NEUE_DATEN() {
     anzahl_ = daten(form_).anzahl();
     suchtexte_.clear();
-    monate_ = NACH_MONATEN(daten(form_));
-    stufen_ = NACH_MAHNSTUFEN(daten(form_));
-    diagramme_fuellen();
+    diagramme_alt_ = true;
     spalte_ = -1;
     pfeile_zeigen();
     Alle_zeigen();
+    diagramme_fuellen();
+    const auto& bezahlt = form_.List_rohdata[static_cast<int>(rohdatum::kBezahlt)].items();
+    form_.CMD_Unbezahlte_CSV.Enabled =
+        std::any_of(bezahlt.begin(), bezahlt.end(), [](const std::string& ja) { return ja != kJa; });
+    form_.CMD_Diagramm_speichern.Enabled = anzahl_ > 0;
 }
 
+/// They are made when they can be seen.
 void Analyzeransicht::diagramme_fuellen() {
+    if (!form_.Diagramm_Monate.effectively_visible() || !std::exchange(diagramme_alt_, false)) {
+        return;
+    }
+    monate_ = NACH_MONATEN(daten(form_));
+    stufen_ = NACH_MAHNSTUFEN(daten(form_));
     form_.Diagramm_Monate.show(monatsdiagramm(monate_.saeulen));
     form_.Diagramm_Mahnstufen.show(stufendiagramm(stufen_));
-    form_.CMD_Diagramm_speichern.Enabled = anzahl_ > 0;
-    form_.CMD_Unbezahlte_CSV.Enabled = !stufen_.empty();
     form_.Label_ohne_Datum.Caption =
         monate_.ohne_datum == 0
             ? ""

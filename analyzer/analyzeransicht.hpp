@@ -49,7 +49,8 @@ private:
     std::vector<std::string> suchtexte_; ///< made for the first search
     Monatsbild monate_;
     std::vector<Saeule> stufen_;
-    int spalte_ = -1; ///< that sorts
+    bool diagramme_alt_ = false; ///< they do not show what the lists hold
+    int spalte_ = -1;            ///< that sorts
     bool absteigend_ = false;
     bool still_ = false; ///< controls are set by the program
 };
