@@ -59,8 +59,7 @@ Analyzeransicht::Analyzeransicht(Form_Analyzer& form, Printing& printing, Dialog
     : form_(form), printing_(printing), dialogs_(dialogs) {
     form.Text_suchen.Change = [this] { Text_suchen_Change(); };
     form.Text_suchen.KeyDown = TASTEN({{kEingabetaste, [&form] { form.List_ANSICHT.SetFocus(); }},
-                                       {kPfeilRunter, [&form] { form.List_ANSICHT.SetFocus(); }},
-                                       {kEscape, [&form] { form.Text_suchen.Text = ""; }}});
+                                       {kPfeilRunter, [&form] { form.List_ANSICHT.SetFocus(); }}});
     form.Check_nur_Unbezahlte.Click = [this] { Text_suchen_Change(); };
     form.CMD_Alle_zeigen.Click = [this] { Alle_zeigen(); };
     for (int spalte = 0; spalte < form.CMD_Sortieren.size(); ++spalte) {

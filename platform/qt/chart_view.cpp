@@ -8,6 +8,7 @@
 #include <QChart>
 #include <QKeyEvent>
 #include <QPainter>
+#include <QPen>
 #include <QStackedBarSeries>
 #include <QToolTip>
 
@@ -52,6 +53,15 @@ void ChartBarsView::dress() {
     const Pushing here(dressing_);
     const QPalette& palette = widget_.palette();
     drawing_.dress(widget_.font(), palette.color(QPalette::WindowText), palette.color(QPalette::Window));
+}
+
+void ChartBarsView::outline(bool focused) {
+    constexpr int kRound = 3; // pixels
+    QChart& chart = *widget_.chart();
+    chart.setBackgroundBrush(Qt::NoBrush);
+    chart.setBackgroundPen(QPen(theme::focus_color(widget_.palette().color(QPalette::Window)), 2));
+    chart.setBackgroundRoundness(kRound);
+    chart.setBackgroundVisible(focused);
 }
 
 void ChartBarsView::push(PropertyId id) {
@@ -114,6 +124,9 @@ bool ChartBarsView::key_pressed(const QKeyEvent& event) {
 
 bool ChartBarsView::eventFilter(QObject* watched, QEvent* event) {
     const bool other_look = event->type() == QEvent::PaletteChange || event->type() == QEvent::FontChange;
+    if (watched == &widget_ && (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut)) {
+        outline(event->type() == QEvent::FocusIn);
+    }
     const bool handled = WidgetView::eventFilter(watched, event);
     if (other_look && watched == &widget_ && !dressing_) {
         dress();

@@ -23,6 +23,8 @@ protected:
 
 private:
     void dress();
+    /// Shows whether the keys mean this chart.
+    void outline(bool focused);
     void take(int bar);
     void tell(bool inside, int bar);
     /// The bar with an amount that lies next in that direction; -1 if there is none.

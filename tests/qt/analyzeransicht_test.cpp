@@ -12,6 +12,7 @@
 #include <QChart>
 #include <QChartView>
 #include <QImage>
+#include <QLineEdit>
 #include <QTest>
 
 namespace quittika::test {
@@ -99,6 +100,17 @@ TEST_F(Ansichtsfenster, KoepfeSortierenMitMausUndTastatur) {
     widget<ColumnHead>("CMD_Sortieren(1)").click();
     EXPECT_EQ(gezeigt(), (QStringList{"RN-10", "RN-9", "RN-11", "RN-100", "RN-2", "RN-8"}));
     EXPECT_EQ(markiert(), 1) << "the marked invoice stays marked";
+}
+
+TEST_F(Ansichtsfenster, DieSucheMitDerTastatur) {
+    auto& feld = widget<QLineEdit>("Text_suchen");
+    feld.setFocus();
+    QTest::keyClicks(&feld, "zander");
+    EXPECT_EQ(gezeigt(), QStringList{"RN-100"});
+    QTest::keyClick(&feld, Qt::Key_Escape);
+    EXPECT_EQ(gezeigt().size(), 6);
+    QTest::keyClick(&feld, Qt::Key_Down);
+    EXPECT_EQ(QApplication::focusWidget(), &widget<ColumnList>("List_ANSICHT"));
 }
 
 TEST_F(Ansichtsfenster, SpeichertDasDiagrammAlsPngUndPdf) {
