@@ -52,14 +52,16 @@ void ChartBarsView::items_changed() {
 void ChartBarsView::dress() {
     const Pushing here(dressing_);
     const QPalette& palette = widget_.palette();
-    drawing_.dress(widget_.font(), palette.color(QPalette::WindowText), palette.color(QPalette::Window));
+    // The ground of lists: the bars would not stand out from every colour that a window may have.
+    widget_.setBackgroundBrush(palette.color(QPalette::Base));
+    drawing_.dress(widget_.font(), palette.color(QPalette::Text), palette.color(QPalette::Base));
 }
 
 void ChartBarsView::outline(bool focused) {
     constexpr int kRound = 3; // pixels
     QChart& chart = *widget_.chart();
     chart.setBackgroundBrush(Qt::NoBrush);
-    chart.setBackgroundPen(QPen(theme::focus_color(widget_.palette().color(QPalette::Window)), 2));
+    chart.setBackgroundPen(QPen(theme::focus_color(widget_.palette().color(QPalette::Base)), 2));
     chart.setBackgroundRoundness(kRound);
     chart.setBackgroundVisible(focused);
 }
