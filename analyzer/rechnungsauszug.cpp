@@ -4,15 +4,15 @@
 #include "invoice/file/dateifelder.hpp"
 #include "platform/laufzeitfehler.hpp"
 #include "platform/text.hpp"
-#include "platform/textdatei.hpp"
 #include "platform/zahlen.hpp"
 
-#include <algorithm>
-#include <array>
+#include <utility>
 
 namespace quittika {
 
 namespace {
+
+constexpr std::string_view kMarke = kListenmarke;
 
 namespace zeile {
 constexpr int kNummer = 1;
@@ -24,80 +24,72 @@ constexpr int kBrutto = 54;
 constexpr int kVersendet = 56;
 constexpr int kBezahlt = 57;
 constexpr int kAbgemahnt = 58;
-constexpr int kLetzte = dateizeile::kVersandNetto;
 } // namespace zeile
-
-/// The lines of a file up to the last one needed, as views of it. A line that it does not have is empty.
-class Zeilen {
-public:
-    explicit Zeilen(std::string_view bytes) {
-        int nummer = 0;
-        int versatz = 0;
-        zeilen_teilen(bytes, [&](std::string_view text) {
-            if (nummer == 0 && text != kDateikennung) {
-                versatz = 1;
-            }
-            if (!beginnt_mit(text, kListenmarke)) {
-                ZEILEN_.at(static_cast<std::size_t>(nummer + versatz)) = text;
-            }
-            ++nummer;
-            return nummer + versatz <= zeile::kLetzte;
-        });
-    }
-    std::string_view bytes(int nummer) const { return ZEILEN_.at(static_cast<std::size_t>(nummer)); }
-    std::string text(int nummer) const { return aus_ansi(bytes(nummer)); }
-
-private:
-    std::array<std::string_view, zeile::kLetzte + 1> ZEILEN_{};
-};
 
 std::string JaNein(std::string_view text) {
     return nach_int16(text) == 0 ? kNein : kJa;
 }
 
 /// Both amounts together; the first one as it stands where the other is none, and `alte_version` then.
-std::string MIT_VERSAND(const Zeilen& zeilen, int betrag, int versand, bool& alte_version) {
-    const std::string text = zeilen.text(betrag);
+std::string MIT_VERSAND(std::string_view betrag, std::string_view versand, bool& alte_version) {
     Betragssumme summe;
-    summe.dazu(text);
-    if (!BETRAG_LESEN(zeilen.text(versand))) {
+    summe.dazu(aus_ansi(betrag));
+    const auto gelesen = BETRAG_LESEN(aus_ansi(versand));
+    if (!gelesen) {
         alte_version = true;
-        return text;
+        return aus_ansi(betrag);
     }
-    summe.dazu(zeilen.text(versand));
+    summe.dazu(*gelesen);
     return summe.text();
 }
 
 } // namespace
 
-bool REICHT_FUER_AUSZUG(std::string_view bytes) {
-    int fehlend = zeile::kLetzte + 1;
-    for (std::size_t ende = bytes.find('\n'); ende != std::string_view::npos && --fehlend > 0;) {
-        ende = bytes.find('\n', ende + 1);
+bool Rechnungszeilen::lesen(std::string_view bytes) {
+    ZEILEN_.fill({});
+    std::size_t nummer = 0;
+    bool erste = true;
+    while (!bytes.empty() && nummer < kAnzahl) {
+        const std::size_t ende = bytes.find('\n');
+        const bool ganz = ende != std::string_view::npos;
+        std::string_view zeile = bytes.substr(0, ende);
+        bytes.remove_prefix(ganz ? ende + 1 : bytes.size());
+        if (ganz && !zeile.empty() && zeile.back() == '\r') {
+            zeile.remove_suffix(1);
+        }
+        if (std::exchange(erste, false) && zeile != kDateikennung) {
+            ++nummer;
+        }
+        if (zeile.substr(0, kMarke.size()) != kMarke) {
+            ZEILEN_[nummer] = zeile;
+        }
+        nummer += ganz ? 1 : 0;
     }
-    return fehlend == 0;
+    return nummer == kAnzahl;
 }
 
-Rechnungsauszug AUSZUG_LESEN(std::string_view bytes) {
-    const Zeilen zeilen(bytes);
+Rechnungsauszug AUSZUG_LESEN(const Rechnungszeilen& ZEILEN) {
     Rechnungsauszug auszug;
     auto& werte = auszug.werte;
-    werte[rohdatum::kDatum] = zeilen.text(zeile::kDatum);
-    werte[rohdatum::kNummer] = zeilen.text(zeile::kNummer);
-    werte[rohdatum::kNummerzusatz] = zeilen.text(dateizeile::kNummer);
-    werte[rohdatum::kKundennummer] = zeilen.text(zeile::kKundennummer);
-    werte[rohdatum::kKundenname] = zeilen.text(zeile::kKundenname);
-    werte[rohdatum::kVersendet] = JaNein(zeilen.bytes(zeile::kVersendet));
-    werte[rohdatum::kAbgemahnt] = JaNein(zeilen.bytes(zeile::kAbgemahnt));
+    werte[rohdatum::kDatum] = aus_ansi(ZEILEN[zeile::kDatum]);
+    werte[rohdatum::kNummer] = aus_ansi(ZEILEN[zeile::kNummer]);
+    werte[rohdatum::kNummerzusatz] = aus_ansi(ZEILEN[dateizeile::kNummer]);
+    werte[rohdatum::kKundennummer] = aus_ansi(ZEILEN[zeile::kKundennummer]);
+    werte[rohdatum::kKundenname] = aus_ansi(ZEILEN[zeile::kKundenname]);
+    werte[rohdatum::kVersendet] = JaNein(ZEILEN[zeile::kVersendet]);
+    werte[rohdatum::kAbgemahnt] = JaNein(ZEILEN[zeile::kAbgemahnt]);
     werte[rohdatum::kMahnstufe] =
-        werte[rohdatum::kAbgemahnt] == kJa ? zahl_text(nach_double(zeilen.bytes(dateizeile::kMahnung))) : "0";
-    werte[rohdatum::kBezahlt] = JaNein(zeilen.bytes(zeile::kBezahlt));
+        werte[rohdatum::kAbgemahnt] == kJa ? zahl_text(nach_double(ZEILEN[dateizeile::kMahnung])) : "0";
+    werte[rohdatum::kBezahlt] = JaNein(ZEILEN[zeile::kBezahlt]);
     werte[rohdatum::kNetto] =
-        MIT_VERSAND(zeilen, dateizeile::kNachRabatt, dateizeile::kVersandNetto, auszug.alte_version);
-    werte[rohdatum::kMwSt] = MIT_VERSAND(zeilen, zeile::kMwSt, dateizeile::kVersandMwSt, auszug.alte_version);
-    werte[rohdatum::kBrutto] = zeilen.text(zeile::kBrutto);
-    Betragssumme().dazu(werte[rohdatum::kBrutto]); // one that is no amount would stop the sums of all
-    werte[rohdatum::kNotiz] = zeilen.text(dateizeile::kNotiz);
+        MIT_VERSAND(ZEILEN[dateizeile::kNachRabatt], ZEILEN[dateizeile::kVersandNetto], auszug.alte_version);
+    werte[rohdatum::kMwSt] =
+        MIT_VERSAND(ZEILEN[zeile::kMwSt], ZEILEN[dateizeile::kVersandMwSt], auszug.alte_version);
+    werte[rohdatum::kBrutto] = aus_ansi(ZEILEN[zeile::kBrutto]);
+    if (!BETRAG_LESEN(werte[rohdatum::kBrutto])) {
+        throw Laufzeitfehler(fehler::kFalscherTyp); // it would stop the sums of all
+    }
+    werte[rohdatum::kNotiz] = aus_ansi(ZEILEN[dateizeile::kNotiz]);
     return auszug;
 }
 

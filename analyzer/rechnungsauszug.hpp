@@ -2,6 +2,7 @@
 
 #include "analyzer/spalten.hpp"
 
+#include <array>
 #include <string_view>
 
 namespace quittika {
@@ -12,13 +13,24 @@ struct Rechnungsauszug {
     bool alte_version = false; ///< the file holds no split of the shipping costs
 };
 
-/// Whether the bytes of a file reach behind the last line that the analyzer needs. It stands far in front of
-/// line 32,000, where reading would end in any case.
-bool REICHT_FUER_AUSZUG(std::string_view bytes);
+/// The lines of an invoice file that the analyzer may need, as views of its bytes. Position lines count as
+/// lines here, wherever they stand. A file whose first line is not "qk8" has its fields one line further up.
+class Rechnungszeilen {
+public:
+    static constexpr std::size_t kAnzahl =
+        221; ///< far in front of 32,000, where reading would end in any case
 
-/// Picks the fields out of the lines of an invoice file, `ZEILEN`. Position lines count as lines here,
-/// wherever they stand. A file whose first line is not "qk8" has its fields one line further up.
-/// Throws `Laufzeitfehler` 13 or 6 where a state, the dunning level or an amount is no number.
-Rechnungsauszug AUSZUG_LESEN(std::string_view bytes);
+    /// Takes the lines out of the first bytes of a file; whether they reach behind the last line needed.
+    bool lesen(std::string_view bytes);
+    /// The bytes of a line; a line that the file does not have is empty.
+    std::string_view operator[](int zeile) const { return ZEILEN_.at(static_cast<std::size_t>(zeile)); }
+
+private:
+    std::array<std::string_view, kAnzahl> ZEILEN_{};
+};
+
+/// Picks out the fields. Throws `Laufzeitfehler` 13 or 6 where a state, the dunning level or an amount is no
+/// number.
+Rechnungsauszug AUSZUG_LESEN(const Rechnungszeilen& ZEILEN);
 
 } // namespace quittika

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "analyzer/spalten.hpp"
+#include "analyzer/rechnungsauszug.hpp"
 #include "platform/dateianfang.hpp"
 #include "platform/progress.hpp"
 
@@ -35,6 +35,7 @@ public:
 
 private:
     Dateianfang leser_;
+    Rechnungszeilen ZEILEN; ///< of the file read last
 };
 
 } // namespace quittika

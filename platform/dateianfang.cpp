@@ -12,18 +12,18 @@ namespace quittika {
 
 namespace {
 
-constexpr std::size_t kStueck = 16384; // bytes; holds the fields of nearly every invoice
+constexpr std::size_t kErstesStueck =
+    4096; // bytes; holds the fields of most invoices, the next is twice as large
 
 } // namespace
 
-std::string_view Dateianfang::lesen(const std::string& ort,
-                                    const std::function<bool(std::string_view bytes)>& genug) {
+void Dateianfang::lesen(const std::string& ort, const std::function<bool(std::string_view bytes)>& genug) {
     const Datei datei(ort, O_RDONLY | O_NONBLOCK); // a pipe without a writer must not hold the program
     if (!S_ISREG(datei.auskunft().st_mode)) {
         scheitern(EISDIR, ort);
     }
     std::size_t laenge = 0;
-    std::size_t ziel = kStueck;
+    std::size_t ziel = kErstesStueck;
     while (true) {
         if (puffer_.size() < ziel) {
             puffer_.resize(ziel);
@@ -36,9 +36,8 @@ std::string_view Dateianfang::lesen(const std::string& ort,
             scheitern(errno, ort);
         }
         laenge += static_cast<std::size_t>(gelesen);
-        const std::string_view bytes(puffer_.data(), laenge);
-        if (gelesen == 0 || genug(bytes)) {
-            return bytes;
+        if (genug({puffer_.data(), laenge}) || gelesen == 0) {
+            return;
         }
         if (laenge == ziel) {
             if (ziel >= kHoechstens) {

@@ -13,9 +13,10 @@ public:
     /// More bytes than these are read of no file.
     static constexpr std::size_t kHoechstens = 50U << 20U;
 
-    /// The first bytes of a file, given by its system path: so many that `genug` is true of them, else all.
-    /// They stand until the next call. Throws `Laufzeitfehler` 7 where `kHoechstens` bytes are not enough.
-    std::string_view lesen(const std::string& ort, const std::function<bool(std::string_view bytes)>& genug);
+    /// Hands over the first bytes of a file, given by its system path, each time more of them, until
+    /// `genug` answers true; at the end of the file all of them. They stand until the next call.
+    /// Throws `Laufzeitfehler` 7 where `kHoechstens` bytes are not enough.
+    void lesen(const std::string& ort, const std::function<bool(std::string_view bytes)>& genug);
 
 private:
     std::string puffer_;

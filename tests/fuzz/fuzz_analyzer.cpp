@@ -21,7 +21,9 @@ void verlangen(bool erfuellt) {
 
 std::optional<Rechnungsauszug> auszug(std::string_view bytes) {
     try {
-        return AUSZUG_LESEN(bytes);
+        Rechnungszeilen ZEILEN;
+        ZEILEN.lesen(bytes);
+        return AUSZUG_LESEN(ZEILEN);
     } catch (const Laufzeitfehler& fehler) {
         verlangen(fehler.nummer() == fehler::kFalscherTyp || fehler.nummer() == fehler::kUeberlauf);
         return std::nullopt;
@@ -61,7 +63,7 @@ bool ist_betrag(const std::string& text) {
 
 void pruefen(const std::string& bytes) {
     const std::optional<Rechnungsauszug> gelesen = auszug(bytes);
-    if (REICHT_FUER_AUSZUG(bytes)) { // then what comes behind changes nothing
+    if (Rechnungszeilen().lesen(bytes)) { // then what comes behind changes nothing
         const auto mit_mehr = auszug(bytes + "7\r\n#qk8LIST#");
         verlangen(mit_mehr.has_value() == gelesen.has_value() &&
                   (!gelesen || mit_mehr->werte == gelesen->werte));
