@@ -48,7 +48,7 @@ std::string auslassungen(const std::vector<Rechnungsliste::Auslassung>& liste) {
 } // namespace
 
 Analyzer::Analyzer(Form_Analyzer& form, const Programmverzeichnis& verzeichnis, Desktop& desktop,
-                   Dialogs& dialogs, Shell& shell, const Clock& clock, Progress& progress,
+                   Dialogs& dialogs, Printing& printing, Shell& shell, const Clock& clock, Progress& progress,
                    Rechnungsoeffner oeffneRN)
     : form_(form),
       verzeichnis_(verzeichnis),
@@ -57,7 +57,8 @@ Analyzer::Analyzer(Form_Analyzer& form, const Programmverzeichnis& verzeichnis, 
       shell_(shell),
       clock_(clock),
       progress_(progress),
-      oeffneRN_(std::move(oeffneRN)) {
+      oeffneRN_(std::move(oeffneRN)),
+      ansicht_(form, printing, dialogs) {
     form.Load = [this] { Form_Load(); };
     form.m_Info.Click = [this] { m_Info_Click(); };
     form.Command_Quellordner.Click = [this] { Command_Quellordner_Click(); };
@@ -136,6 +137,17 @@ void Analyzer::CMD_START_ANALYSE_Click() {
     }
 }
 
+void Analyzer::StandLeeren() {
+    for (ListBox* liste : {&form_.List_ANSICHT, &form_.List_dateien}) {
+        liste->ListIndex = -1;
+    }
+    for (CheckBox* stand : {&form_.Check_versendet, &form_.Check_bezahlt, &form_.Check_abgemahnt}) {
+        stand->Value = 0;
+    }
+    form_.Combo1_mahnung.Text = "";
+    form_.Text_Notiz.Text = "";
+}
+
 void Analyzer::Leeren() {
     for (ListBox& spalte : form_.List_rohdata) {
         spalte.Clear();
@@ -143,12 +155,9 @@ void Analyzer::Leeren() {
     for (ListBox* liste : {&form_.List_ANSICHT, &form_.List_dateien, &form_.List_Zusammenfassung}) {
         liste->Clear();
     }
-    for (CheckBox* stand : {&form_.Check_versendet, &form_.Check_bezahlt, &form_.Check_abgemahnt}) {
-        stand->Value = 0;
-    }
-    form_.Combo1_mahnung.Text = "";
-    form_.Text_Notiz.Text = "";
+    StandLeeren();
     AlteVersionGefunden = false;
+    ansicht_.NEUE_DATEN();
     melden("");
 }
 
@@ -192,6 +201,7 @@ void Analyzer::Uebernehmen(Rechnungsliste&& liste) {
     }
     form_.List_dateien.assign(std::move(liste.dateien));
     form_.List_ANSICHT.assign(std::move(liste.zeilen));
+    ansicht_.NEUE_DATEN();
 }
 
 void Analyzer::StandZeigen(const Rechnungsliste& liste, std::size_t dateien) {
@@ -217,6 +227,7 @@ void Analyzer::AbbruchZeigen(const Rechnungsliste& liste, std::size_t dateien) {
 void Analyzer::Zeile_auswaehlen(const ListBox& liste) {
     const int zeile = liste.ListIndex();
     if (zeile < 0) {
+        StandLeeren();
         return;
     }
     for (ListBox& spalte : form_.List_rohdata) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "analyzer/analyzeransicht.hpp"
 #include "analyzer/form_analyzer.hpp"
 #include "analyzer/rechnungsliste.hpp"
 #include "platform/desktop.hpp"
@@ -22,7 +23,8 @@ public:
     using Rechnungsoeffner = std::function<void(const std::string& pfad)>;
 
     Analyzer(Form_Analyzer& form, const Programmverzeichnis& verzeichnis, Desktop& desktop, Dialogs& dialogs,
-             Shell& shell, const Clock& clock, Progress& progress, Rechnungsoeffner oeffneRN);
+             Printing& printing, Shell& shell, const Clock& clock, Progress& progress,
+             Rechnungsoeffner oeffneRN);
 
     /// Fills `List_dateien` with the names of the files that fit a pattern. Throws `Laufzeitfehler` for a
     /// folder that cannot be read; the list is empty then.
@@ -42,6 +44,7 @@ private:
 
     void PfadMerken();
     void PfadZeigen();
+    void StandLeeren();
     void Leeren();
     bool Rechnungen_suchen();
     Rechnungsliste Lesen();
@@ -58,6 +61,7 @@ private:
     const Clock& clock_;
     Progress& progress_;
     Rechnungsoeffner oeffneRN_;
+    Analyzeransicht ansicht_;
     std::string pfad_; ///< folder of the invoices; "FEHLER" or empty for none
     bool AlteVersionGefunden = false;
 };

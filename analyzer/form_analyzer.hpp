@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/forms/chart.hpp"
 #include "platform/forms/controls.hpp"
 #include "platform/forms/twips.hpp"
 
@@ -11,6 +12,9 @@ struct Form_Analyzer : Form {
         : Form("Form_Analyzer", "Rechnungsmanager + Analyzer", {.width = twips(1280), .height = twips(800)}) {
         List_dateien.Visible.adopt(false);
         Text_Notiz.Locked.adopt(true);
+        CMD_Alle_zeigen.Enabled.adopt(false);
+        CMD_Unbezahlte_CSV.Enabled.adopt(false);
+        CMD_Diagramm_speichern.Enabled.adopt(false);
         for (Control* stand :
              {static_cast<Control*>(&Check_versendet), static_cast<Control*>(&Check_bezahlt),
               static_cast<Control*>(&Check_abgemahnt), static_cast<Control*>(&Combo1_mahnung)}) {
@@ -25,8 +29,14 @@ struct Form_Analyzer : Form {
     Label Label_Pfad{*this, "Label_Pfad",
                      "Bitte geben Sie ein Rechnungsverzeichnis zur Analyse an...  (Das Verzeichnis muss nur "
                      "einmalig festgelegt werden.)"};
+    TextBox Text_suchen{*this, "Text_suchen"};
+    CheckBox Check_nur_Unbezahlte{*this, "Check_nur_Unbezahlte", "nur &Unbezahlte"};
+    CommandButton CMD_Alle_zeigen{*this, "CMD_Alle_zeigen", "&Alle zeigen"};
+    Label Label_Ansicht{*this, "Label_Ansicht"}; ///< how many of the invoices are shown
     CheckBox Check_zeige_Dateiliste{*this, "Check_zeige_Dateiliste", "Zeige Dateinamen (*.qk8)"};
     ControlArray<Label, 2> Label_BESCHRIFTUNG_LISTE{*this, "Label_BESCHRIFTUNG_LISTE"};
+    /// The column that sorts has an arrow for its caption.
+    ControlArray<CommandButton, 11> CMD_Sortieren{*this, "CMD_Sortieren"};
     ListBox List_ANSICHT{*this, "List_ANSICHT"}; ///< a row of text for each invoice
     ListBox List_dateien{*this, "List_dateien"}; ///< the names of their files
     ControlArray<ListBox, 13> List_rohdata{*this, Named("List_rohdata").data_only()}; ///< `Rohdatum`
@@ -35,6 +45,14 @@ struct Form_Analyzer : Form {
     ListBox List_Zusammenfassung{SSTab_Ergebnis.page(0), "List_Zusammenfassung"};
     CommandButton cmd_ErgebnisSpeichern{SSTab_Ergebnis.page(0), "cmd_ErgebnisSpeichern",
                                         "Ergebnisse abspeichern..."};
+    CheckBox Check_UTF8{SSTab_Ergebnis.page(0), "Check_UTF8", "in UTF-8"};
+    CommandButton CMD_Unbezahlte_CSV{SSTab_Ergebnis.page(0), "CMD_Unbezahlte_CSV", "Unbezahlte als &CSV..."};
+
+    Chart Diagramm_Monate{SSTab_Ergebnis.page(1), "Diagramm_Monate", "Brutto nach Monat"};
+    Chart Diagramm_Mahnstufen{SSTab_Ergebnis.page(1), "Diagramm_Mahnstufen", "Unbezahlt nach Mahnstufe"};
+    Label Label_ohne_Datum{SSTab_Ergebnis.page(1), "Label_ohne_Datum"};
+    CommandButton CMD_Diagramm_speichern{SSTab_Ergebnis.page(1), "CMD_Diagramm_speichern",
+                                         "Diagramm s&peichern..."};
 
     Frame Frame_status{*this, "Frame_status", "Vorgangsstatus"};
     CheckBox Check_versendet{Frame_status, "Check_versendet", "bereits versendet"};

@@ -1,12 +1,13 @@
 #include "app/programm.hpp"
 #include "platform/datei.hpp"
+#include "platform/qt/chart_sheet.hpp"
 #include "platform/qt/paint_tools.hpp"
 #include "platform/qt/print_page.hpp"
 #include "platform/qt/print_pdf.hpp"
 #include "platform/qt/qt_text.hpp"
 #include "platform/script/runner.hpp"
 
-#include <QGuiApplication>
+#include <QApplication>
 
 #include <iostream>
 
@@ -36,14 +37,15 @@ void pdf_schreiben(PaintTools& werkzeug, const std::string& pfad, const Recorded
 int main(int argc, char** argv) {
     dateigroesse_als_fehler();
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QGuiApplication anwendung(argc, argv);
+    const QApplication anwendung(argc, argv);
     PaintTools werkzeug;
     const RealPrinting ausgabe{[&werkzeug](const std::string& pfad, const RecordedJobs& auftraege) {
                                    pdf_schreiben(werkzeug, pfad, auftraege);
                                },
                                [&werkzeug](const DrawnPage& seite, const std::string& pfad, int dpi) {
                                    save_page(seite, pfad, dpi, werkzeug);
-                               }};
+                               },
+                               save_charts};
     Runner runner({programm_starten, werkzeug.metrics, ausgabe, &werkzeug.pictures}, std::cin, std::cout);
     return runner.run();
 }

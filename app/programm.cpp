@@ -142,8 +142,8 @@ struct Programm::Teile {
     Analyzerfenster analyzerfenster{
         platform.desktop, [this](Form_Analyzer& form) {
             return std::make_unique<Analyzer>(
-                form, verzeichnis, platform.desktop, platform.dialogs, platform.shell, platform.clock,
-                platform.progress, [this](const std::string& pfad) {
+                form, verzeichnis, platform.desktop, platform.dialogs, platform.printing, platform.shell,
+                platform.clock, platform.progress, [this](const std::string& pfad) {
                     const bool frei =
                         !zustand.geaendert() || dateibefehle.VorherSpeichern(Buttons::YesNoCancel);
                     if (frei && dateibefehle.oeffneRN(pfad)) {

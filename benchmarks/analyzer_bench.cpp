@@ -83,8 +83,9 @@ struct Analysestand {
     QtPlatform plattform;
     Platform p = plattform.platform();
     Form_Analyzer form;
-    Analyzer analyzer{form,    verzeichnis, p.desktop,  p.dialogs,
-                      p.shell, p.clock,     p.progress, [](const std::string&) {}};
+    Analyzer analyzer{form,      verzeichnis, p.desktop,
+                      p.dialogs, p.printing,  p.shell,
+                      p.clock,   p.progress,  [](const std::string&) {}};
 };
 
 /// What the lists hold, in bytes of text.

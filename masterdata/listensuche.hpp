@@ -35,7 +35,4 @@ private:
     std::uint64_t stand_ = ~std::uint64_t{0}; ///< of the list, when it was folded
 };
 
-/// A text as the search compares it: capitals, "Ä" as "AE", "ß" as "SS".
-std::string SUCHTEXT(std::string_view text);
-
 } // namespace quittika

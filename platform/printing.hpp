@@ -70,6 +70,7 @@ public:
 };
 
 class PictureControl;
+struct ChartSheet;
 struct DrawnPage;
 
 /// The places that can be printed on.
@@ -93,6 +94,9 @@ public:
     /// Saves a page as a picture, png by that ending, else bmp; `dpi` from 1 to 1200. Replaces a file whole.
     /// Throws the error of the file, 5 for another `dpi`, 7 where the picture needs too much memory.
     virtual void save_page(const DrawnPage& page, const std::string& path, int dpi) = 0;
+    /// Saves charts on a white sheet of A4, as PDF by that ending, else as png. Replaces a file whole. Throws
+    /// the error of the file.
+    virtual void save_charts(const ChartSheet& sheet, const std::string& path) = 0;
     /// The file that the printer chosen last prints into, each job in place of the one before; empty for
     /// paper.
     virtual std::string output_file() const = 0;

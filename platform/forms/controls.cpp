@@ -155,7 +155,49 @@ void ListBox::assign(std::vector<std::string> items, int first) {
     tell_items();
 }
 
+void ListBox::show_rows(std::vector<int> indices) {
+    std::vector<int> rows(items_.size(), -1);
+    for (int row = 0; const int index : indices) {
+        require(index >= 0 && index < ListCount(), fehler::kUngueltigerAufruf);
+        int& place = rows[static_cast<std::size_t>(index)];
+        require(place < 0, fehler::kUngueltigerAufruf);
+        place = row++;
+    }
+    shown_ = std::move(indices);
+    rows_ = std::move(rows);
+    in_own_order_ = false;
+    notify_items();
+}
+
+void ListBox::show_all() {
+    if (!in_own_order_) {
+        own_order();
+        notify_items();
+    }
+}
+
+void ListBox::own_order() {
+    in_own_order_ = true;
+    shown_.clear();
+    rows_.clear();
+}
+
+int ListBox::item_in(int row) const {
+    if (row < 0 || row >= shown_count()) {
+        return -1;
+    }
+    return in_own_order_ ? row : shown_[static_cast<std::size_t>(row)];
+}
+
+int ListBox::row_of(int index) const {
+    if (index < 0 || index >= ListCount()) {
+        return -1;
+    }
+    return in_own_order_ ? index : rows_[static_cast<std::size_t>(index)];
+}
+
 void ListBox::tell_items() {
+    own_order();
     ++revision_;
     notify_items();
     Changed();

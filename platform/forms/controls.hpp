@@ -171,6 +171,18 @@ public:
     /// Another number after each change of the items.
     std::uint64_t revision() const { return revision_; }
 
+    /// Lets the user see these items alone, in this order; items, indices and count stay as they are. The
+    /// next change of the items ends it. Throws `Laufzeitfehler` 5 for an item that is none or named twice.
+    void show_rows(std::vector<int> indices);
+    /// All items in their own order again.
+    void show_all();
+    /// Items that are shown.
+    int shown_count() const { return in_own_order_ ? ListCount() : static_cast<int>(shown_.size()); }
+    /// Index of the item that is shown in this row, -1 if there is none.
+    int item_in(int row) const;
+    /// The row in which an item is shown, -1 if it is not.
+    int row_of(int index) const;
+
     /// A user's click on an item: fires `Click` even where it was selected already.
     void user_select(int index);
 
@@ -186,9 +198,13 @@ protected:
 
 private:
     void tell_items();
+    void own_order();
 
     std::vector<std::string> items_;
     std::uint64_t revision_ = 0;
+    bool in_own_order_ = true;
+    std::vector<int> shown_; ///< items by row, while they are not in their own order
+    std::vector<int> rows_;  ///< and back, -1 for those that are not shown
 };
 
 /// A drop-down list; with `editable` the text can be typed, too.

@@ -1,6 +1,7 @@
 #include "platform/qt/binding.hpp"
 
 #include "platform/qt/button_views.hpp"
+#include "platform/qt/chart_view.hpp"
 #include "platform/qt/directory_views.hpp"
 #include "platform/qt/frame_view.hpp"
 #include "platform/qt/list_views.hpp"
@@ -48,7 +49,7 @@ bool is_container(QObject& object) {
     const bool other = is_a<QLabel>(object) || is_a<QAbstractButton>(object) || is_a<QLineEdit>(object) ||
                        is_a<QComboBox>(object) || is_a<QAbstractItemView>(object) ||
                        is_a<QPlainTextEdit>(object) || is_a<QAbstractSlider>(object) ||
-                       is_a<QProgressBar>(object) || is_a<QTabWidget>(object);
+                       is_a<QProgressBar>(object) || is_a<QTabWidget>(object) || is_a<QChartView>(object);
     return object.isWidgetType() && !other;
 }
 
@@ -94,6 +95,7 @@ constexpr Pair kPairs[] = {
     {"Shape", "QFrame", is_container, tie<Control, QWidget, FrameView>},
     {"Line", "QFrame", is_container, tie<Control, QWidget, FrameView>},
     {"ListBox", "QListView", is_a<QListView>, tie<ListBox, QListView, ListBoxView>},
+    {"Chart", "QChartView", is_a<QChartView>, tie<Chart, QChartView, ChartBarsView>},
     {"ComboBox", "QComboBox", is_a<QComboBox>, tie<ComboBox, QComboBox, ComboBoxView>},
     {"HScrollBar", "horizontal QScrollBar", is_scroll_bar<Qt::Horizontal>,
      tie<RangeControl, QAbstractSlider, RangeView>},

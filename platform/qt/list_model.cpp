@@ -34,13 +34,13 @@ int ListModel::rowCount(const QModelIndex& parent) const {
 QVariant ListModel::data(const QModelIndex& index, int role) const {
     switch (role) {
     case Qt::DisplayRole:
-        return line_of(list_.List(index.row()));
+        return line_of(list_.List(list_.item_in(index.row())));
     case ColumnList::kColumnTexts:
-        return parts(index.row());
+        return parts(list_.item_in(index.row()));
     case ColumnList::kLongestRow:
         return longest_;
     case Qt::AccessibleTextRole: {
-        QStringList said = parts(index.row());
+        QStringList said = parts(list_.item_in(index.row()));
         said.removeIf([](const QString& part) { return part.trimmed().isEmpty(); });
         return said.isEmpty() ? data(index, Qt::DisplayRole) : said.join(QLatin1String("; "));
     }
@@ -49,8 +49,8 @@ QVariant ListModel::data(const QModelIndex& index, int role) const {
     }
 }
 
-QStringList ListModel::separated(int row) const {
-    QStringList parts = line_of(list_.List(row)).split(separator_);
+QStringList ListModel::separated(int item) const {
+    QStringList parts = line_of(list_.List(item)).split(separator_);
     if (parts.size() > 1 && parts.back().isEmpty()) {
         parts.removeLast(); // it stands behind the last part, too
     }
@@ -61,20 +61,20 @@ QStringList ListModel::separated(int row) const {
     return parts;
 }
 
-QStringList ListModel::parts(int row) const {
+QStringList ListModel::parts(int item) const {
     if (!separator_.isEmpty()) {
-        return separated(row);
+        return separated(item);
     }
     QStringList parts;
     for (const ListBox* column : columns_) {
-        parts.append(line_of(column->List(row)));
+        parts.append(line_of(column->List(item)));
     }
     return parts;
 }
 
 void ListModel::reload() {
     beginResetModel();
-    rows_ = list_.ListCount();
+    rows_ = list_.shown_count();
     std::size_t longest = 0;
     for (const std::string& item : list_.items()) {
         if (item.size() > longest) { // bytes are never fewer than characters

@@ -9,8 +9,8 @@
 
 namespace quittika {
 
-/// The items of a list box, read where they are. It knows of changes when it is told to reload; until then
-/// a row that has gone is empty.
+/// The items of a list box that are shown, read where they are. It knows of changes when it is told to
+/// reload; until then a row that has gone is empty.
 class ListModel final : public QAbstractListModel {
 public:
     explicit ListModel(const ListBox& list) : list_(list) {}
@@ -30,8 +30,8 @@ public:
     void reload();
 
 private:
-    QStringList parts(int row) const;
-    QStringList separated(int row) const;
+    QStringList parts(int item) const;
+    QStringList separated(int item) const;
 
     const ListBox& list_;
     std::vector<const ListBox*> columns_;

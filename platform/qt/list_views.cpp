@@ -50,12 +50,12 @@ ListBoxView::ListBoxView(ListBox& control, QListView& widget)
     const std::unique_ptr<QItemSelectionModel> former(widget.selectionModel());
     widget.setModel(&model_);
     connect(widget.selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
-        const int row = selected_row();
-        if (!pushing_ && !mouse_down_ && row >= 0) {
-            take(row);
+        const int item = selected_item();
+        if (!pushing_ && !mouse_down_ && item >= 0) {
+            take(item);
         }
     });
-    connect(&widget, &QListView::clicked, this, [this](const QModelIndex& index) { take(index.row()); });
+    connect(&widget, &QListView::clicked, this, [this](const QModelIndex& index) { take(item_at(index)); });
     connect(&widget, &QListView::doubleClicked, this, [this] {
         if (control_.DblClick) {
             guarded(control_.form(), [this] { control_.DblClick(); });
@@ -63,28 +63,32 @@ ListBoxView::ListBoxView(ListBox& control, QListView& widget)
     });
 }
 
-int ListBoxView::selected_row() const {
+int ListBoxView::selected_item() const {
     const QModelIndexList rows = widget_.selectionModel()->selectedIndexes();
-    return rows.isEmpty() ? -1 : rows.front().row();
+    return rows.isEmpty() ? -1 : item_at(rows.front());
 }
 
-void ListBoxView::take(int row) {
+QModelIndex ListBoxView::place_of(int item) const {
+    return model_.index(control_.row_of(item));
+}
+
+void ListBoxView::take(int item) {
     reload();
-    if (row < control_.ListCount()) {
-        guarded(control_.form(), [this, row] { control_.user_select(row); });
+    if (control_.row_of(item) >= 0) {
+        guarded(control_.form(), [this, item] { control_.user_select(item); });
     }
     push_index();
 }
 
 void ListBoxView::open_menu(const QContextMenuEvent& event) {
     const bool by_mouse = event.reason() == QContextMenuEvent::Mouse;
-    const QModelIndex row = by_mouse ? widget_.indexAt(event.pos()) : model_.index(control_.ListIndex());
+    const QModelIndex row = by_mouse ? widget_.indexAt(event.pos()) : place_of(control_.ListIndex());
     if (!row.isValid()) {
         return;
     }
     mouse_down_ = false; // its release goes to the menu
-    if (row.row() != control_.ListIndex()) {
-        take(row.row());
+    if (item_at(row) != control_.ListIndex()) {
+        take(item_at(row));
     }
     menu_->popup(by_mouse ? event.globalPos()
                           : widget_.viewport()->mapToGlobal(widget_.visualRect(row).bottomLeft()));
@@ -114,18 +118,18 @@ void ListBoxView::pressed(const QMouseEvent& event) {
     dragged_ = false;
     pressed_at_ = event.position().toPoint();
     const bool may_be_dragged = control_.DragText && event.button() == Qt::LeftButton;
-    pressed_row_ = may_be_dragged ? widget_.indexAt(pressed_at_).row() : -1;
+    pressed_item_ = may_be_dragged ? item_at(widget_.indexAt(pressed_at_)) : -1;
 }
 
 void ListBoxView::released() {
     mouse_down_ = false;
-    pressed_row_ = -1;
+    pressed_item_ = -1;
     QMetaObject::invokeMethod(
         this,
         [this] {
-            const int row = selected_row();
-            if (row >= 0 && row != control_.ListIndex()) {
-                take(row);
+            const int item = selected_item();
+            if (item >= 0 && item != control_.ListIndex()) {
+                take(item);
             } else {
                 push_index(); // a click beside the rows chooses nothing else
             }
@@ -134,28 +138,28 @@ void ListBoxView::released() {
 }
 
 bool ListBoxView::drags(const QMouseEvent& event) {
-    if (pressed_row_ < 0 || !event.buttons().testFlag(Qt::LeftButton)) {
+    if (pressed_item_ < 0 || !event.buttons().testFlag(Qt::LeftButton)) {
         return false;
     }
     const QPoint way = event.position().toPoint() - pressed_at_;
     if (way.manhattanLength() >= QApplication::startDragDistance()) {
-        const int row = std::exchange(pressed_row_, -1);
+        const int item = std::exchange(pressed_item_, -1);
         std::string text;
-        guarded(control_.form(), [&] { text = control_.DragText(row); });
+        guarded(control_.form(), [&] { text = control_.DragText(item); });
         if (text.empty()) {
             return false;
         }
-        drag(row, text);
+        drag(item, text);
     }
     return true;
 }
 
-void ListBoxView::drag(int row, const std::string& text) {
+void ListBoxView::drag(int item, const std::string& text) {
     const Activity::Hold here(control_.form().activity()); // until the drop has been heard
     mouse_down_ = false;
     dragged_ = true; // the drag gets the release
-    if (row != control_.ListIndex()) {
-        take(row);
+    if (item != control_.ListIndex()) {
+        take(item);
     }
     if (!QGuiApplication::mouseButtons().testFlag(Qt::LeftButton)) {
         return; // the click has led to a box, which got it
@@ -188,7 +192,7 @@ void ListBoxView::reload() {
     const Pushing here(pushing_);
     const int first = widget_.verticalScrollBar()->value();
     const int left = widget_.horizontalScrollBar()->value();
-    const int former = widget_.currentIndex().row();
+    const int former = item_at(widget_.currentIndex());
     model_.reload();
     if (widget_.isVisible()) {
         // The scroll bars learn their new range with the layout.
@@ -209,15 +213,15 @@ void ListBoxView::push(PropertyId id) {
 }
 
 void ListBoxView::push_index() {
-    if (dirty_ || selected_row() == control_.ListIndex()) {
+    const QModelIndex index = dirty_ ? QModelIndex() : place_of(control_.ListIndex());
+    if (dirty_ || selected_item() == item_at(index)) {
         return;
     }
     const Pushing here(pushing_);
-    if (control_.ListIndex() < 0) {
+    if (!index.isValid()) {
         widget_.selectionModel()->clear();
         return;
     }
-    const QModelIndex index = model_.index(control_.ListIndex());
     widget_.selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect);
     if (widget_.hasAutoScroll()) {
         widget_.scrollTo(index);

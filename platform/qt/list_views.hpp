@@ -31,23 +31,26 @@ protected:
 private:
     void reload();
     void push_index();
-    /// Makes the widget's row the control's, with a click.
-    void take(int row);
-    int selected_row() const;
+    /// Selects an item of the control, with a click.
+    void take(int item);
+    /// The item in the widget's row of that place, -1 if there is none.
+    int item_at(const QModelIndex& place) const { return control_.item_in(place.row()); }
+    int selected_item() const;
+    QModelIndex place_of(int item) const;
     void open_menu(const QContextMenuEvent& event);
     void pressed(const QMouseEvent& event);
     void released();
     /// A move of the mouse. Returns whether it is the beginning of a drag, or the drag itself, now over.
     bool drags(const QMouseEvent& event);
-    void drag(int row, const std::string& text);
+    void drag(int item, const std::string& text);
 
     ListModel model_;
     QMenu* menu_;
     bool dirty_ = false;
     bool pushing_ = false;
     bool mouse_down_ = false;
-    bool dragged_ = false; ///< since the last press of a button
-    int pressed_row_ = -1; ///< may be dragged
+    bool dragged_ = false;  ///< since the last press of a button
+    int pressed_item_ = -1; ///< may be dragged
     QPoint pressed_at_;
 };
 

@@ -1,6 +1,7 @@
 #include "platform/qt/print_printing.hpp"
 
 #include "platform/laufzeitfehler.hpp"
+#include "platform/qt/chart_sheet.hpp"
 #include "platform/qt/print_page.hpp"
 #include "platform/qt/print_pdf.hpp"
 #include "platform/qt/print_printer.hpp"
@@ -33,6 +34,10 @@ std::unique_ptr<PrintDevice> QtPrinting::picture(PictureControl& control, const 
 
 void QtPrinting::save_page(const DrawnPage& page, const std::string& path, int dpi) {
     quittika::save_page(page, path, dpi, tools_);
+}
+
+void QtPrinting::save_charts(const ChartSheet& sheet, const std::string& path) {
+    quittika::save_charts(sheet, path);
 }
 
 std::string QtPrinting::output_file() const {

@@ -25,6 +25,7 @@ public:
     std::unique_ptr<PrintDevice> pdf(const std::string& path, const PrintDocument& document) override;
     std::unique_ptr<PrintDevice> picture(PictureControl& control, const PrintDocument& document) override;
     void save_page(const DrawnPage& page, const std::string& path, int dpi) override;
+    void save_charts(const ChartSheet& sheet, const std::string& path) override;
     std::string output_file() const override;
 
 private:

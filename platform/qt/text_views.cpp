@@ -7,6 +7,7 @@
 #include <QDropEvent>
 #include <QEvent>
 #include <QFocusEvent>
+#include <QKeyEvent>
 #include <QTextBlock>
 #include <QTextCursor>
 #include <QTextDocument>
@@ -200,6 +201,15 @@ TextLineView::TextLineView(TextBox& control, QLineEdit& widget) : TextView(contr
     connect(&widget, &QLineEdit::textChanged, this, [this] { take_text(); });
     connect(&widget, &QLineEdit::cursorPositionChanged, this, [this] { take_selection(); });
     connect(&widget, &QLineEdit::selectionChanged, this, [this] { take_selection(); });
+}
+
+bool TextLineView::key_pressed(const QKeyEvent& event) {
+    const bool empties =
+        event.key() == Qt::Key_Escape && widget_.isClearButtonEnabled() && !widget_.text().isEmpty();
+    if (empties) {
+        widget_.clear();
+    }
+    return empties;
 }
 
 bool TextLineView::eventFilter(QObject* watched, QEvent* event) {

@@ -42,6 +42,8 @@ public:
 protected:
     /// What is marked when the field is entered stays so when it was entered by a click.
     bool eventFilter(QObject* watched, QEvent* event) override;
+    /// Escape empties a field that has a button for it; an empty one leaves the key to its window.
+    bool key_pressed(const QKeyEvent& event) override;
 
 private:
     bool marked_on_entry_ = false; ///< and the mouse button is still down

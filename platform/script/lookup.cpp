@@ -1,5 +1,6 @@
 #include "platform/script/lookup.hpp"
 
+#include "platform/forms/chart.hpp"
 #include "platform/forms/controls.hpp"
 #include "platform/script/protocol.hpp"
 
@@ -45,8 +46,29 @@ const std::vector<std::string>* items_of(const Control& control) {
     return combo != nullptr ? &combo->items() : nullptr;
 }
 
+std::vector<std::string> bars_of(const Chart& chart) {
+    std::vector<std::string> bars;
+    for (int index = 0; index < chart.ListCount(); ++index) {
+        bars.push_back(chart.bar_text(index));
+    }
+    return bars;
+}
+
+/// Indices of the items as the user sees them, from top to bottom.
+std::string shown_items(const ListBox& list) {
+    std::string shown;
+    for (int row = 0; row < list.shown_count(); ++row) {
+        shown += (row == 0 ? "" : " ") + std::to_string(list.item_in(row));
+    }
+    return shown;
+}
+
 /// Properties of lists that are calculated, not kept.
 std::optional<std::string> list_property(const Control& control, std::string_view name) {
+    const auto* const list = dynamic_cast<const ListBox*>(&control);
+    if (list != nullptr && name == "Shown") {
+        return shown_items(*list);
+    }
     const std::vector<std::string>* const items = items_of(control);
     if (items != nullptr && name == property_name(PropertyId::ListCount)) {
         return std::to_string(items->size());
@@ -101,8 +123,11 @@ std::string value(const ScriptDesktop& desktop, std::string_view name) {
     throw CommandError(full_name(*found) + " hat keine Eigenschaft " + std::string(deeper.tail));
 }
 
-const std::vector<std::string>& items(const ScriptDesktop& desktop, std::string_view name) {
+std::vector<std::string> items(const ScriptDesktop& desktop, std::string_view name) {
     const Control& owner = control(desktop, name);
+    if (const auto* const chart = dynamic_cast<const Chart*>(&owner)) {
+        return bars_of(*chart);
+    }
     if (const auto* const found = items_of(owner)) {
         return *found;
     }

@@ -17,7 +17,7 @@ Control& control(const ScriptDesktop& desktop, std::string_view name);
 /// The value of `<form>.<control>`, `<form>.<control>.<Property>` or `<form>.<Property>`.
 std::string value(const ScriptDesktop& desktop, std::string_view name);
 /// The items of a list or combo box.
-const std::vector<std::string>& items(const ScriptDesktop& desktop, std::string_view name);
+std::vector<std::string> items(const ScriptDesktop& desktop, std::string_view name);
 
 /// Throws unless a user could get at the window.
 void require_reachable(const ScriptDesktop& desktop, const Form& form);

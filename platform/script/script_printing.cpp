@@ -57,6 +57,13 @@ void ScriptPrinting::save_page(const DrawnPage& page, const std::string& path, i
     real_.save_page(page, path, dpi);
 }
 
+void ScriptPrinting::save_charts(const ChartSheet& sheet, const std::string& path) {
+    if (!real_.save_charts) {
+        throw CommandError("Es gibt keine Ausgabe von Diagrammen");
+    }
+    real_.save_charts(sheet, path);
+}
+
 void ScriptPrinting::end_command() {
     pdf_begun_ = false;
     if (pdf_behind_) {

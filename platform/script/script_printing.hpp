@@ -18,6 +18,8 @@ struct RealPrinting {
     std::function<void(const std::string& path, const RecordedJobs& jobs)> write_pdf;
     /// As `Printing::save_page`.
     std::function<void(const DrawnPage& page, const std::string& path, int dpi)> save_page;
+    /// As `Printing::save_charts`.
+    std::function<void(const ChartSheet& sheet, const std::string& path)> save_charts = {};
 };
 
 /// A printer that keeps the pages of the last printing command.
@@ -31,6 +33,7 @@ public:
     std::unique_ptr<PrintDevice> pdf(const std::string& path, const PrintDocument& document) override;
     std::unique_ptr<PrintDevice> picture(PictureControl& control, const PrintDocument& document) override;
     void save_page(const DrawnPage& page, const std::string& path, int dpi) override;
+    void save_charts(const ChartSheet& sheet, const std::string& path) override;
     std::string output_file() const override { return pdf_path_; }
 
     /// From here on a new document takes the place of those recorded before.

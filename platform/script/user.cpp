@@ -1,5 +1,6 @@
 #include "platform/script/user.hpp"
 
+#include "platform/forms/chart.hpp"
 #include "platform/forms/controls.hpp"
 #include "platform/forms/tasten.hpp"
 #include "platform/script/lookup.hpp"
@@ -14,9 +15,9 @@ namespace quittika {
 
 namespace {
 
-constexpr std::array<std::string_view, 12> kFocusable{
-    "CommandButton", "CheckBox",   "OptionButton", "TextBox",      "ListBox",    "ComboBox",
-    "HScrollBar",    "VScrollBar", "Slider",       "DriveListBox", "DirListBox", "SSTab"};
+constexpr std::array<std::string_view, 13> kFocusable{
+    "CommandButton", "CheckBox", "OptionButton", "TextBox",    "ListBox", "ComboBox", "HScrollBar",
+    "VScrollBar",    "Slider",   "DriveListBox", "DirListBox", "SSTab",   "Chart"};
 
 /// What has no other clicks than those of the mouse.
 constexpr std::array<std::string_view, 8> kClickedByMouse{"Label", "StatusPanel", "Image", "PictureBox",
@@ -44,6 +45,19 @@ std::size_t character_length(std::string_view text, std::size_t at) {
 template <class List> void require_item(List& list, int index) {
     if (index < -1 || index >= list.ListCount()) {
         throw CommandError(lookup::full_name(list) + " hat keinen Eintrag " + std::to_string(index));
+    }
+}
+
+void require_shown(const ListBox& list, int index) {
+    if (index >= 0 && list.row_of(index) < 0) {
+        throw CommandError(lookup::full_name(list) + " zeigt den Eintrag " + std::to_string(index) +
+                           " nicht");
+    }
+}
+
+void require_shown(const Chart& chart, int index) {
+    if (index >= 0 && chart.cents(index) == 0) {
+        throw CommandError(lookup::full_name(chart) + " hat keinen Balken " + std::to_string(index));
     }
 }
 
@@ -143,12 +157,18 @@ void User::select(Control& control, int index) {
     const Deed deed(desktop_, control);
     if (auto* const list = dynamic_cast<ListBox*>(&control)) {
         require_item(*list, index);
+        require_shown(*list, index);
         focus(control);
         choose(*list, index);
     } else if (auto* const combo = dynamic_cast<ComboBox*>(&control)) {
         require_item(*combo, index);
         focus(control);
         choose(*combo, index);
+    } else if (auto* const chart = dynamic_cast<Chart*>(&control)) {
+        require_item(*chart, index);
+        require_shown(*chart, index);
+        focus(control);
+        choose(*chart, index);
     } else if (auto* const tabs = dynamic_cast<SSTab*>(&control)) {
         turn_to(*tabs, index);
     } else {

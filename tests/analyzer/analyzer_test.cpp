@@ -4,12 +4,16 @@
 #include "analyzer/verzeichniswahl.hpp"
 #include "analyzer/zusammenfassung.hpp"
 #include "platform/laufwerke.hpp"
+#include "platform/pictures.hpp"
 #include "platform/script/script_clock.hpp"
 #include "platform/script/script_desktop.hpp"
+#include "platform/script/script_dialogs.hpp"
+#include "platform/script/script_printing.hpp"
 #include "platform/script/script_progress.hpp"
 #include "platform/script/script_shell.hpp"
 #include "platform/text.hpp"
 #include "tests/fehlernummer.hpp"
+#include "tests/feste_schrift.hpp"
 #include "tests/pruefstand.hpp"
 
 #include <gtest/gtest.h>
@@ -314,15 +318,18 @@ struct Analyzerstand {
     ScriptDialogs dialoge;
     ScriptShell shell;
     ScriptProgress fortschritt;
+    FesteSchrift schrift;
+    PictureHeaders bilder;
+    ScriptPrinting druck{schrift, bilder, {}};
     StehendeUhr uhr;
     Probenordner programm;
     Probenordner rechnungen;
     Programmverzeichnis verzeichnis{programm.ordner()};
     std::vector<std::string> geoeffnet;
     Form_Analyzer form;
-    Analyzer analyzer{
-        form,  verzeichnis, desktop,     dialoge,
-        shell, uhr,         fortschritt, [this](const std::string& pfad) { geoeffnet.push_back(pfad); }};
+    Analyzer analyzer{form,    verzeichnis, desktop,
+                      dialoge, druck,       shell,
+                      uhr,     fortschritt, [this](const std::string& pfad) { geoeffnet.push_back(pfad); }};
 };
 
 TEST(Analyzer, ZaehltZufaelligeOrdnerWieEineZweiteRechnung) {

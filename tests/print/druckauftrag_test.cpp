@@ -37,6 +37,7 @@ public:
     std::unique_ptr<PrintDevice> pdf(const std::string&, const PrintDocument&) override { return {}; }
     std::unique_ptr<PrintDevice> picture(PictureControl&, const PrintDocument&) override { return {}; }
     void save_page(const DrawnPage&, const std::string&, int) override {}
+    void save_charts(const ChartSheet&, const std::string&) override {}
 };
 
 struct Auftragsprobe : Pruefstand {

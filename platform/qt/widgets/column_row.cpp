@@ -1,10 +1,12 @@
 #include "platform/qt/widgets/column_row.hpp"
 
+#include "platform/qt/widgets/column_head.hpp"
 #include "platform/qt/widgets/column_list.hpp"
 
 #include <QEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QScrollBar>
 #include <QVariant>
 
 #include <algorithm>
@@ -14,10 +16,13 @@ namespace quittika {
 namespace {
 
 constexpr const char* kColumn = "column";
+constexpr const char* kLastColumn = "lastColumn";
 
 /// Space that a child leaves at the edges of its column; a field has a frame of its own.
 int inset_of(const QWidget& child) {
-    return qobject_cast<const QLabel*>(&child) != nullptr ? ColumnList::kPadding : 1;
+    const bool of_text =
+        qobject_cast<const QLabel*>(&child) != nullptr || qobject_cast<const ColumnHead*>(&child) != nullptr;
+    return of_text ? ColumnList::kPadding : 1;
 }
 
 } // namespace
@@ -72,6 +77,17 @@ bool ColumnRow::eventFilter(QObject* watched, QEvent* event) {
     return QWidget::eventFilter(watched, event);
 }
 
+void ColumnRow::reveal(const QWidget& child) const {
+    if (columns_ != nullptr) {
+        QScrollBar& bar = *columns_->horizontalScrollBar();
+        const int left = columns_->viewport()->mapTo(window(), QPoint()).x() - mapTo(window(), QPoint()).x();
+        const int too_far_left = std::min(child.geometry().left() - left, 0);
+        const int too_far_right =
+            std::max(child.geometry().right() - left - columns_->viewport()->width(), 0);
+        bar.setValue(bar.value() + too_far_left + too_far_right);
+    }
+}
+
 ColumnList* ColumnRow::find_list() {
     if (!columns_) {
         columns_ = window()->findChild<ColumnList*>(list_name_);
@@ -92,10 +108,13 @@ void ColumnRow::place_children() {
     const int left = list->mapTo(window(), QPoint()).x() - mapTo(window(), QPoint()).x();
     for (QWidget* child : findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
         const ColumnList::Span span = list->span(child->property(kColumn).toInt());
+        const QVariant last = child->property(kLastColumn);
+        const int right = last.isValid() ? list->span(last.toInt()).right : span.right;
         const int inset = inset_of(*child);
-        const int tall = std::min(height(), child->sizeHint().height());
-        child->setGeometry(left + span.left + inset, (height() - tall) / 2,
-                           span.right - span.left - 2 * inset, tall);
+        const bool fills = child->sizePolicy().verticalPolicy() == QSizePolicy::Expanding;
+        const int tall = fills ? height() : std::min(height(), child->sizeHint().height());
+        child->setGeometry(left + span.left + inset, (height() - tall) / 2, right - span.left - 2 * inset,
+                           tall);
     }
 }
 

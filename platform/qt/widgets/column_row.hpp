@@ -7,8 +7,9 @@ namespace quittika {
 
 class ColumnList;
 
-/// A row of labels or fields over a `ColumnList`. Each child stands over the column that its property
-/// `column` names, counted from 0, its text in line with the list's.
+/// A row of labels, fields or heads over a `ColumnList`. Each child stands over the column that its property
+/// `column` names, counted from 0, its text in line with the list's; with `lastColumn` over all columns up to
+/// that one.
 class ColumnRow : public QWidget {
     Q_OBJECT
     Q_PROPERTY(QString list READ list WRITE setList)
@@ -20,6 +21,8 @@ public:
     void setList(const QString& name) { list_name_ = name; }
     /// Width in pixels that the children over a column need to be read; fields take what there is.
     int needed_width(int column) const;
+    /// Scrolls the list as far as needed to see a child.
+    void reveal(const QWidget& child) const;
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }
 
