@@ -14,7 +14,4 @@ std::string CII_XML(const Rechnungsbeleg& beleg, E_Format format);
 /// What the schema finds in an XML text: a line of English for each place; empty for nothing.
 std::string CII_SCHEMAFEHLER(std::string_view xml);
 
-/// The text without characters that no XML holds: control characters, bytes that are no UTF-8.
-std::string XML_TEXT(std::string_view text);
-
 } // namespace quittika

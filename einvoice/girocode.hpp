@@ -1,5 +1,7 @@
 #pragma once
 
+#include "einvoice/angaben.hpp"
+#include "einvoice/belegquelle.hpp"
 #include "einvoice/festkomma.hpp"
 
 #include <cstddef>
@@ -12,10 +14,14 @@ namespace quittika {
 struct Ueberweisung {
     std::string empfaenger; ///< cut to 70 characters
     std::string IBAN;
-    std::string BIC;        ///< may be empty
-    Cent betrag;            ///< EUR
+    std::string BIC;      ///< may be empty
+    std::string waehrung; ///< must be "EUR"
+    Cent betrag;
     std::string verwendung; ///< cut to 140 characters
 };
+
+/// The transfer that pays an invoice.
+Ueberweisung UEBERWEISUNG(const Belegquelle& quelle, const Verkaeufer& verkaeufer);
 
 /// Why there can be no code of it, in a sentence; empty where there can.
 std::string GIROCODE_FEHLER(const Ueberweisung& ueberweisung);

@@ -14,7 +14,7 @@ enum class Schwere : std::uint8_t {
 /// What is missing or wrong, for the user to mend.
 struct Mangel {
     Schwere schwere = Schwere::Fatal;
-    std::string feld; ///< name of the control to go to: of the main window, else of `Form_ERechnung`
+    std::string feld; ///< name of the control to go to: of the main window, `Form_ERechnung` or the settings
     std::string text; ///< German sentences
     int zeile = -1;   ///< row of the position lists from 0 where the control is `List_DARSTELLUNG`
     bool operator==(const Mangel&) const = default;

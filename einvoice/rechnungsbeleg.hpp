@@ -19,7 +19,7 @@ enum class Belegart : std::uint16_t { Rechnung = 380, Gutschrift = 381, Korrektu
 
 /// What the user says of a document that takes another one back.
 struct Bezug {
-    std::optional<Belegart> art; ///< nothing while the user was not asked
+    std::optional<Belegart> art; ///< control `Combo_Belegart`; nothing while the user was not asked
     std::string Nummer;          ///< of the original; control `Text_Bezug_Nummer`
     std::string Datum;           ///< as typed; control `Text_Bezug_Datum`
 };
@@ -77,7 +77,7 @@ struct Belegsummen {
 
 struct Zahlung {
     std::optional<Zeitpunkt> faellig;
-    std::optional<Prozent> skonto;
+    std::optional<Cent> skonto; ///< per cent
     int skontotage = 0;
 };
 
