@@ -227,8 +227,16 @@ E_Rechnung E_RECHNUNG(const Belegquelle& quelle, const Verkaeufer& verkaeufer, c
                       const Bezug& bezug, E_Format format) {
     Aufstellung aufstellung = RECHNUNGSBELEG(quelle, verkaeufer, kaeufer, bezug);
     Maengel maengel = std::move(aufstellung.maengel);
-    const Maengel weitere = BELEG_PRUEFEN(aufstellung.beleg, format);
-    maengel.insert(maengel.end(), weitere.begin(), weitere.end());
+    const std::size_t bisher = maengel.size();
+    for (Mangel& mangel : BELEG_PRUEFEN(aufstellung.beleg, format)) {
+        const auto davor = maengel.begin() + static_cast<std::ptrdiff_t>(bisher);
+        const bool genannt = std::any_of(maengel.begin(), davor, [&](const Mangel& m) {
+            return m.schwere == Schwere::Fatal && m.feld == mangel.feld && m.zeile == mangel.zeile;
+        });
+        if (!genannt) { // one reason a field is enough
+            maengel.push_back(std::move(mangel));
+        }
+    }
     anschrift_vergleichen(quelle, aufstellung.beleg.kaeufer, maengel);
     std::stable_sort(maengel.begin(), maengel.end(),
                      [](const Mangel& a, const Mangel& b) { return a.schwere > b.schwere; });

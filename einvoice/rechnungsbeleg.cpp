@@ -17,6 +17,7 @@ namespace {
 constexpr const char* kRabattcode = "95";
 constexpr const char* kFrachtcode = "FC";
 constexpr std::int64_t kTag = 86400; // seconds
+constexpr int kLetztesJahr = 9999;
 
 bool ist_zahl(const std::string& text, int& zahl, int hoechstens) {
     const std::optional<std::int64_t> wert = dezimal_lesen(text, 0);
@@ -56,8 +57,9 @@ private:
     }
 
     std::string gereinigt(const std::string& text, const char* feld, int zeile = -1) {
-        std::string rein = XML_TEXT(text);
-        if (zeichenzahl(rein) < zeichenzahl(gekuerzt(ersetzen(text, "\t", " ")))) {
+        const std::string zeile_text = einzeilig(text);
+        std::string rein = XML_TEXT(zeile_text);
+        if (zeichenzahl(rein) < zeichenzahl(gekuerzt(ersetzen(zeile_text, "\t", " ")))) {
             hinweis(feld,
                     "Der Text enthält Zeichen, die eine E-Rechnung nicht halten kann. Sie fallen dort weg.",
                     zeile);
@@ -67,7 +69,7 @@ private:
 
     template <class T> T gereinigt(T angaben, std::span<const Angabe<T>> felder) {
         for (const Angabe<T>& feld : felder) {
-            angaben.*feld.wert = gereinigt(einzeilig(angaben.*feld.wert), feld.feld);
+            angaben.*feld.wert = gereinigt(angaben.*feld.wert, feld.feld);
         }
         return angaben;
     }
@@ -134,13 +136,14 @@ private:
                 "E-Rechnung als Bemerkung.");
     }
 
-    std::optional<Prozent> satz_lesen(const std::string& text, const char* feld, const char* wovon) {
+    Prozent satz_lesen(const std::string& text, Prozent kleinster, const char* feld, const char* wovon) {
         const std::optional<Prozent> satz = festkomma_lesen<Prozent>(text);
-        if (!satz || satz->wert < 0 || satz->wert > kHundertProzent) {
-            fatal(feld, std::string(wovon) + " \"" + links(text, 20) + "\" ist kein Satz von 0 bis 100 %.");
-            return std::nullopt;
+        if (satz && *satz >= kleinster && satz->wert <= kHundertProzent) {
+            return *satz;
         }
-        return satz;
+        fatal(feld, std::string(wovon) + " \"" + links(text, 20) + "\" ist kein Satz von " +
+                        lesetext(kleinster) + " bis 100 %.");
+        return {};
     }
 
     /// Category and reason of what bears no VAT.
@@ -163,7 +166,7 @@ private:
     void steuerart() {
         Prozent satz;
         if (q_.mwst != Mwst_Modus::Ohne) {
-            satz = satz_lesen(q_.MwSt_Satz, "Text_MwSt", "Der MwSt.-Satz").value_or(Prozent{});
+            satz = satz_lesen(q_.MwSt_Satz, {}, "Text_MwSt", "Der MwSt.-Satz");
         }
         const bool steuerpflichtig = q_.mwst == Mwst_Modus::Plus || q_.mwst == Mwst_Modus::Inklusive;
         if (q_.mwst == Mwst_Modus::Inklusive || q_.mwst == Mwst_Modus::Minus) {
@@ -218,12 +221,20 @@ private:
                              zeile});
     }
 
-    void zeile_vergleichen(const Position& p, const std::string& nummer, int zeile) {
+    /// A row that is too large to reckon with counts as zero from here on.
+    void zeile_vergleichen(Position& p, const std::string& nummer, int zeile) {
         constexpr std::int64_t kMengeEins = 10'000;
         constexpr std::int64_t kHalberCent = 5'000;
-        const Preis gerechnet{mal_durch(p.menge.wert, p.preis.wert, kMengeEins)};
-        const std::int64_t abstand = gerechnet.wert - p.gesamt.wert;
-        if (abstand > kHalberCent || -abstand > kHalberCent) {
+        Preis gerechnet;
+        try {
+            gerechnet.wert = mal_durch(p.menge.wert, p.preis.wert, kMengeEins);
+        } catch (const Laufzeitfehler&) {
+            p = {};
+            fatal("List_DARSTELLUNG", nummer + ": Menge und Einzelpreis sind zu groß zum Rechnen.", zeile);
+            return;
+        }
+        const Preis abstand = gerechnet - p.gesamt;
+        if (abstand.wert > kHalberCent || -abstand.wert > kHalberCent) {
             fatal("List_DARSTELLUNG",
                   nummer + ": Menge mal Einzelpreis ergibt " + lesetext(gerechnet) +
                       ", in der Rechnung steht " + lesetext(p.gesamt) + ". Bitte die Zeile neu eingeben.",
@@ -233,7 +244,7 @@ private:
 
     void rabatt_und_versand() {
         if (q_.rabatt) {
-            g_.rabatt = satz_lesen(q_.Rabatt_Satz, "Text_Rabatt", "Der Rabatt").value_or(Prozent{});
+            g_.rabatt = satz_lesen(q_.Rabatt_Satz, {-kHundertProzent}, "Text_Rabatt", "Der Rabatt");
         }
         g_.versandsteuer = g_.steuer;
         if (!q_.versand) {
@@ -256,8 +267,7 @@ private:
         if (befreit && !genannt) {
             return;
         }
-        const Prozent satz =
-            satz_lesen(q_.Versand_Satz, "Text_MwSt", "Der MwSt.-Satz der Versandkosten").value_or(Prozent{});
+        const Prozent satz = satz_lesen(q_.Versand_Satz, {}, "Text_MwSt", "Der MwSt.-Satz der Versandkosten");
         g_.versandsteuer = satz.wert > 0 ? Steuerart{"S", satz} : befreit ? g_.steuer : this->befreit();
         const std::string prozent = lesetext(satz) + " %";
         if (befreit) {
@@ -355,6 +365,9 @@ private:
                 fatal("Text_Zahlungstage", "Das Zahlungsziel ist eine Zahl von Tagen, wie 14.");
             } else if (b_.datum) {
                 b_.zahlung.faellig = zeitpunkt_aus(sekunden_aus(*b_.datum) + tage * kTag);
+                if (b_.zahlung.faellig->jahr > kLetztesJahr) {
+                    fatal("Text_Zahlungstage", "Das Zahlungsziel liegt zu weit in der Zukunft.");
+                }
             }
         }
         const std::string& prozent = b_.verkaeufer.Skonto_Prozent;
