@@ -15,8 +15,8 @@ constexpr const char* kVerkaeuferdatei = "\\e_rechnung.cfg";
 constexpr const char* kKundendatei = "\\e_rechnung_kunden.txt";
 
 bool ist_ueberschrift(const std::string& zeile) {
-    const std::string text = gekuerzt(zeile);
-    return text.size() >= 2 && text.front() == '[' && text.back() == ']';
+    const std::size_t anfang = zeile.find_first_not_of(' ');
+    return anfang != std::string::npos && zeile[anfang] == '[' && zeile[zeile.find_last_not_of(' ')] == ']';
 }
 
 std::string ueberschrift(const std::string& zeile) {
