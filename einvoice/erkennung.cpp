@@ -5,7 +5,6 @@
 #include "settings/feldhinweise.hpp"
 
 #include <algorithm>
-#include <array>
 #include <optional>
 #include <string_view>
 #include <vector>
@@ -22,13 +21,9 @@ bool hat_ziffer(std::string_view text) {
     return std::any_of(text.begin(), text.end(), ist_ziffer);
 }
 
-/// What stands behind a word at the beginning of a line and the marks between them; nothing where the line
-/// does not begin with it.
-std::optional<std::string> hinter_wort(std::string_view zeile, std::string_view wort) {
-    if (!beginnt_mit(grossbuchstaben(zeile), wort)) {
-        return std::nullopt;
-    }
-    const std::string_view rest = zeile.substr(wort.size());
+/// What stands behind the word that a text begins with and the marks between them.
+std::string hinter_wort(std::string_view text, std::string_view wort) {
+    const std::string_view rest = text.substr(wort.size());
     const std::size_t anfang = rest.find_first_not_of(" .:-/#");
     return anfang == std::string_view::npos ? std::string() : gekuerzt(rest.substr(anfang));
 }
@@ -75,10 +70,40 @@ constexpr Merkwort kMerkworte[] = {
     {"KTO", nullptr},
 };
 
+constexpr std::size_t kLaengstesWort = 36;
+
 /// A word that ends where it does: "TEL" begins "Tel.:" and "Tel 1", not "Teller GmbH".
 bool wort_endet(std::string_view zeile, std::size_t laenge) {
     return zeile.size() == laenge ||
            std::string_view(" .:-/#0123456789+(").find(zeile[laenge]) != std::string_view::npos;
+}
+
+/// The word that a text begins with; none where it begins with another one.
+const Merkwort* merkwort(std::string_view text) {
+    const std::string gross = grossbuchstaben(text.substr(0, kLaengstesWort));
+    const auto* const wort =
+        std::find_if(std::begin(kMerkworte), std::end(kMerkworte), [&](const Merkwort& m) {
+            return beginnt_mit(gross, m.wort) && wort_endet(text, m.wort.size());
+        });
+    return wort == std::end(kMerkworte) ? nullptr : wort;
+}
+
+/// Parts of a line that holds several values: between commas, semicolons and bars, and before those words.
+std::vector<std::string> teile(std::string_view zeile) {
+    std::vector<std::string> teile(1);
+    for (std::size_t i = 0; i < zeile.size(); ++i) {
+        const bool trenner = zeile[i] == ',' || zeile[i] == ';' || zeile[i] == '|';
+        const bool wortanfang = i > 0 && zeile[i - 1] == ' ' && merkwort(zeile.substr(i)) != nullptr;
+        if (trenner || wortanfang) {
+            teile.back() = gekuerzt(teile.back());
+            teile.emplace_back();
+        }
+        if (!trenner) {
+            teile.back() += zeile[i];
+        }
+    }
+    teile.back() = gekuerzt(teile.back());
+    return teile;
 }
 
 void fuellen(std::string& ziel, const std::string& wert) {
@@ -100,20 +125,32 @@ std::optional<std::string> e_mail_in(std::string_view zeile) {
     return E_MAIL_FEHLER(adresse).empty() ? std::optional<std::string>(adresse) : std::nullopt;
 }
 
-bool wert_nehmen(const std::string& zeile, Erkanntes& e) {
-    for (const Merkwort& m : kMerkworte) {
-        const std::optional<std::string> wert = hinter_wort(zeile, m.wort);
-        if (!wert || !wort_endet(zeile, m.wort.size())) {
-            continue;
-        }
-        if (m.ziel != nullptr && hat_ziffer(*wert)) {
-            fuellen(e.*m.ziel, *wert);
-        } else if (m.ziel == &Erkanntes::BIC) {
-            fuellen(e.BIC, *wert);
-        }
+/// Takes a value that its word or its form announces; false for every other text.
+bool wert_nehmen(const std::string& teil, Erkanntes& e) {
+    if (const std::optional<std::string> adresse = e_mail_in(teil)) {
+        fuellen(e.E_Mail, *adresse);
         return true;
     }
-    return false;
+    const Merkwort* const wort = merkwort(teil);
+    if (wort == nullptr) {
+        return false;
+    }
+    const std::string wert = hinter_wort(teil, wort->wort);
+    if (wort->ziel != nullptr && (hat_ziffer(wert) || wort->ziel == &Erkanntes::BIC)) {
+        fuellen(e.*wort->ziel, wert);
+    }
+    return true;
+}
+
+bool werte_nehmen(const std::string& zeile, Erkanntes& e) {
+    if (merkwort(zeile) == nullptr && zeile.find('@') == std::string::npos) {
+        return false;
+    }
+    bool genommen = false;
+    for (const std::string& teil : teile(zeile)) {
+        genommen = wert_nehmen(teil, e) || genommen;
+    }
+    return genommen;
 }
 
 /// Digits of a postal code, in Germany five, in Austria and Switzerland four.
@@ -175,29 +212,8 @@ void anschrift_verteilen(std::vector<std::string> zeilen, Erkanntes& e) {
     }
 }
 
-/// Parts of free bank lines: what stands between commas and bars, and before "IBAN" and "BIC".
-std::vector<std::string> bankteile(std::span<const std::string> zeilen) {
-    std::vector<std::string> teile;
-    for (const std::string& zeile : zeilen) {
-        std::string teil;
-        for (std::size_t i = 0; i < zeile.size(); ++i) {
-            const std::string wort = grossbuchstaben(zeile.substr(i, 4));
-            const bool trenner = zeile[i] == ',' || zeile[i] == ';' || zeile[i] == '|';
-            if (trenner || wort == "IBAN" || beginnt_mit(wort, "BIC")) {
-                teile.push_back(std::move(teil));
-                teil.clear();
-            }
-            if (!trenner) {
-                teil += zeile[i];
-            }
-        }
-        teile.push_back(std::move(teil));
-    }
-    return teile;
-}
-
-std::string telefon(const std::string& text) {
-    return gekuerzt(text.substr(0, text.find_first_of(";,|")));
+const std::string& erster(const std::string& a, const std::string& b) {
+    return a.empty() ? b : a;
 }
 
 } // namespace
@@ -207,11 +223,10 @@ Erkanntes ANGABEN_ERKENNEN(std::span<const std::string> zeilen) {
     std::vector<std::string> davor;
     for (const std::string& roh : zeilen) {
         const std::string zeile = gekuerzt(einzeilig(roh));
-        if (const std::optional<std::string> adresse = e_mail_in(zeile)) {
-            fuellen(e.E_Mail, *adresse);
-        } else if (zeile.empty() || wert_nehmen(zeile, e)) {
+        if (zeile.empty() || werte_nehmen(zeile, e)) {
             continue;
-        } else if (const std::optional<Ortszeile> ort = e.Ort.empty() ? ortszeile(zeile) : std::nullopt) {
+        }
+        if (const std::optional<Ortszeile> ort = e.Ort.empty() ? ortszeile(zeile) : std::nullopt) {
             e.PLZ = ort->PLZ;
             e.Ort = ort->Ort;
             e.Land = ort->Land;
@@ -228,28 +243,32 @@ Erkanntes ANGABEN_ERKENNEN(std::span<const std::string> zeilen) {
         e.Land = e.PLZ.size() == 5 ? "DE" : "";
     }
     anschrift_verteilen(std::move(davor), e);
-    e.Telefon = telefon(e.Telefon);
     return e;
 }
 
 Verkaeufer VERKAEUFER_VORSCHLAG(const Belegquelle& quelle) {
     const Erkanntes e = ANGABEN_ERKENNEN(quelle.Firma);
-    const Erkanntes bank = ANGABEN_ERKENNEN(bankteile(quelle.Bankzeilen));
+    Erkanntes bank;
+    for (const std::string& zeile : quelle.Bankzeilen) {
+        for (const std::string& teil : teile(einzeilig(zeile))) {
+            wert_nehmen(teil, bank);
+        }
+    }
     Verkaeufer v;
     v.Name = e.Name;
     v.Strasse = e.Strasse;
     v.PLZ = e.PLZ;
     v.Ort = e.Ort;
-    v.Land = e.Land.empty() ? "DE" : e.Land;
-    v.USt_IdNr = e.USt_IdNr;
-    v.Steuernummer = e.Steuernummer;
-    v.Kontakt = e.Zusatz.empty() ? e.Name : e.Zusatz;
-    v.Telefon = e.Telefon;
-    v.E_Mail = e.E_Mail;
-    v.IBAN = IBAN_NUMMER(!quelle.IBAN.empty() ? quelle.IBAN : !bank.IBAN.empty() ? bank.IBAN : e.IBAN);
-    const std::array<std::string, 1> bic{quelle.BIC};
-    const std::string eigene = ANGABEN_ERKENNEN(bic).BIC;
-    v.BIC = !eigene.empty() ? eigene : !quelle.BIC.empty() ? quelle.BIC : bank.BIC;
+    v.Land = erster(e.Land, "DE");
+    v.USt_IdNr = erster(e.USt_IdNr, bank.USt_IdNr);
+    v.Steuernummer = erster(e.Steuernummer, bank.Steuernummer);
+    v.Kontakt = erster(e.Zusatz, e.Name);
+    v.Telefon = erster(e.Telefon, bank.Telefon);
+    v.E_Mail = erster(e.E_Mail, bank.E_Mail);
+    v.IBAN = IBAN_NUMMER(erster(quelle.IBAN, erster(bank.IBAN, e.IBAN)));
+    const Merkwort* const wort = merkwort(quelle.BIC);
+    const std::string bic = wort == nullptr ? quelle.BIC : hinter_wort(quelle.BIC, wort->wort);
+    v.BIC = erster(bic, erster(bank.BIC, e.BIC));
     return v;
 }
 

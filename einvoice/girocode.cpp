@@ -1,6 +1,7 @@
 #include "einvoice/girocode.hpp"
 
 #include "einvoice/kennungen.hpp"
+#include "einvoice/rechnungsbeleg.hpp"
 #include "einvoice/xmltext.hpp"
 #include "platform/laufzeitfehler.hpp"
 #include "platform/text.hpp"
@@ -34,13 +35,15 @@ std::string in_bytes(std::string text, std::size_t bytes) {
 } // namespace
 
 Ueberweisung UEBERWEISUNG(const Belegquelle& quelle, const Verkaeufer& verkaeufer) {
-    const std::string nummer = quelle.Titel + " " + quelle.Nummer;
+    const bool zu_zahlen = !quelle.lieferschein && !BELEGARTFRAGE(quelle.Titel);
+    const Cent betrag = festkomma_lesen<Cent>(quelle.Gesamtbetrag).value_or(Cent{});
     return {verkaeufer.Name,
             IBAN_NUMMER(verkaeufer.IBAN),
             KENNUNG(verkaeufer.BIC),
             WAEHRUNGSCODE(quelle.Waehrung),
-            festkomma_lesen<Cent>(quelle.Gesamtbetrag).value_or(Cent{}),
-            gekuerzt(nummer) + (quelle.Datum.empty() ? "" : " vom " + quelle.Datum)};
+            zu_zahlen ? betrag : Cent{},
+            gekuerzt(quelle.Titel + " " + quelle.Nummer) +
+                (quelle.Datum.empty() ? "" : " vom " + quelle.Datum)};
 }
 
 std::string GIROCODE_FEHLER(const Ueberweisung& u) {
@@ -48,7 +51,7 @@ std::string GIROCODE_FEHLER(const Ueberweisung& u) {
         return "Ein GiroCode gilt nur für Beträge in EUR.";
     }
     if (u.betrag <= Cent{} || u.betrag > kHoechstens) {
-        return "Für diesen Betrag gibt es keinen GiroCode.";
+        return "Ohne einen Betrag, der zu zahlen ist, gibt es keinen GiroCode.";
     }
     if (zeile(u.empfaenger, kEmpfaenger).empty()) {
         return "Für den GiroCode fehlt Ihr Name.";

@@ -20,7 +20,8 @@ struct Ueberweisung {
     std::string verwendung; ///< cut to 140 characters
 };
 
-/// The transfer that pays an invoice.
+/// The transfer that pays an invoice; of nothing for documents that nobody pays: credit notes, delivery
+/// notes.
 Ueberweisung UEBERWEISUNG(const Belegquelle& quelle, const Verkaeufer& verkaeufer);
 
 /// Why there can be no code of it, in a sentence; empty where there can.

@@ -32,8 +32,8 @@ class Pflichtpruefer {
 public:
     explicit Pflichtpruefer(const Belegquelle& quelle)
         : q_(quelle),
-          firma_(ANGABEN_ERKENNEN(quelle.Firma)),
-          kunde_(ANGABEN_ERKENNEN(quelle.Kunde)),
+          firma_(VERKAEUFER_VORSCHLAG(quelle)),
+          kunde_(KAEUFER_VORSCHLAG(quelle)),
           betrag_(festkomma_lesen<Cent>(quelle.Gesamtbetrag).value_or(Cent{})) {
         texte_ = grossbuchstaben(q_.Titel);
         for (const std::vector<std::string>* block : {&q_.Anschreiben, &q_.Bemerkungen, &q_.Bankzeilen}) {
@@ -177,8 +177,8 @@ private:
     }
 
     const Belegquelle& q_;
-    Erkanntes firma_;
-    Erkanntes kunde_;
+    Verkaeufer firma_;
+    Kaeufer kunde_;
     Cent betrag_;
     std::string texte_; ///< everything that may hold a reason, in capitals
     Maengel m_;

@@ -50,6 +50,8 @@ TEST(Erkennung, LiestAnschriftenUndBriefkoepfe) {
         {{"Huber KG", "Ring 3, A-1010 Wien", "", ""}, {"Huber KG", "", "Ring 3", "1010", "Wien", "AT", ""}},
         {{"Rossi", "Via Roma 1", "20100 Milano", "Italien"},
          {"Rossi", "", "Via Roma 1", "20100", "Milano", "IT", ""}},
+        {{"E. Roth @ Söhne", "Am Markt 2", "1234 Genf", "Schweiz"},
+         {"E. Roth @ Söhne", "", "Am Markt 2", "1234", "Genf", "CH", ""}},
         {{"Nur Name", "", "", ""}, {"Nur Name", "", "", "", "", "", ""}},
         {{"", "", "12345 ", "1234567 X"}, {"12345", "", "1234567 X", "", "", "", ""}},
     };
@@ -63,10 +65,8 @@ TEST(Erkennung, LiestAnschriftenUndBriefkoepfe) {
     m.einstellungen.Text_firma_1.Text = "Tischlerei Hölzer";
     m.einstellungen.Text_firma_2.Text = "Sägeweg 7";
     m.einstellungen.Text_firma_3.Text = "50667 Köln";
-    m.einstellungen.Text_firma_4.Text = "Telefon 0221 123456";
-    m.einstellungen.Text_firma_6.Text = "Mail: post@hoelzer.example, www.hoelzer.example";
-    m.einstellungen.Text_firma_7.Text = "Steuernr: 214/5012/0815";
-    m.einstellungen.Text_firma_8.Text = "USt-IdNr.: DE136695976";
+    m.einstellungen.Text_firma_4.Text = "Telefon 0221 123456, Fax 0221 99 E-Mail: post@hoelzer.example";
+    m.einstellungen.Text_firma_7.Text = "Steuernr: 214/5012/0815 USt-IdNr.: DE136695976";
     m.einstellungen.Option_BankVerb_Vorgabe.Value = false;
     m.einstellungen.Text_Bankverb1.Text = "Sparkasse, IBAN: DE02 1203 0000 0000 2020 51 BIC: BYLADEM1001";
     const Verkaeufer v = VERKAEUFER_VORSCHLAG(m.quelle());
@@ -145,6 +145,9 @@ TEST(GiroCode, SagtWasDieRechnungSagt) {
     EXPECT_TRUE(bild.ist_dunkel(0, 0) && bild.ist_dunkel(bild.seite - 1, 0) &&
                 bild.ist_dunkel(0, bild.seite - 1));
     EXPECT_THROW(QR_CODE(std::string(5000, 'x')), Laufzeitfehler);
+    m.form1.Text_rechnung.Text = "GUTSCHRIFT";
+    EXPECT_NE(GIROCODE_FEHLER(UEBERWEISUNG(m.quelle(), MUSTERVERKAEUFER())), "") << "nobody pays it";
+    m.form1.Text_rechnung.Text = "RECHNUNG";
     const std::function<void(Ueberweisung&)> fehler[] = {
         [](Ueberweisung& x) { x.waehrung = "CHF"; },
         [](Ueberweisung& x) { x.betrag = {}; },
