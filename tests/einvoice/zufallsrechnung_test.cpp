@@ -248,6 +248,7 @@ std::vector<Fall> feindliche_faelle() {
 }
 
 TEST(Rechnungen, RechnenRichtigUndBestehenDieAmtlichenRegeln) {
+    const std::string werkzeug = kit();
     const Probenordner ordner;
     std::vector<Fall> faelle = feindliche_faelle();
     for (unsigned i = 0; i < kRechnungen; ++i) {
@@ -270,12 +271,14 @@ TEST(Rechnungen, RechnenRichtigUndBestehenDieAmtlichenRegeln) {
             summen_vergleichen(xml, f.quelle);
             dateien += " " + ordner.schreiben(std::to_string(i) + ".xml", xml);
         }
-        const std::string werkzeug = kit();
-        if (werkzeug.empty()) {
-            GTEST_SKIP() << "the validation kit is not there: E_RECHNUNG_PRUEFWERKZEUG names its folder";
-        }
         const char* profil = format == E_Format::XRechnung ? "xrechnung" : "zugferd";
-        EXPECT_EQ(fatale_befunde(werkzeug + "/pruefe --profil " + profil + dateien), "");
+        EXPECT_EQ(werkzeug.empty() ? "" : fatale_befunde(werkzeug + "/pruefe --profil " + profil + dateien),
+                  "");
+    }
+    if (werkzeug.empty()) {
+        GTEST_SKIP()
+            << "held against the amounts alone: the validation kit is not there, E_RECHNUNG_PRUEFWERKZEUG "
+               "names its folder";
     }
 }
 
