@@ -12,7 +12,8 @@ namespace quittika {
 template <int Stellen> struct Festkomma {
     static constexpr int kStellen = Stellen;
     std::int64_t wert = 0;
-    auto operator<=>(const Festkomma&) const = default;
+    bool operator==(const Festkomma&) const = default;
+    std::strong_ordering operator<=>(const Festkomma& b) const { return wert <=> b.wert; }
     Festkomma operator-() const { return {-wert}; }
     Festkomma& operator+=(Festkomma b) {
         wert += b.wert;

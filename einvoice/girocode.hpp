@@ -35,7 +35,10 @@ struct Codebild {
     static constexpr int kRuhezone = 4;
     int seite = 0; ///< modules
     std::vector<bool> dunkel;
-    bool ist_dunkel(int x, int y) const { return dunkel.at(static_cast<std::size_t>(y * seite + x)); }
+    bool ist_dunkel(int x, int y) const {
+        return dunkel.at(static_cast<std::size_t>(y) * static_cast<std::size_t>(seite) +
+                         static_cast<std::size_t>(x));
+    }
 };
 
 /// QR code of a text, error correction M. Throws `Laufzeitfehler` 5 for one that no code holds.

@@ -79,6 +79,10 @@ private:
         b_.verkaeufer.IBAN = IBAN_NUMMER(b_.verkaeufer.IBAN);
         b_.verkaeufer.BIC = KENNUNG(b_.verkaeufer.BIC);
         b_.kaeufer.USt_IdNr = KENNUNG(b_.kaeufer.USt_IdNr);
+        for (std::string* const land : {&b_.verkaeufer.Land, &b_.kaeufer.Land}) {
+            const std::string code = LANDESCODE(*land);
+            *land = code.empty() ? *land : code;
+        }
     }
 
     void kopf() {
