@@ -1,6 +1,7 @@
 #include "settings/feldhinweise.hpp"
 
 #include "invoice/zahleneingabe.hpp"
+#include "platform/pruefziffern.hpp"
 #include "platform/text.hpp"
 
 #include <algorithm>
@@ -15,28 +16,6 @@ bool ist_ziffer(char c) {
 
 bool ist_buchstabe(char c) {
     return c >= 'A' && c <= 'Z';
-}
-
-/// The remainder of the number that the characters make, letters counting 10 to 35, by 97.
-int rest_97(std::string_view zeichen) {
-    int rest = 0;
-    for (const char c : zeichen) {
-        rest = ist_ziffer(c) ? (rest * 10 + (c - '0')) % 97 : (rest * 100 + (c - 'A' + 10)) % 97;
-    }
-    return rest;
-}
-
-/// Without the word in front, blanks, and small letters.
-std::string nummer_aus(std::string_view zeile) {
-    constexpr std::string_view kWort = "IBAN";
-    std::string text = ersetzen(grossbuchstaben(zeile), " ", "");
-    if (beginnt_mit(text, kWort)) {
-        text.erase(0, kWort.size());
-    }
-    if (beginnt_mit(text, ":")) {
-        text.erase(0, 1);
-    }
-    return text;
 }
 
 /// Two letters of the country, two check digits, and the account.
@@ -71,10 +50,22 @@ std::string SATZHINWEIS(std::string_view satz) {
     return "Das ist keine Zahl wie 19 oder 19,5.";
 }
 
+std::string IBAN_NUMMER(std::string_view zeile) {
+    constexpr std::string_view kWort = "IBAN";
+    std::string text = ersetzen(grossbuchstaben(zeile), " ", "");
+    if (beginnt_mit(text, kWort)) {
+        text.erase(0, kWort.size());
+    }
+    if (beginnt_mit(text, ":")) {
+        text.erase(0, 1);
+    }
+    return text;
+}
+
 std::string IBANHINWEIS(std::string_view zeile) {
     constexpr std::size_t kDeutsche = 22;
     constexpr std::size_t kVorn = 4;
-    const std::string nummer = nummer_aus(zeile);
+    const std::string nummer = IBAN_NUMMER(zeile);
     if (nummer.empty()) {
         return {};
     }
@@ -84,7 +75,7 @@ std::string IBANHINWEIS(std::string_view zeile) {
     if (beginnt_mit(nummer, "DE") && nummer.size() != kDeutsche) {
         return "Eine deutsche IBAN hat 22 Stellen, diese hat " + std::to_string(nummer.size()) + ".";
     }
-    if (rest_97(nummer.substr(kVorn) + nummer.substr(0, kVorn)) != 1) {
+    if (REST_97(nummer.substr(kVorn) + nummer.substr(0, kVorn)) != 1) {
         return "Die Prüfziffer passt nicht: wohl vertippt.";
     }
     return {};

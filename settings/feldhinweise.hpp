@@ -15,6 +15,9 @@ std::string SATZHINWEIS(std::string_view satz);
 /// Of an IBAN, "IBAN:" in front of it or not, that was mistyped. An empty one is none.
 std::string IBANHINWEIS(std::string_view zeile);
 
+/// The number in such a line, without the word in front, blanks and small letters.
+std::string IBAN_NUMMER(std::string_view zeile);
+
 /// Of company lines that name no tax number.
 std::string STEUERHINWEIS(const frm_einstellungen& einstellungen);
 
