@@ -201,8 +201,9 @@ bool WidgetView::eventFilter(QObject* /*watched*/, QEvent* event) {
         }
         return false;
     case QEvent::FocusOut:
-        if (control_.LostFocus && moves_in_window(static_cast<QFocusEvent&>(*event))) {
-            guarded(control_.form(), [this] { control_.LostFocus(); });
+        if (moves_in_window(static_cast<QFocusEvent&>(*event))) {
+            guarded(control_.form(), [this] { control_.user_leave(); });
+            left();
         }
         return false;
     case QEvent::KeyPress: {
