@@ -1,5 +1,6 @@
 #include "safety/schrittname.hpp"
 
+#include <algorithm>
 #include <string_view>
 
 namespace quittika {
@@ -88,8 +89,9 @@ const char* feldname(const Schritt& zurueck, const std::vector<Standfeld>& felde
 /// The input line was emptied, or a row fetched over what was typed there.
 bool eingabe_verworfen(const Schritt& zurueck, const Rechnungsstand& jetzt,
                        const std::vector<Standfeld>& felder) {
-    const std::size_t index = zurueck.felder.front().first;
-    return felder[index].art == Feldart::Eingabe && jetzt.felder[index].empty();
+    return std::all_of(zurueck.felder.begin(), zurueck.felder.end(), [&](const auto& feld) {
+        return felder[feld.first].art == Feldart::Eingabe && jetzt.felder[feld.first].empty();
+    });
 }
 
 } // namespace

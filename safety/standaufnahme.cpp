@@ -31,7 +31,8 @@ Schritt Standaufnahme::nachfuehren(Rechnungsstand& stand) {
     const bool derselbe = bezug.beleg == stand.beleg.beleg;
     Schritt schritt;
     schritt.kennung = stand.kennung;
-    felder_nachfuehren(stand, derselbe, schritt);
+    const bool nummer_folgt = derselbe && (stand.beleg.nummer_vom_zaehler || bezug.nummer_vom_zaehler);
+    felder_nachfuehren(stand, nummer_folgt, schritt);
     zeilen_nachfuehren(stand, schritt);
     schritt.begleitung = std::exchange(stand.begleitung, begleitung());
     bezug.gespeichert = stand.beleg.gespeichert;
@@ -42,8 +43,7 @@ Schritt Standaufnahme::nachfuehren(Rechnungsstand& stand) {
     return schritt;
 }
 
-void Standaufnahme::felder_nachfuehren(Rechnungsstand& stand, bool derselbe, Schritt& schritt) const {
-    const bool nummer_folgt = derselbe && stand.beleg.nummer_vom_zaehler;
+void Standaufnahme::felder_nachfuehren(Rechnungsstand& stand, bool nummer_folgt, Schritt& schritt) const {
     stand.felder.resize(felder_.size());
     for (std::size_t i = 0; i < felder_.size(); ++i) {
         std::string text = felder_[i].lesen();
@@ -166,12 +166,10 @@ void Standaufnahme::eingabe_setzen(const Schritt& schritt, const std::vector<std
     if (schritt.begleitung.eingabezeile >= 0) {
         positionen_.ZeileInEingabeHolen();
     }
-    if (!texte.front().empty()) {
-        for (std::size_t i = 0; i < texte.size(); ++i) {
-            felder_[erstes + i].setzen(texte[i]);
-        }
-        eingabezeile_.felder_zeigen();
+    for (std::size_t i = 0; i < texte.size(); ++i) {
+        felder_[erstes + i].setzen(texte[i]);
     }
+    eingabezeile_.felder_zeigen();
 }
 
 } // namespace quittika

@@ -31,7 +31,7 @@ public:
 
 private:
     std::array<ListBox*, 5> listen() const;
-    void felder_nachfuehren(Rechnungsstand& stand, bool derselbe, Schritt& schritt) const;
+    void felder_nachfuehren(Rechnungsstand& stand, bool nummer_folgt, Schritt& schritt) const;
     void zeilen_nachfuehren(Rechnungsstand& stand, Schritt& schritt);
     Begleitung begleitung() const;
     Belegbezug beleg() const;

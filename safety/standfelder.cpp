@@ -95,31 +95,46 @@ bool gleich(const std::string& a, const std::string& b) {
     return links && rechts && links->wert == rechts->wert;
 }
 
-/// Whether the input line holds a row as it was fetched, or nothing.
-bool ohne_eigenes(const Form1& f, int zeile) {
+/// A field of the input line, and what it shows of a row that was fetched and of none.
+struct Eingabefeld {
+    Dateifeld feld;
+    const ListBox& liste;
+    std::string leer;
+    const char* schritt;
+};
+
+std::string unberuehrt(const Eingabefeld& eingabe, int zeile) {
     if (zeile < 0) {
-        return f.Check_K.Value() == 0 && gleich(f.Text_Menge.Text(), vorgabe::kMenge) &&
-               f.Text_leistung.Text() == vorgabe::kLeistung && gleich(f.Text_preis.Text(), vorgabe::kBetrag);
+        return eingabe.leer;
     }
-    return f.Check_K.ticked() == (f.List_K.List(zeile) == "K") &&
-           gleich(f.Text_Menge.Text(), f.List_Menge.List(zeile)) &&
-           f.Text_leistung.Text() == f.List_Leistung.List(zeile) &&
-           gleich(f.Text_preis.Text(), f.List_Preis.List(zeile));
+    const std::string& text = eingabe.liste.List(zeile);
+    const bool haekchen = std::holds_alternative<CheckBox*>(eingabe.feld.steuerelement);
+    return haekchen ? (text == "K" ? "1" : "0") : text;
 }
 
-void eingabefelder(Form1& f, Eingabezeile& eingabezeile, std::vector<Standfeld>& felder) {
-    const std::pair<Dateifeld, const char*> namen[] = {
-        {{-1, &f.Check_K, Lesart::Immer}, "Kommentarhäkchen ändern"},
-        {{-1, &f.Text_Menge, Lesart::Immer}, "Menge eingeben"},
-        {{-1, &f.Text_leistung, Lesart::Immer}, "Leistung eingeben"},
-        {{-1, &f.Text_preis, Lesart::Immer}, "Preis eingeben"},
+/// Only what the user has entered there is told, behind a mark: it may be empty.
+Standfeld standfeld(const Eingabefeld& eingabe, const Eingabezeile& eingabezeile) {
+    return {[eingabe, &eingabezeile] {
+                const std::string text = FELDTEXT(eingabe.feld);
+                return gleich(text, unberuehrt(eingabe, eingabezeile.zeile())) ? std::string() : "=" + text;
+            },
+            [feld = eingabe.feld](const std::string& text) {
+                if (!text.empty()) {
+                    FELD_SETZEN(feld, text.substr(1));
+                }
+            },
+            Feldart::Eingabe, eingabe.schritt};
+}
+
+void eingabefelder(Form1& f, const Eingabezeile& eingabezeile, std::vector<Standfeld>& felder) {
+    const Eingabefeld eingaben[] = {
+        {{-1, &f.Check_K, Lesart::Immer}, f.List_K, "0", "Kommentarhäkchen ändern"},
+        {{-1, &f.Text_Menge, Lesart::Immer}, f.List_Menge, vorgabe::kMenge, "Menge eingeben"},
+        {{-1, &f.Text_leistung, Lesart::Immer}, f.List_Leistung, vorgabe::kLeistung, "Leistung eingeben"},
+        {{-1, &f.Text_preis, Lesart::Immer}, f.List_Preis, vorgabe::kBetrag, "Preis eingeben"},
     };
-    for (const auto& [feld, schritt] : namen) {
-        Standfeld eingabe = standfeld(feld, Feldart::Eingabe, schritt);
-        eingabe.lesen = [&f, &eingabezeile, lesen = std::move(eingabe.lesen)] {
-            return ohne_eigenes(f, eingabezeile.zeile()) ? std::string() : lesen();
-        };
-        felder.push_back(std::move(eingabe));
+    for (const Eingabefeld& eingabe : eingaben) {
+        felder.push_back(standfeld(eingabe, eingabezeile));
     }
 }
 

@@ -18,7 +18,7 @@ enum class Feldart : std::uint8_t {
     Rechnung, ///< in the invoice's file
     Kunde,    ///< the same
     Druck,    ///< how the invoice is printed
-    Eingabe,  ///< the input line; empty texts while it holds nothing of its own
+    Eingabe,  ///< the input line, beyond the row fetched there; its texts go back after that row
 };
 
 /// One of the values, as text, that make an invoice besides its rows. Amounts are none: they follow.
