@@ -204,6 +204,8 @@ bool WidgetView::eventFilter(QObject* /*watched*/, QEvent* event) {
         if (moves_in_window(static_cast<QFocusEvent&>(*event))) {
             guarded(control_.form(), [this] { control_.user_leave(); });
             left();
+        } else if (static_cast<QFocusEvent&>(*event).reason() == Qt::ActiveWindowFocusReason) {
+            guarded(control_.form(), [this] { control_.form().FieldLeft(); });
         }
         return false;
     case QEvent::KeyPress: {
