@@ -116,8 +116,9 @@ bool can_redo(const QPlainTextEdit& area) {
 }
 
 void forget_steps(QLineEdit& line) {
+    const int cursor = line.hasFocus() ? line.cursorPosition() : 0;
     line.setText(line.text());
-    line.setCursorPosition(0);
+    line.setCursorPosition(cursor);
 }
 
 void forget_steps(QPlainTextEdit& area) {
@@ -231,7 +232,10 @@ template <class W> bool TextView<W>::eventFilter(QObject* watched, QEvent* event
     if (event->type() == QEvent::ShortcutOverride) {
         const auto& key = static_cast<const QKeyEvent&>(*event);
         if (is_undo(key) || is_redo(key)) {
-            event->setAccepted(takes_back(key)); // else it is the window's
+            event->setAccepted(takes_back(key)); // else it is the window's, and so is what follows
+            if (!event->isAccepted()) {
+                left();
+            }
             return true;
         }
     }
