@@ -45,7 +45,7 @@ void Betraege::WertfeldVerdrahten(TextBox& feld, const Ereignisse& ereignisse,
         knopf.Default = false;
         rechnen();
     };
-    feld.KeyDown = TASTEN({{kEingabetaste, ereignisse.befehl([rechnen, &feld] {
+    feld.KeyDown = TASTEN({{kEingabetaste, ereignisse.eingabeende([rechnen, &feld] {
                                 rechnen();
                                 feld.select_all();
                             })}});

@@ -6,8 +6,9 @@
 
 namespace quittika {
 
-Ereignisse::Ereignisse(Hinweiszeile& hinweise, Rechnungszustand& zustand, Summen& summen)
-    : hinweise_(hinweise), zustand_(zustand), summen_(summen) {}
+Ereignisse::Ereignisse(Hinweiszeile& hinweise, Rechnungszustand& zustand, Summen& summen,
+                       Rueckgaengig& schritte)
+    : hinweise_(hinweise), zustand_(zustand), summen_(summen), schritte_(schritte) {}
 
 Ereignisse::Ereignis Ereignisse::vom_benutzer(Ereignis tun) const {
     return [&zustand = zustand_, tun = std::move(tun)] {
@@ -36,6 +37,13 @@ Ereignisse::Ereignis Ereignisse::aenderung(Ereignis tun) const {
 }
 
 Ereignisse::Ereignis Ereignisse::befehl(Ereignis tun) const {
+    return eingabeende([&schritte = schritte_, tun = std::move(tun)] {
+        schritte.vor_befehl();
+        tun();
+    });
+}
+
+Ereignisse::Ereignis Ereignisse::eingabeende(Ereignis tun) const {
     return [&hinweise = hinweise_, tun = std::move(tun)] {
         const Hinweiszeile::Befehl laeuft(hinweise);
         tun();

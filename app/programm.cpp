@@ -9,6 +9,7 @@
 #include "app/hauptfenster.hpp"
 #include "app/kopf.hpp"
 #include "app/ladefolge.hpp"
+#include "app/menue_bearbeiten.hpp"
 #include "app/menue_datei.hpp"
 #include "app/menue_drucken.hpp"
 #include "app/menue_einstellungen.hpp"
@@ -45,6 +46,7 @@ struct Programm::Teile {
         platform.desktop.adopt(einstellungen);
         platform.desktop.adopt(programm);
         platform.desktop.adopt(form_start);
+        MENUE_BEARBEITEN(form1, ereignisse, rueckgaengig);
         MENUE_LISTEN(form1, ereignisse, platform.dialogs, kundenfenster, artikeluebernahme);
         MENUE_DRUCKEN(form1, etiketten);
         MENUE_EINSTELLUNGEN(form1, einstellungen, ereignisse, einstellungsfenster, programmfenster,
@@ -195,7 +197,10 @@ struct Programm::Teile {
     ErsteRechnung erste_rechnung{form1, einstellungen, vorgaben, rechnung, nummern, platform.clock};
 
     // The main window: its areas, then the window, then its menus.
-    Ereignisse ereignisse{form1.Hinweise, zustand, summen};
+    Standaufnahme standaufnahme{form1,  werte,      zustand, eingabezeile, rechnung,
+                                summen, positionen, nummern, stand};
+    Rueckgaengig rueckgaengig{form1, zustand, standaufnahme, platform.desktop.activity()};
+    Ereignisse ereignisse{form1.Hinweise, zustand, summen, rueckgaengig};
     Kopf kopf{form1, ereignisse, kunde_aufnehmen, platform.clock};
     Eingabe eingabe{form1, ereignisse, eingabezeile, positionen, zeilenmenue, artikeluebernahme};
     Betraege betraege{form1, ereignisse, zustand, eingabezeile, summen, werte, einstellungsschreiber};

@@ -23,6 +23,7 @@ const std::vector<Vergleich> kVergleiche{
      3},
     {"the page beside the settings, with 1,000 rows", "muster/1000", "", 16},
     {"one more row on a list of 1,000, window included", "eine_zeile_mehr/1000", "", 16},
+    {"taking back a row of 1,000 and doing it again, window included", "zeile_zurueck/1000", "", 32},
     {"one more row on a list of 5,000, window included", "eine_zeile_mehr/5000", "", 16},
     {"a scan to its row, 12,000 articles, 1,000 rows, window included", "scan/12000", "", 16},
     {"the same : with 10 articles", "scan/12000", "scan/10", 2},

@@ -301,7 +301,12 @@ void Designer::schritt(const Designseite::Stand& vorher) {
 
 void Designer::verlauf_gehen(bool zurueck) {
     if (!blockzug_.laeuft()) {
-        seite_.setzen(zurueck ? verlauf_.zurueck(seite_.stand()) : verlauf_.vor(seite_.stand()));
+        const auto gehen = [this](const Designseite::Stand& ziel) {
+            Designseite::Stand jetzt = seite_.stand();
+            seite_.setzen(ziel);
+            return jetzt;
+        };
+        zurueck ? verlauf_.zurueck(gehen) : verlauf_.vor(gehen);
         Bilder_zeigen();
         Stand_zeigen();
         rechtsklick_.groessen_zeigen();
@@ -310,8 +315,8 @@ void Designer::verlauf_gehen(bool zurueck) {
 
 /// Shows around the blocks where they stand now.
 void Designer::Stand_zeigen() {
-    form_.m_Rueckgaengig.Enabled = verlauf_.kann_zurueck();
-    form_.m_Wiederholen.Enabled = verlauf_.kann_vor();
+    form_.m_Rueckgaengig.Enabled = verlauf_.naechster_zurueck() != nullptr;
+    form_.m_Wiederholen.Enabled = verlauf_.naechster_vor() != nullptr;
     hilfslinien_.anordnen();
     if (ausgewaehlt_ != kDesignelemente) {
         waehlen(ausgewaehlt_);

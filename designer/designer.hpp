@@ -5,10 +5,10 @@
 #include "designer/designdatei.hpp"
 #include "designer/hilfslinien.hpp"
 #include "designer/rechtsklick.hpp"
-#include "designer/verlauf.hpp"
 #include "designer/vorlagenauswahl.hpp"
 #include "platform/forms/opened_window.hpp"
 #include "print/druckvorschau.hpp"
+#include "safety/verlauf.hpp"
 #include "settings/bilderwahl.hpp"
 
 namespace quittika {

@@ -50,6 +50,9 @@ struct Form1 : Form {
     Menu m_R2{*this, "m_R2"};
     Menu m_R3{*this, "m_R3"};
     Menu m_beenden{*this, "m_beenden", "&Beenden"};
+    Menu m_rueckgaengig{*this, "m_rueckgaengig", "&Rückgängig"};
+    Menu m_wiederholen{*this, "m_wiederholen", "&Wiederholen"};
+    Menu m_wiederholen_kurz{*this, "m_wiederholen_kurz", "Wiederholen"}; ///< for its shortcut only
     Menu m_Rechnungsdaten{*this, "m_Rechnungsdaten", "Rechnungseinstellungen"};
     Menu m_Programmeinstellungen{*this, "m_Programmeinstellungen", "Programmeinstellungen"};
     Menu m_Kundenliste{*this, "m_Kundenliste", "Kundenliste"};
@@ -131,9 +134,9 @@ struct Form1 : Form {
     TextBox Text_gesamtp{Frame_ADDs, "Text_gesamtp", vorgabe::kBetrag};
     CommandButton Cmd_Add_To_list{Frame_ADDs, "Cmd_Add_To_list", "&Hinzufügen"};
     CommandButton Command_AENDERN{Frame_ADDs, "Command_AENDERN", "&Ändern"};
-    CommandButton md_Del_artikel{Frame_ADDs, "md_Del_artikel", "&Löschen"};
+    CommandButton md_Del_artikel{Frame_ADDs, "md_Del_artikel", "L&öschen"};
     CommandButton Command_Trennzeile{Frame_ADDs, "Command_Trennzeile", "Seitenum&bruch"};
-    CommandButton Command_PLUS_LIST{Frame_ADDs, "Command_PLUS_LIST", "&Artikel..."};
+    CommandButton Command_PLUS_LIST{Frame_ADDs, "Command_PLUS_LIST", "Artike&l..."};
     CheckBox Check_mengenartDECIMAL{Frame_ADDs, "Check_mengenartDECIMAL", "Menge mit Nachkommastellen"};
     CheckBox Check_000{Frame_ADDs, "Check_000", "Preis dreistellig (0,000)"};
     Label Label_Mengex{Frame_ADDs, "Label_Mengex", "Menge"};

@@ -40,6 +40,8 @@ public:
     /// or a page break with `Trennzeile`. Resets the input line.
     /// A row whose total is no number is refused with a message; answers whether a row was added.
     bool ZeileHinzufuegen(bool Trennzeile);
+    /// Selects a row of `List_DARSTELLUNG` without fetching it: the input line does not belong to it then.
+    void StillAuswaehlen(int zeile);
     /// Takes the selected row into the input line.
     void ZeileInEingabeHolen();
 
@@ -52,8 +54,6 @@ private:
     void StrichpunkteErsetzen();
     void ZeileAuswaehlen(int zeile, const Control& quelle);
     void ZeileEntfernen();
-    /// Selects a row of `List_DARSTELLUNG` without fetching it: the input line does not belong to it then.
-    void StillAuswaehlen(int zeile);
     void ListenAbschliessen(int ab);
     void NaechsteEingabe();
     void EingabezeileLeeren();

@@ -63,6 +63,7 @@ Rechnung::Rechnung(Form1& form1, Rechnungszustand& zustand, Eingabezeile& eingab
     : form1_(form1), zustand_(zustand), eingabezeile_(eingabezeile), uhr_(uhr) {}
 
 void Rechnung::RechnungLeeren() {
+    zustand_.NeuerBeleg();
     const Rechnungszustand::Sperre still(zustand_);
     KopfLeeren();
     for (TextBox* betrag : {&form1_.Text_summe, &form1_.Text_summemwst, &form1_.Text_gesamtbetrag,

@@ -18,6 +18,20 @@ public:
     /// Called when the file in hand, or whether there are unsaved changes, may be another than before.
     std::function<void()> Gewechselt;
 
+    /// Called before another invoice takes the place of the one in the window.
+    std::function<void()> VorNeuemBeleg;
+    /// Another invoice begins in the window.
+    void NeuerBeleg() {
+        if (VorNeuemBeleg) {
+            VorNeuemBeleg();
+        }
+        beleg_ = ++belege_;
+    }
+    /// The invoice `beleg` is in the window again.
+    void BelegWiederholen(int beleg) { beleg_ = beleg; }
+    /// Tells the invoices apart that were in the window since the start.
+    int Beleg() const { return beleg_; }
+
     /// File that the invoice was saved to or opened from; empty for none.
     const std::string& AktuellerPfad() const { return pfad_; }
     /// Whether the invoice in the window is the one in `AktuellerPfad`.
@@ -73,6 +87,8 @@ private:
     std::string pfad_;
     bool ist_datei_ = false;
     bool geaendert_ = false;
+    int beleg_ = 0;
+    int belege_ = 0;
     int sperren_ = 0;
 };
 

@@ -27,6 +27,7 @@ public:
 
     /// The split of the shipping costs that holds where the ticks demand none, such as that of a file.
     void VersandMerken(Versandaufteilung versand) { versand_ = versand; }
+    const Versandaufteilung& Versand() const { return versand_; }
 
     /// Renumbers `List_pos`: rows of kind "-" count, all others get a blank. Keeps the selection.
     void PositionenNummerieren();

@@ -22,6 +22,10 @@ public:
     Desktop& operator=(const Desktop&) = delete;
     virtual ~Desktop() = default;
 
+    /// What runs on behalf of any of the windows: idle when everything that one deed of the user leads to is
+    /// done.
+    Activity& activity() { return activity_; }
+
     /// Makes a form known; from then on it can be shown. The form tells when it goes (`release`).
     virtual void adopt(Form& form) = 0;
     virtual void release(Form& form) = 0;
@@ -64,6 +68,7 @@ public:
 
 private:
     std::function<void(const Form&)> help_;
+    Activity activity_;
 };
 
 /// While one lives, the keyboard stays with a form's window whatever else is shown or asks for the focus:

@@ -58,6 +58,10 @@ void Rechnungsnummern::RNNUMMERZUWEISEN() {
     NummerZeigen();
 }
 
+bool Rechnungsnummern::VomZaehler() const {
+    return automatisch() && !zustand_.IstDateiDesPfads() && form1_.Text_RNnr.Text() == gezeigt_;
+}
+
 std::string Rechnungsnummern::NummerErneuern() {
     if (!automatisch() || zustand_.IstDateiDesPfads() || form1_.Text_RNnr.Text() != Nummer()) {
         return {};

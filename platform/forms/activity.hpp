@@ -14,18 +14,15 @@ public:
     Activity() = default;
     Activity(const Activity&) = delete;
     Activity& operator=(const Activity&) = delete;
+    ~Activity() { join(nullptr); }
 
     /// Something under way, as long as this lives.
     class Hold {
     public:
-        explicit Hold(Activity& activity) : activity_(activity) { ++activity_.count_; }
+        explicit Hold(Activity& activity) : activity_(activity) { activity_.begin(); }
         Hold(const Hold&) = delete;
         Hold& operator=(const Hold&) = delete;
-        ~Hold() {
-            if (--activity_.count_ == 0 && activity_.notify_) {
-                activity_.notify_();
-            }
-        }
+        ~Hold() { activity_.end(); }
 
     private:
         Activity& activity_;
@@ -34,9 +31,39 @@ public:
     bool idle() const { return count_ == 0; }
     /// `notify` is called whenever everything has come to its end. It may not destroy the window itself.
     void when_idle(std::function<void()> notify) { notify_ = std::move(notify); }
+    /// What runs here is part of what runs in `whole`, too; null for nothing any more. The whole must last
+    /// as long.
+    void join(Activity* whole) {
+        Activity* const former = std::exchange(whole_, whole);
+        if (count_ > 0 && whole != nullptr) {
+            whole->begin();
+        }
+        if (count_ > 0 && former != nullptr) {
+            former->end();
+        }
+    }
 
 private:
+    void begin() {
+        if (++count_ == 1 && whole_ != nullptr) {
+            whole_->begin();
+        }
+    }
+    void end() {
+        if (--count_ > 0) {
+            return;
+        }
+        Activity* const whole = whole_; // the one that was told of the beginning
+        if (notify_) {
+            notify_();
+        }
+        if (whole != nullptr) {
+            whole->end();
+        }
+    }
+
     int count_ = 0;
+    Activity* whole_ = nullptr;
     std::function<void()> notify_;
 };
 

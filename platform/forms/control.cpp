@@ -94,6 +94,9 @@ void Control::check(PropertyId id, std::int64_t value) const {
 }
 
 void Control::changed(PropertyId id) {
+    if (id == PropertyId::Text || id == PropertyId::Value || id == PropertyId::ListIndex) {
+        ++form_.revision_;
+    }
     if (view_) {
         view_->property_changed(id);
     }
@@ -102,6 +105,7 @@ void Control::changed(PropertyId id) {
 }
 
 void Control::notify_items() {
+    ++form_.revision_;
     if (view_) {
         view_->items_changed();
     }

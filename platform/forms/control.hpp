@@ -130,6 +130,8 @@ public:
 
     /// What a user's click does to this control.
     virtual void user_click() { Click(); }
+    /// The focus leaves this control for another one of the window.
+    virtual void user_leave() { LostFocus(); }
 
 protected:
     /// Throws `Laufzeitfehler` 380 for a place or visibility that is not the program's to set.

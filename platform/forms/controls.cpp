@@ -60,6 +60,16 @@ void CommandButton::changed(PropertyId id) {
     Control::changed(id);
 }
 
+void TextBox::user_type(std::string text) {
+    ++form().typed_;
+    Text = std::move(text);
+}
+
+void TextBox::user_leave() {
+    Control::user_leave();
+    form().FieldLeft();
+}
+
 void TextBox::select_all() {
     SelStart.adopt(0);
     SelLength.adopt(static_cast<int>(zeichenzahl(Text())));

@@ -104,6 +104,9 @@ public:
 
     /// Marks the whole text.
     void select_all();
+    /// What the user's typing makes of the text.
+    void user_type(std::string text);
+    void user_leave() override;
 
     Handler<> Change{activity_};
 

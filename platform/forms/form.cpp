@@ -33,11 +33,13 @@ Control* Form::find(std::string_view name) const {
 void Form::attach(Desktop& desktop, std::unique_ptr<ControlView> view) {
     desktop_ = &desktop;
     view_ = std::move(view);
+    activity_.join(&desktop.activity());
 }
 
 void Form::detach() {
     desktop_ = nullptr;
     view_.reset();
+    activity_.join(nullptr);
 }
 
 void Form::ensure_loaded() {

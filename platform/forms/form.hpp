@@ -2,6 +2,7 @@
 
 #include "platform/forms/control.hpp"
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -88,6 +89,14 @@ public:
     Handler<> Shown{activity_}; ///< the form comes into sight, for the first time or once more
     /// A property of a control of the form has changed, whoever changed it; after the control's own events.
     Handler<const Control&> ControlChanged{activity_};
+    /// The focus has left a text field inside the window; after the field's own event. Where somebody
+    /// listens, a field that was left takes nothing back by itself any more: that is the listener's.
+    Handler<> FieldLeft{activity_};
+    /// Another number after each change of a text, value, choice or list on the form.
+    std::uint64_t revision() const { return revision_; }
+    /// How often the user has typed in a text field of the form.
+    std::uint64_t typed() const { return typed_; }
+
     Handler<bool&> QueryUnload{activity_}; ///< the argument set true keeps the form open
     Handler<> Unload{activity_};
     Handler<> Resize{activity_};
@@ -98,6 +107,7 @@ protected:
 
 private:
     friend class Control;
+    friend class TextBox;
     void add(Control& control) { controls_.push_back(&control); }
 
     std::string name_;
@@ -108,6 +118,8 @@ private:
     bool loaded_ = false;
     bool shown_ = false;
     bool companion_;
+    std::uint64_t revision_ = 0;
+    std::uint64_t typed_ = 0;
 };
 
 } // namespace quittika

@@ -99,6 +99,41 @@ void select(QPlainTextEdit& area, const Selection& part) {
     area.setTextCursor(cursor);
 }
 
+bool can_undo(const QLineEdit& line) {
+    return line.isUndoAvailable();
+}
+
+bool can_undo(const QPlainTextEdit& area) {
+    return area.document()->isUndoAvailable();
+}
+
+bool can_redo(const QLineEdit& line) {
+    return line.isRedoAvailable();
+}
+
+bool can_redo(const QPlainTextEdit& area) {
+    return area.document()->isRedoAvailable();
+}
+
+void forget_steps(QLineEdit& line) {
+    const int cursor = line.hasFocus() ? line.cursorPosition() : 0;
+    line.setText(line.text());
+    line.setCursorPosition(cursor);
+}
+
+void forget_steps(QPlainTextEdit& area) {
+    area.document()->clearUndoRedoStacks();
+}
+
+bool is_undo(const QKeyEvent& key) {
+    return key.keyCombination() == (Qt::ControlModifier | Qt::Key_Z);
+}
+
+bool is_redo(const QKeyEvent& key) {
+    return key.keyCombination() == (Qt::ControlModifier | Qt::Key_Y) ||
+           key.keyCombination() == (Qt::ControlModifier | Qt::ShiftModifier | Qt::Key_Z);
+}
+
 } // namespace
 
 template <class W> void TextView<W>::push_all() {
@@ -157,7 +192,7 @@ template <class W> void TextView<W>::push_selection() {
 template <class W> void TextView<W>::take_text() {
     if (!pushing_ && holds_all_) {
         guarded(this->control_.form(),
-                [this] { this->control_.Text = lines_from_qt(text_of(this->widget_)); });
+                [this] { this->control_.user_type(lines_from_qt(text_of(this->widget_))); });
     }
 }
 
@@ -172,7 +207,38 @@ template <class W> void TextView<W>::take_selection() {
     this->control_.SelLength.adopt(control_position(text, part.start + part.length) - start);
 }
 
+/// Whether the key takes back, or does again, something that was typed in the field itself.
+template <class W> bool TextView<W>::takes_back(const QKeyEvent& key) const {
+    return !this->widget_.isReadOnly() &&
+           ((is_undo(key) && can_undo(this->widget_)) || (is_redo(key) && can_redo(this->widget_)));
+}
+
+template <class W> bool TextView<W>::key_pressed(const QKeyEvent& event) {
+    const bool own = is_redo(event) && takes_back(event);
+    if (own) { // one of its two keys is none of the widget's on every desktop
+        this->widget_.redo();
+    }
+    return own;
+}
+
+template <class W> void TextView<W>::left() {
+    if (this->control_.form().FieldLeft && (can_undo(this->widget_) || can_redo(this->widget_))) {
+        const Pushing here(pushing_);
+        forget_steps(this->widget_);
+    }
+}
+
 template <class W> bool TextView<W>::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::ShortcutOverride) {
+        const auto& key = static_cast<const QKeyEvent&>(*event);
+        if (is_undo(key) || is_redo(key)) {
+            event->setAccepted(takes_back(key)); // else it is the window's, and so is what follows
+            if (!event->isAccepted()) {
+                left();
+            }
+            return true;
+        }
+    }
     if (event->type() == QEvent::Drop && !inserting_ && !this->control_.OLEDragDrop) {
         auto& drop = static_cast<QDropEvent&>(*event);
         const bool moved_inside = drop.source() == &this->widget_ || drop.source() == &this->surface();

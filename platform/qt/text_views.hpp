@@ -18,6 +18,8 @@ protected:
     void push_all() override;
     Clicks clicks() const override { return Clicks::Shared; }
     bool eventFilter(QObject* watched, QEvent* event) override;
+    bool key_pressed(const QKeyEvent& event) override;
+    void left() override;
 
     /// The widget's text has changed under the user's hands.
     void take_text();
@@ -29,6 +31,7 @@ private:
     void push_read_only();
     void push_selection();
     void insert_copy(QDropEvent& drop);
+    bool takes_back(const QKeyEvent& key) const;
 
     bool inserting_ = false;
     bool pushing_ = false;

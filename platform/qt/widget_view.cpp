@@ -201,8 +201,11 @@ bool WidgetView::eventFilter(QObject* /*watched*/, QEvent* event) {
         }
         return false;
     case QEvent::FocusOut:
-        if (control_.LostFocus && moves_in_window(static_cast<QFocusEvent&>(*event))) {
-            guarded(control_.form(), [this] { control_.LostFocus(); });
+        if (moves_in_window(static_cast<QFocusEvent&>(*event))) {
+            left(); // first: what follows may take all of this away
+            guarded(control_.form(), [this] { control_.user_leave(); });
+        } else if (static_cast<QFocusEvent&>(*event).reason() == Qt::ActiveWindowFocusReason) {
+            guarded(control_.form(), [this] { control_.form().FieldLeft(); });
         }
         return false;
     case QEvent::KeyPress: {

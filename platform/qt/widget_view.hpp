@@ -52,6 +52,8 @@ protected:
     virtual Color ground() const { return color::kButtonFace; }
     /// A key press, before the widget gets it. Returns whether the widget shall not get it.
     virtual bool key_pressed(const QKeyEvent& /*event*/) { return false; }
+    /// The focus has left the widget for another one of the window.
+    virtual void left() {}
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 

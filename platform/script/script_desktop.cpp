@@ -111,7 +111,7 @@ void ScriptDesktop::drop_focus() {
     Control* const former = std::exchange(focus_, nullptr);
     focus_form_ = nullptr;
     if (former != nullptr) {
-        former->LostFocus();
+        former->user_leave();
     }
 }
 

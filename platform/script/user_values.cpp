@@ -35,7 +35,7 @@ Deed set_text_box(TextBox& box, const std::string& value) {
     if (box.Locked()) {
         refuse(box, "ist schreibgeschützt");
     }
-    return [&box, value] { box.Text = value; };
+    return [&box, value] { box.user_type(value); };
 }
 
 Deed set_check_box(CheckBox& box, const std::string& value) {
@@ -174,7 +174,7 @@ std::function<void()> setter(Control& control, const std::string& value) {
 
 std::function<void(const std::string& character)> typist(Control& control) {
     if (auto* const text = dynamic_cast<TextBox*>(&control); text != nullptr && !text->Locked()) {
-        return [text](const std::string& character) { text->Text = text->Text() + character; };
+        return [text](const std::string& character) { text->user_type(text->Text() + character); };
     }
     if (auto* const combo = dynamic_cast<ComboBox*>(&control); combo != nullptr && combo->editable()) {
         return [combo](const std::string& character) { combo->Text = combo->Text() + character; };

@@ -162,8 +162,35 @@ TEST_F(Hauptfenstertest, BuchstabenMitAltErreichenJedeGruppe) {
     }
     f().Command_PLUS_LIST.Enabled = false;
     tippen("Text_Kunde_2", "Weg 1");
-    QTest::keyClick(feld<QLineEdit>("Text_Kunde_2"), Qt::Key_A, Qt::AltModifier);
+    QTest::keyClick(feld<QLineEdit>("Text_Kunde_2"), Qt::Key_L, Qt::AltModifier);
     EXPECT_EQ(f().Text_Kunde_2.Text(), "Weg 1") << "the letter of a disabled button is no text";
+}
+
+TEST_F(Hauptfenstertest, RueckgaengigGehoertDemFeldSolangeDarinGetipptWird) {
+    const auto taste = [](Qt::Key key, Qt::KeyboardModifiers mit = {}) {
+        QTest::keyClick(QApplication::focusWidget(), key, Qt::ControlModifier | mit);
+    };
+    tippen("Text_Kunde_1", "Kern");
+    tippen("Text_Kunde_2", "Gasse 1");
+    EXPECT_EQ(feld<QAction>("m_rueckgaengig")->text(), QStringLiteral("&Rückgängig: Eingabe"));
+    while (f().Text_Kunde_2.Text() != vorgabe::kKunde2) {
+        ASSERT_TRUE(feld<QLineEdit>("Text_Kunde_2")->isUndoAvailable());
+        taste(Qt::Key_Z);
+    }
+    EXPECT_EQ(f().Text_Kunde_1.Text(), "Kern") << "the field took back its own";
+    taste(Qt::Key_Y);
+    EXPECT_NE(f().Text_Kunde_2.Text(), vorgabe::kKunde2);
+    while (feld<QLineEdit>("Text_Kunde_2")->isUndoAvailable()) {
+        taste(Qt::Key_Z);
+    }
+    taste(Qt::Key_Z);
+    EXPECT_EQ(f().Text_Kunde_1.Text(), vorgabe::kKunde1)
+        << "the field has nothing left: now it is the window's";
+    taste(Qt::Key_Z, Qt::ShiftModifier);
+    EXPECT_EQ(f().Text_Kunde_1.Text(), "Kern");
+    feld<QLineEdit>("Text_Kunde_1")->setFocus();
+    taste(Qt::Key_Z);
+    EXPECT_EQ(f().Text_Kunde_1.Text(), vorgabe::kKunde1) << "a field that was left is one step";
 }
 
 TEST_F(Hauptfenstertest, PlatzhalterSindBeimBetretenMarkiert) {
