@@ -19,11 +19,23 @@ QWidget& dialogfenster() {
     return **gefunden;
 }
 
-/// Does this in every event loop that a box opens, one after the other.
-void nacheinander(const std::vector<std::function<void()>>& schritte) {
-    for (std::size_t i = 0; i < schritte.size(); ++i) {
-        QTimer::singleShot(30 * static_cast<int>(i + 1), schritte[i]);
-    }
+struct Schritt {
+    std::function<bool()> bereit;
+    std::function<void()> tun;
+};
+
+/// Does one after the other as soon as it can be done, in whatever event loop a box has opened by then.
+void nacheinander(const std::vector<Schritt>& schritte, std::size_t naechster = 0) {
+    QTimer::singleShot(5, [&schritte, naechster] {
+        if (naechster < schritte.size()) {
+            const Schritt& schritt = schritte[naechster];
+            const bool bereit = schritt.bereit();
+            nacheinander(schritte, naechster + (bereit ? 1 : 0));
+            if (bereit) {
+                schritt.tun();
+            }
+        }
+    });
 }
 
 TEST(Programmfenster, TastenProbierenEinenStilUndDerResetBeendetSofort) {
@@ -36,21 +48,36 @@ TEST(Programmfenster, TastenProbierenEinenStilUndDerResetBeendetSofort) {
     auto& f = dynamic_cast<Form1&>(programm.hauptfenster());
     QColor grund;
     std::string frage;
-    nacheinander({[&] { f.m_Programmeinstellungen.Click(); },
-                  [] { QTest::keyClick(&dialogfenster(), Qt::Key_S, Qt::AltModifier); },
-                  [] { QTest::keyClick(QApplication::focusWidget(), Qt::Key_Down); },
-                  [&] { grund = plattform.desktop().window(f)->palette().color(QPalette::Window); },
-                  [] { QTest::keyClick(&dialogfenster(), Qt::Key_Escape); },
-                  [&] {
-                      f.Text_Kunde_1.Text = "Kaiser"; // unsaved: nobody is asked
-                      f.m_Programmeinstellungen.Click();
-                  },
-                  [] { dialogfenster().findChild<QAbstractButton*>("Command_delreg")->click(); },
-                  [&] {
-                      QWidget& box = *QApplication::activeModalWidget();
-                      frage = box.findChild<QLabel*>("qt_msgbox_label")->text().toStdString();
-                      QTest::keyClick(&box, Qt::Key_Return);
-                  }});
+    const auto immer = [] { return true; };
+    const auto im_dialog = [] {
+        const QWidget* eingabe = QApplication::focusWidget();
+        return eingabe != nullptr && eingabe->window()->objectName() == "frm_Programm";
+    };
+    const auto im_hauptfenster = [&] { return plattform.desktop().window(f)->isActiveWindow(); };
+    const auto frage_offen = [] {
+        const QWidget* box = QApplication::activeModalWidget();
+        return box != nullptr && box->isActiveWindow();
+    };
+    const std::vector<Schritt> schritte = {
+        {im_hauptfenster, [&] { f.m_Programmeinstellungen.Click(); }},
+        {im_dialog, [] { QTest::keyClick(&dialogfenster(), Qt::Key_S, Qt::AltModifier); }},
+        {im_dialog, [] { QTest::keyClick(QApplication::focusWidget(), Qt::Key_Down); }},
+        {immer, [&] { grund = plattform.desktop().window(f)->palette().color(QPalette::Window); }},
+        {im_dialog, [] { QTest::keyClick(&dialogfenster(), Qt::Key_Escape); }},
+        {im_hauptfenster,
+         [&] {
+             f.Text_Kunde_1.Text = "Kaiser"; // unsaved: nobody is asked
+             f.m_Programmeinstellungen.Click();
+         }},
+        {im_dialog, [] { dialogfenster().findChild<QAbstractButton*>("Command_delreg")->click(); }},
+        {frage_offen,
+         [&] {
+             QWidget& box = *QApplication::activeModalWidget();
+             frage = box.findChild<QLabel*>("qt_msgbox_label")->text().toStdString();
+             QTest::keyClick(&box, Qt::Key_Return);
+         }},
+    };
+    nacheinander(schritte);
     plattform.desktop().run([&programm] { programm.hauptfenster_zeigen(); });
     EXPECT_EQ(grund, QColor(0x5B, 0x78, 0x97)) << "the first of the seven";
     EXPECT_EQ(frage, "Das Programm wird nun zurückgesetzt und beendet.");
