@@ -25,6 +25,9 @@
 #include "print/leistungsspalte.hpp"
 #include "print/lieferscheinoptionen.hpp"
 #include "print/seitenumbruch.hpp"
+#include "safety/entwurf.hpp"
+#include "safety/fassungsablage.hpp"
+#include "safety/wiederherstellung.hpp"
 #include "settings/bilderwahl.hpp"
 #include "settings/designeraufruf.hpp"
 #include "settings/einstellungsaustausch.hpp"
@@ -49,6 +52,7 @@ struct Programm::Teile {
         MENUE_EINSTELLUNGEN(form1, einstellungen, ereignisse, einstellungsfenster, programmfenster,
                             designeraufruf, designerfenster);
         MENUE_EXTRAS(form1, ereignisse, eingabezeile, barcodefenster);
+        dateibefehle.VorVerlust = [this] { fassungsablage.EntwurfAufheben(entwurf.Abbild()); };
     }
 
     Platform platform;
@@ -78,8 +82,12 @@ struct Programm::Teile {
     Dateistand stand;
     Rechnungsschreiber schreiber{form1, werte, zustand, verzeichnis, stand, platform.dialogs, platform.clock};
     Rechnungsleser leser{form1, werte, zustand, rechnung, stand, platform.dialogs};
+    Rechnungssperre sperre{platform.clock};
     Dateibefehle dateibefehle{form1,     zustand, rechnung, vorgaben, summen, stand, platform.dialogs,
-                              schreiber, leser,   nummern,  zuletzt};
+                              schreiber, leser,   nummern,  zuletzt,  sperre};
+    Fassungsablage fassungsablage{verzeichnis, platform.clock, form1.Hinweise};
+    Entwurf entwurf{form1, zustand, schreiber, verzeichnis, platform.clock};
+    Wiederherstellung wiederherstellung{entwurf, fassungsablage, dateibefehle, platform.dialogs};
     Textexport textexport{form1, einstellungen, summen, verzeichnis, platform.dialogs, platform.shell};
     Lieferscheinoptionen lieferscheinoptionen{form1, einstellungen, platform.desktop};
     Designdatei designdatei{verzeichnis, platform.dialogs, form1.Hinweise};
@@ -174,7 +182,7 @@ struct Programm::Teile {
     Ladefolge ladefolge{form1, zustand,        platform.desktop, verzeichnis, einstellungsstart,
                         logo,  erste_rechnung, raster,           summen};
     Hauptfenster hauptfenster{
-        form1, zustand, ladefolge, kopf, dateibefehle, verzeichnis, platform.desktop, [this] {
+        form1, zustand, ladefolge, kopf, dateibefehle, entwurf, verzeichnis, platform.desktop, [this] {
             return designerfenster.module() == nullptr || designerfenster.module()->SCHLIESSEN();
         }};
     Einstellungsaustausch einstellungsaustausch{
@@ -185,7 +193,12 @@ struct Programm::Teile {
     Ausgabe ausgabe{form1, ereignisse, summen, vorschauzeichnung, vorschaufenster, bildausgabe, pdfausgabe};
     MenueHilfe menue_hilfe{form1,          ereignisse,       verzeichnis,     werte,
                            platform.shell, platform.dialogs, platform.desktop};
-    Startfenster startfenster{form_start, werte, verzeichnis, platform.clock, [this] { form1.Show(); }};
+    Startfenster startfenster{form_start, werte, verzeichnis, platform.clock, [this] { zeigen(); }};
+
+    void zeigen() {
+        form1.Show();
+        wiederherstellung.Anbieten();
+    }
 };
 
 Programm::Programm(Platform platform, std::string verzeichnis)
@@ -198,7 +211,7 @@ void Programm::starten() {
 }
 
 void Programm::hauptfenster_zeigen() {
-    teile_->form1.Show();
+    teile_->zeigen();
 }
 
 Form& Programm::hauptfenster() {

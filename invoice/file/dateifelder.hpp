@@ -37,6 +37,7 @@ constexpr int kGrenze = 32000; ///< last index of the line arrays
 inline constexpr const char* kDateikennung = "qk8";
 inline constexpr const char* kNichtGesetzt = "#**#";
 inline constexpr const char* kListenmarke = "#qk8LIST#";
+inline constexpr const char* kGespeichertAm = "Gespeichert am: "; ///< before date and time, in its line
 
 enum class Lesart : std::uint8_t {
     Nie,          ///< written only

@@ -2,6 +2,7 @@
 
 #include "invoice/form1.hpp"
 #include "invoice/rechnungszustand.hpp"
+#include "platform/dateisperre.hpp"
 #include "platform/dialogs.hpp"
 #include "platform/verzeichnis.hpp"
 #include "settings/frm_einstellungen.hpp"
@@ -40,9 +41,12 @@ public:
     void NummerAuffrischen();
     /// The same, and the counter in the settings.
     void ZaehlerAuffrischen();
-    /// Uses up a number: raises the higher of the counter and the one in RN.txt and writes it, if numbering
-    /// is automatic.
-    void NummerVerbrauchen();
+    /// Uses up a number before its invoice is written, if numbering is automatic: raises the higher of the
+    /// counter and the one in RN.txt and writes it, while no other program can. A new invoice gets another
+    /// number where its own was used up meanwhile; what to tell of that is answered, as by `NummerErneuern`.
+    std::string NummerVerbrauchen();
+    /// The invoice was not written: its number is free again, unless another program has raised the counter.
+    void NummerZurueckgeben();
 
 private:
     bool automatisch() const { return einstellungen_.Check_RN_automatisch.ticked(); }
@@ -53,6 +57,8 @@ private:
     void NummerZeigen();
     void ZaehlerZeigen();
     void ZaehlerSchreiben();
+    void ZaehlerHeben();
+    std::optional<Dateisperre> Sperren() const;
 
     Form1& form1_;
     frm_einstellungen& einstellungen_;
@@ -60,7 +66,8 @@ private:
     const Programmverzeichnis& verzeichnis_;
     Dialogs& dialogs_;
     int zaehler_ = 1;
-    std::string gezeigt_; ///< the number that was put into `Text_RNnr` last
+    bool verbraucht_ = false; ///< by the invoice that is being written
+    std::string gezeigt_;     ///< the number that was put into `Text_RNnr` last
 };
 
 } // namespace quittika
