@@ -27,6 +27,7 @@
 #include "print/seitenumbruch.hpp"
 #include "safety/entwurf.hpp"
 #include "safety/fassungsablage.hpp"
+#include "safety/fassungsfenster.hpp"
 #include "safety/wiederherstellung.hpp"
 #include "settings/bilderwahl.hpp"
 #include "settings/designeraufruf.hpp"
@@ -143,6 +144,12 @@ struct Programm::Teile {
                                 verzeichnis, platform.pictures, zuletzt,  stil};
     Einstellungsuebernahme uebernahme{form1, einstellungen,        programm, werte, zustand, vorgaben, logo,
                                       stil,  einstellungsschreiber};
+    Fassungsfenster fassungsfenster{
+        form1, zustand, fassungsablage, dateibefehle, platform.desktop, platform.dialogs, [this] {
+            return std::make_unique<Musterbeleg>(form1, einstellungen, programm, werte, verzeichnis,
+                                                 platform.dialogs, platform.clock,
+                                                 platform.printing.metrics(), platform.pictures);
+        }};
     Bilderwahl bilderwahl{einstellungen, verzeichnis, platform.dialogs, platform.pictures};
     Einstellungsmuster einstellungsmuster{form1, einstellungen, [this] {
                                               return std::make_unique<Musterbeleg>(
@@ -188,8 +195,8 @@ struct Programm::Teile {
     Einstellungsaustausch einstellungsaustausch{
         form1,       einstellungen,    einstellungsschreiber,
         verzeichnis, platform.dialogs, [this] { hauptfenster.m_beenden_Click(); }};
-    MenueDatei menue_datei{form1,        ereignisse,   dateibefehle, textexport,
-                           druckauftrag, hauptfenster, kopf,         raster};
+    MenueDatei menue_datei{form1,        ereignisse,      dateibefehle, textexport, druckauftrag,
+                           hauptfenster, fassungsfenster, kopf,         raster};
     Ausgabe ausgabe{form1, ereignisse, summen, vorschauzeichnung, vorschaufenster, bildausgabe, pdfausgabe};
     MenueHilfe menue_hilfe{form1,          ereignisse,       verzeichnis,     werte,
                            platform.shell, platform.dialogs, platform.desktop};

@@ -10,6 +10,7 @@
 #include "print/form2_etiketten.hpp"
 #include "print/form_druckvorschau.hpp"
 #include "print/form_lieferschein_opt.hpp"
+#include "safety/form_fassungen.hpp"
 #include "settings/frm_einstellungen.hpp"
 #include "settings/frm_programm.hpp"
 
@@ -31,6 +32,7 @@ inline const std::vector<MakeForm> kForms{make<Form1>,
                                           make<frm_Programm>,
                                           make<Form_Lieferschein_opt>,
                                           make<Form_Druckvorschau>,
+                                          make<Form_Fassungen>,
                                           make<Form_Etp_Barcode>,
                                           make<Form2_PAKET_ETIKETT>,
                                           make<Form2_PAKETHRMS_ETIKETT>,
