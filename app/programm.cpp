@@ -87,7 +87,7 @@ struct Programm::Teile {
     Dateibefehle dateibefehle{form1,     zustand, rechnung, vorgaben, summen, stand, platform.dialogs,
                               schreiber, leser,   nummern,  zuletzt,  sperre};
     Fassungsablage fassungsablage{verzeichnis, platform.clock, form1.Hinweise};
-    Entwurf entwurf{form1, zustand, schreiber, verzeichnis, platform.clock};
+    Entwurf entwurf{form1, zustand, schreiber, nummern, verzeichnis, platform.clock};
     Wiederherstellung wiederherstellung{entwurf, fassungsablage, dateibefehle, platform.dialogs};
     Textexport textexport{form1, einstellungen, summen, verzeichnis, platform.dialogs, platform.shell};
     Lieferscheinoptionen lieferscheinoptionen{form1, einstellungen, platform.desktop};

@@ -18,18 +18,23 @@ constexpr std::size_t kHoechstbytes = 50U << 20U;
 } // namespace
 
 Entwurf::Entwurf(Form1& form1, Rechnungszustand& zustand, Rechnungsschreiber& schreiber,
-                 const Programmverzeichnis& verzeichnis, const Clock& uhr)
-    : form1_(form1), zustand_(zustand), schreiber_(schreiber), verzeichnis_(verzeichnis), uhr_(uhr) {
+                 const Rechnungsnummern& nummern, const Programmverzeichnis& verzeichnis, const Clock& uhr)
+    : form1_(form1),
+      zustand_(zustand),
+      schreiber_(schreiber),
+      nummern_(nummern),
+      verzeichnis_(verzeichnis),
+      uhr_(uhr) {
     form1_.Timer_entwurf.Tick = [this] { Timer_entwurf_Timer(); };
     form1_.Deactivate = [this] { Sichern(); };
 }
 
 std::string Entwurf::Abbild() const {
-    return schreiber_.Abbild(datum_zeit_text(uhr_.now()));
+    return schreiber_.Abbild(datum_zeit_text(uhr_.now()), nummern_.IstVorlaeufig());
 }
 
 std::size_t Entwurf::Stand() const {
-    return std::hash<std::string>{}(schreiber_.Abbild({}));
+    return std::hash<std::string>{}(schreiber_.Abbild({}, nummern_.IstVorlaeufig()));
 }
 
 void Entwurf::Timer_entwurf_Timer() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "invoice/file/rechnungsnummern.hpp"
 #include "invoice/file/rechnungsschreiber.hpp"
 #include "invoice/form1.hpp"
 #include "invoice/rechnungszustand.hpp"
@@ -24,7 +25,7 @@ struct Entwurfsfund {
 class Entwurf {
 public:
     Entwurf(Form1& form1, Rechnungszustand& zustand, Rechnungsschreiber& schreiber,
-            const Programmverzeichnis& verzeichnis, const Clock& uhr);
+            const Rechnungsnummern& nummern, const Programmverzeichnis& verzeichnis, const Clock& uhr);
 
     /// Writes at once what is not on disk yet.
     void Sichern();
@@ -48,6 +49,7 @@ private:
     Form1& form1_;
     Rechnungszustand& zustand_;
     Rechnungsschreiber& schreiber_;
+    const Rechnungsnummern& nummern_;
     const Programmverzeichnis& verzeichnis_;
     const Clock& uhr_;
     std::optional<Dateisperre> platz_; ///< for a draft of this program

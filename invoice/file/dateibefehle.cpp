@@ -112,8 +112,8 @@ bool Dateibefehle::SpeichernNach(const std::string& pfad) {
         form1_.StatusBar1[2].Caption = kSpeicherfehler;
         return false;
     }
-    zuletzt_.ZuletztGeoeffnetMerken(pfad); // a file that was not written is none of the recent ones
     zustand_.als_gespeichert_merken();
+    zuletzt_.ZuletztGeoeffnetMerken(pfad); // a file that was not written is none of the recent ones
     form1_.StatusBar1[2].Caption = "SPEICHERN ABGESCHLOSSEN";
     AktuellenPfadSetzen(pfad);
     return true;
@@ -272,6 +272,9 @@ bool Dateibefehle::AlsUngespeichertOeffnen(std::string_view bytes) {
         Geoeffnet();
     }
     if (rechnung) {
+        if (leser_.NummerVorlaeufig()) {
+            nummern_.RNNUMMERZUWEISEN();
+        }
         zustand_.aendern();
     }
     return rechnung;

@@ -59,8 +59,12 @@ void Rechnungsnummern::RNNUMMERZUWEISEN() {
     NummerZeigen();
 }
 
+bool Rechnungsnummern::IstVorlaeufig() const {
+    return automatisch() && !zustand_.IstDateiDesPfads() && form1_.Text_RNnr.Text() == Nummer();
+}
+
 std::string Rechnungsnummern::NummerErneuern() {
-    if (!automatisch() || zustand_.IstDateiDesPfads() || form1_.Text_RNnr.Text() != Nummer()) {
+    if (!IstVorlaeufig()) {
         return {};
     }
     const std::string vorher = Nummer();

@@ -30,6 +30,8 @@ public:
     /// Puts the next number into `Text_RNnr`; with numbering by hand a zero. Not an edit by the user.
     /// Automatic numbers follow the counter of another running program.
     void RNNUMMERZUWEISEN();
+    /// Whether the invoice in hand shows a number that it has not used up yet.
+    bool IstVorlaeufig() const;
     /// Gives a new invoice another number where another program has used up its own since. Answers what to
     /// tell of it, which panel 3 says already; empty where the number stays.
     std::string NummerErneuern();

@@ -91,9 +91,13 @@ Textpuffer Rechnungsschreiber::Dateitext(const std::string& gespeichert) const {
     return datei;
 }
 
-std::string Rechnungsschreiber::Abbild(const std::string& gespeichert) {
+std::string Rechnungsschreiber::Abbild(const std::string& gespeichert, bool vorlaeufig) {
     DateiDatenSammeln();
-    return Dateitext(gespeichert).bytes();
+    Textpuffer datei = Dateitext(gespeichert);
+    if (vorlaeufig) {
+        datei.zeile(kVorlaeufig);
+    }
+    return datei.bytes();
 }
 
 bool Rechnungsschreiber::DateiSchreiben(const std::string& pfad) {
