@@ -97,7 +97,7 @@ Zeilen zeilen_aus(const std::string& bytes) {
     Zeilen zeilen;
     std::istringstream strom(bytes);
     for (std::string zeile; std::getline(strom, zeile);) {
-        zeilen.push_back(zeile);
+        zeilen.push_back(zeile.substr(0, zeile.find('\r')));
     }
     return zeilen;
 }
@@ -186,6 +186,7 @@ private:
         case 4:
             return KundeLoeschen();
         case 5:
+            return Einstellung();
         case 6:
             return Warten();
         default:
@@ -282,6 +283,12 @@ private:
             tun("click Form_Kundenverwaltung.Command_delete") && tun("close Form_Kundenverwaltung");
         kunden_ = weiter ? std::set<Zeilen>{liste} : kunden_;
         return weiter;
+    }
+
+    bool Einstellung() {
+        return tun("click form1.m_Rechnungsdaten") &&
+               tun("set frm_einstellungen.Text_firma_2 Weg " + std::to_string(++nummer_)) &&
+               tun("click frm_einstellungen.Command_uebernehmen2");
     }
 
     void DateienPruefen() {
