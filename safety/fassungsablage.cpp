@@ -134,7 +134,7 @@ bool Fassungsablage::EntwurfAufheben(std::string_view bytes) {
 
 void Fassungsablage::Ablegen(const std::string& ordner, const std::string& herkunft, std::string_view bytes,
                              const std::string& quelle) {
-    if (!datei_vorhanden(ordner)) {
+    if (!datei_vorhanden(ordner + "/" + kHerkunft)) {
         ORDNER_ANLEGEN(ordner);
         zeilen_ersetzen(ordner + "/" + kHerkunft, {herkunft});
     }
