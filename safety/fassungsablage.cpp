@@ -22,6 +22,7 @@ constexpr std::array<std::string_view, 4> kProgrammdateien{"Kundenliste.txt", "A
 constexpr const char* kEntwuerfe = "Ungespeicherte Rechnungen";
 constexpr const char* kHerkunft = "Herkunft.txt"; ///< in each folder: the path of the file that it belongs to
 constexpr const char* kNamensmuster = "*-*-* *-*-*-* *";
+constexpr std::size_t kSekundenende = 20; ///< characters of a version's name that tell its second
 constexpr const char* kRechnungsendung = ".qk8";
 
 bool ist_rechnung(const fs::path& ort) {
@@ -56,8 +57,7 @@ std::string gelesene_herkunft(const std::string& ordner) {
 std::string gleiche(const std::vector<std::string>& namen, const std::string& ordner, std::string_view bytes,
                     const std::string& marke) {
     for (const std::string& name : namen) {
-        const auto teile = FASSUNGSNAME_LESEN(name);
-        if (teile && teile->marke == marke && bytes_lesen(ordner + "/" + name) == bytes) {
+        if (name.find(marke) != std::string::npos && bytes_lesen(ordner + "/" + name) == bytes) {
             return name;
         }
     }
@@ -109,13 +109,22 @@ std::string Fassungsablage::Gruppenordner(const std::string& pfad) const {
            PFADMARKE(vergleichspfad(ort, verzeichnis_.ordner()));
 }
 
+const std::string& Fassungsablage::GemerkterOrdner(const std::string& ort) {
+    if (ort != ort_) {
+        gruppe_ = Betrifft(ort) ? Gruppenordner(ort) : std::string();
+        ort_ = ort;
+    }
+    return gruppe_;
+}
+
 void Fassungsablage::Aufheben(const std::string& ort, Abgang abgang) {
-    if (!Betrifft(ort)) {
+    const std::string ordner = GemerkterOrdner(ort);
+    if (ordner.empty()) {
         return;
     }
     try {
         const std::string bytes = bytes_lesen(ort);
-        Ablegen(Gruppenordner(ort), ort, bytes, abgang == Abgang::Ersetzt ? ort : std::string());
+        Ablegen(ordner, ort, bytes, abgang == Abgang::Ersetzt ? ort : std::string());
         gemeldet_ = false;
     } catch (const Laufzeitfehler& fehler) {
         Misslungen(fehler);
@@ -142,11 +151,10 @@ void Fassungsablage::Ablegen(const std::string& ordner, const std::string& herku
     const std::string endung =
         herkunft == kEntwuerfe ? kRechnungsendung : fs::path(herkunft).extension().string();
     Fassungsname neu{uhr_.now(), 0, PFADMARKE(bytes), endung};
+    const std::string sekunde = FASSUNGSNAME(neu).substr(0, kSekundenende);
     for (const std::string& name : namen) {
-        const auto teile = FASSUNGSNAME_LESEN(name);
-        neu.zaehler += teile && teile->zeit == neu.zeit && teile->zaehler >= neu.zaehler
-                           ? teile->zaehler - neu.zaehler + 1
-                           : 0;
+        const auto teile = beginnt_mit(name, sekunde) ? FASSUNGSNAME_LESEN(name) : std::nullopt;
+        neu.zaehler = teile ? std::max(neu.zaehler, teile->zaehler + 1) : neu.zaehler;
     }
     const std::string name = FASSUNGSNAME(neu);
     const std::string alte = gleiche(namen, ordner, bytes, neu.marke);
@@ -164,7 +172,8 @@ void Fassungsablage::Ablegen(const std::string& ordner, const std::string& herku
     namen.push_back(name);
     for (const std::string& entbehrlich : ENTBEHRLICH(namen, uhr_.now())) {
         if (entbehrlich != name) {
-            DATEI_LOESCHEN(ordner + "/" + entbehrlich);
+            std::error_code bleibt; // until the next time
+            fs::remove(ordner + "/" + entbehrlich, bleibt);
         }
     }
 }

@@ -46,6 +46,9 @@ public:
 
 private:
     void Aufheben(const std::string& ort, Abgang abgang);
+    /// Where the versions of a file belong; empty for one that has none. The answer for the last file is
+    /// known.
+    const std::string& GemerkterOrdner(const std::string& ort);
     bool Betrifft(const std::string& ort) const;
     /// Puts a content among the versions in `ordner`. `quelle`: a file that holds it and lends its place on
     /// disk; empty for none.
@@ -57,6 +60,8 @@ private:
     const Clock& uhr_;
     Hinweiszeile& hinweise_;
     bool gemeldet_ = false;
+    std::string ort_;    ///< of the file that was asked about last
+    std::string gruppe_; ///< of that file
     Abgangswache wache_;
 };
 

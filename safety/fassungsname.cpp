@@ -12,6 +12,7 @@ namespace {
 constexpr std::size_t kNeueste = 50;
 constexpr std::int64_t kTage = 90;
 constexpr std::int64_t kSekundenAmTag = 24 * 3600;
+constexpr std::size_t kTagende = 10;  ///< characters of "2026-11-23"
 constexpr std::size_t kZeitende = 19; ///< characters of "2026-11-23 14-32-53"
 constexpr std::size_t kMarkenlaenge = 8;
 
@@ -57,18 +58,12 @@ std::optional<Fassungsname> FASSUNGSNAME_LESEN(std::string_view name) {
 std::vector<std::string> ENTBEHRLICH(const std::vector<std::string>& namen, const Zeitpunkt& jetzt) {
     std::vector<std::string> entbehrlich;
     const std::int64_t heute = sekunden_aus(jetzt) / kSekundenAmTag;
-    std::optional<std::int64_t> spaeterer_tag;
-    for (std::size_t i = namen.size(); i-- > 0;) {
+    const auto tag_von = [](std::string_view name) { return name.substr(0, kTagende); };
+    for (std::size_t i = 0; i + kNeueste < namen.size(); ++i) {
+        const bool letzte_des_tages = tag_von(namen[i]) != tag_von(namen[i + 1]);
         const auto teile = FASSUNGSNAME_LESEN(namen[i]);
-        if (!teile) {
-            continue;
-        }
-        const std::int64_t tag = sekunden_aus(teile->zeit) / kSekundenAmTag;
-        const bool letzte_des_tages = spaeterer_tag != tag;
-        spaeterer_tag = tag;
-        const bool bleibt =
-            namen.size() - i <= kNeueste || (letzte_des_tages && heute - tag < kTage && tag <= heute);
-        if (!bleibt) {
+        const std::int64_t alter = teile ? heute - sekunden_aus(teile->zeit) / kSekundenAmTag : 0;
+        if (teile && (!letzte_des_tages || alter < 0 || alter >= kTage)) {
             entbehrlich.push_back(namen[i]);
         }
     }
