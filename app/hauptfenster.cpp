@@ -8,11 +8,13 @@
 namespace quittika {
 
 Hauptfenster::Hauptfenster(Form1& form1, Rechnungszustand& zustand, Ladefolge& ladefolge, Kopf& kopf,
-                           Dateibefehle& dateibefehle, const Programmverzeichnis& verzeichnis,
-                           Desktop& desktop, std::function<bool()> andere_schliessen)
+                           Dateibefehle& dateibefehle, Entwurf& entwurf,
+                           const Programmverzeichnis& verzeichnis, Desktop& desktop,
+                           std::function<bool()> andere_schliessen)
     : form1_(form1),
       zustand_(zustand),
       dateibefehle_(dateibefehle),
+      entwurf_(entwurf),
       verzeichnis_(verzeichnis),
       andere_schliessen_(std::move(andere_schliessen)) {
     form1.Load = [&ladefolge, &kopf] {
@@ -20,8 +22,11 @@ Hauptfenster::Hauptfenster(Form1& form1, Rechnungszustand& zustand, Ladefolge& l
         kopf.KundeAnwaehlen();
     };
     form1.QueryUnload = [this](bool& abbrechen) { Form_QueryUnload(abbrechen); };
-    form1.Unload = [&desktop] { desktop.end(); };
-    zustand.Gewechselt = [this] { TitelZeigen(); };
+    form1.Unload = [&desktop, &entwurf] {
+        entwurf.Verwerfen();
+        desktop.end();
+    };
+    zustand.Gewechselt = [this] { StandZeigen(); };
 }
 
 void Hauptfenster::Form_QueryUnload(bool& abbrechen) {
@@ -31,9 +36,12 @@ void Hauptfenster::Form_QueryUnload(bool& abbrechen) {
     }
 }
 
-void Hauptfenster::TitelZeigen() {
+void Hauptfenster::StandZeigen() {
     form1_.Caption = FENSTERTITEL(zustand_);
     form1_.Modified = zustand_.geaendert();
+    if (!zustand_.geaendert()) {
+        entwurf_.Verwerfen();
+    }
 }
 
 void Hauptfenster::m_beenden_Click() {

@@ -4,6 +4,7 @@
 #include "app/ladefolge.hpp"
 #include "invoice/file/dateibefehle.hpp"
 #include "platform/desktop.hpp"
+#include "safety/entwurf.hpp"
 
 #include <functional>
 
@@ -14,8 +15,8 @@ class Hauptfenster {
 public:
     /// `andere_schliessen` closes the windows with work of their own; false where the user keeps one.
     Hauptfenster(Form1& form1, Rechnungszustand& zustand, Ladefolge& ladefolge, Kopf& kopf,
-                 Dateibefehle& dateibefehle, const Programmverzeichnis& verzeichnis, Desktop& desktop,
-                 std::function<bool()> andere_schliessen);
+                 Dateibefehle& dateibefehle, Entwurf& entwurf, const Programmverzeichnis& verzeichnis,
+                 Desktop& desktop, std::function<bool()> andere_schliessen);
 
     /// Remembers the state of the window, asks whether to save and ends the program.
     void m_beenden_Click();
@@ -27,11 +28,12 @@ public:
 
 private:
     void Form_QueryUnload(bool& abbrechen);
-    void TitelZeigen();
+    void StandZeigen();
 
     Form1& form1_;
     Rechnungszustand& zustand_;
     Dateibefehle& dateibefehle_;
+    Entwurf& entwurf_;
     const Programmverzeichnis& verzeichnis_;
     std::function<bool()> andere_schliessen_;
     bool ohne_frage_schliessen_ = false;

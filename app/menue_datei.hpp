@@ -7,6 +7,7 @@
 #include "invoice/file/dateibefehle.hpp"
 #include "invoice/file/textexport.hpp"
 #include "print/druckauftrag.hpp"
+#include "safety/fassungsfenster.hpp"
 
 #include <string>
 #include <vector>
@@ -18,7 +19,8 @@ namespace quittika {
 class MenueDatei {
 public:
     MenueDatei(Form1& form1, const Ereignisse& ereignisse, Dateibefehle& dateibefehle, Textexport& textexport,
-               Druckauftrag& druckauftrag, Hauptfenster& hauptfenster, Kopf& kopf, Raster& raster);
+               Druckauftrag& druckauftrag, Hauptfenster& hauptfenster, Fassungsfenster& fassungsfenster,
+               Kopf& kopf, Raster& raster);
 
 private:
     void OeffnenVerdrahten(const Ereignisse& ereignisse, Raster& raster);

@@ -27,6 +27,10 @@
 #include "print/leistungsspalte.hpp"
 #include "print/lieferscheinoptionen.hpp"
 #include "print/seitenumbruch.hpp"
+#include "safety/entwurf.hpp"
+#include "safety/fassungsablage.hpp"
+#include "safety/fassungsfenster.hpp"
+#include "safety/wiederherstellung.hpp"
 #include "settings/bilderwahl.hpp"
 #include "settings/designeraufruf.hpp"
 #include "settings/einstellungsaustausch.hpp"
@@ -54,6 +58,7 @@ struct Programm::Teile {
         MENUE_EXTRAS(form1, ereignisse, eingabezeile, barcodefenster, analyzerfenster, nummernpruefung,
                      datensicherung, rueckspielfenster, updatecheck);
         WERKZEUGE(form1, ereignisse, zustand, notizfenster, verzeichnis, platform.dialogs, platform.desktop);
+        dateibefehle.VorVerlust = [this] { fassungsablage.EntwurfAufheben(entwurf.Abbild()); };
     }
 
     /// The window first, so that what the program asks and says stands in front of one that is there.
@@ -61,8 +66,10 @@ struct Programm::Teile {
         form1.Show();
         platform.desktop.later([this] { WennDasFensterDaIst(); });
     }
-    /// The program's own questions come before the invoice that it was started with.
+    /// What was lost last time comes first, the program's other questions before the invoice that it was
+    /// started with.
     void WennDasFensterDaIst() {
+        wiederherstellung.Anbieten();
         form1.Hinweise.melden(SICHERUNGSERINNERUNG(verzeichnis, platform.clock.now()));
         updatecheck.Updatecheck_Start();
         if (!startrechnung.empty()) {
@@ -105,8 +112,12 @@ struct Programm::Teile {
     Dateistand stand;
     Rechnungsschreiber schreiber{form1, werte, zustand, verzeichnis, stand, platform.dialogs, platform.clock};
     Rechnungsleser leser{form1, werte, zustand, rechnung, stand, platform.dialogs};
+    Rechnungssperre sperre{platform.clock};
     Dateibefehle dateibefehle{form1,     zustand, rechnung, vorgaben, summen, stand, platform.dialogs,
-                              schreiber, leser,   nummern,  zuletzt};
+                              schreiber, leser,   nummern,  zuletzt,  sperre};
+    Fassungsablage fassungsablage{verzeichnis, platform.clock, form1.Hinweise};
+    Entwurf entwurf{form1, zustand, schreiber, nummern, verzeichnis, platform.clock};
+    Wiederherstellung wiederherstellung{entwurf, fassungsablage, dateibefehle, platform.dialogs};
     Textexport textexport{form1, einstellungen, summen, verzeichnis, platform.dialogs, platform.shell};
     Lieferscheinoptionen lieferscheinoptionen{form1, einstellungen, platform.desktop};
     Designdatei designdatei{verzeichnis, platform.dialogs, form1.Hinweise};
@@ -169,6 +180,12 @@ struct Programm::Teile {
                                 verzeichnis, platform.pictures, zuletzt,  stil};
     Einstellungsuebernahme uebernahme{form1, einstellungen,        programm, werte, zustand, vorgaben, logo,
                                       stil,  einstellungsschreiber};
+    Fassungsfenster fassungsfenster{
+        form1, zustand, fassungsablage, dateibefehle, platform.desktop, platform.dialogs, [this] {
+            return std::make_unique<Musterbeleg>(form1, einstellungen, programm, werte, verzeichnis,
+                                                 platform.dialogs, platform.clock,
+                                                 platform.printing.metrics(), platform.pictures);
+        }};
     Bilderwahl bilderwahl{einstellungen, verzeichnis, platform.dialogs, platform.pictures};
     Einstellungsmuster einstellungsmuster{form1, einstellungen, [this] {
                                               return std::make_unique<Musterbeleg>(
@@ -214,14 +231,14 @@ struct Programm::Teile {
     Ladefolge ladefolge{form1, zustand,        platform.desktop, verzeichnis, einstellungsstart,
                         logo,  erste_rechnung, raster,           summen};
     Hauptfenster hauptfenster{
-        form1, zustand, ladefolge, kopf, dateibefehle, verzeichnis, platform.desktop, [this] {
+        form1, zustand, ladefolge, kopf, dateibefehle, entwurf, verzeichnis, platform.desktop, [this] {
             return designerfenster.module() == nullptr || designerfenster.module()->SCHLIESSEN();
         }};
     Einstellungsaustausch einstellungsaustausch{
         form1,       einstellungen,    einstellungsschreiber,
         verzeichnis, platform.dialogs, [this] { hauptfenster.m_beenden_Click(); }};
-    MenueDatei menue_datei{form1,        ereignisse,   dateibefehle, textexport,
-                           druckauftrag, hauptfenster, kopf,         raster};
+    MenueDatei menue_datei{form1,        ereignisse,      dateibefehle, textexport, druckauftrag,
+                           hauptfenster, fassungsfenster, kopf,         raster};
     Ausgabe ausgabe{form1, ereignisse, summen, vorschauzeichnung, vorschaufenster, bildausgabe, pdfausgabe};
     MenueHilfe menue_hilfe{form1,          ereignisse,       verzeichnis,     werte,
                            platform.shell, platform.dialogs, platform.desktop};

@@ -53,6 +53,9 @@ const std::vector<Vergleich> kVergleiche{
     {"the same : 100 invoices, per invoice 1", "analyse/10000", "analyse/100", 100},
     {"marking another of 10,000 invoices", "rechnung_markieren", "", 16},
     {"start to main window : an empty window", "start", "start_grundlage", 3},
+    {"start with 10,000 versions : with none", "start_im_ordner/mit_10000_fassungen", "start_im_ordner/leer",
+     1.1},
+    {"saving with versions : without", "speichern/mit_fassungen", "speichern/ohne", 1.3},
 };
 
 /// What an application with nothing in it needs.

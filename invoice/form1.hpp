@@ -49,6 +49,7 @@ struct Form1 : Form {
     Menu m_R1{*this, "m_R1"};
     Menu m_R2{*this, "m_R2"};
     Menu m_R3{*this, "m_R3"};
+    Menu m_Fassungen{*this, "m_Fassungen", "&Frühere Fassungen..."};
     Menu m_beenden{*this, "m_beenden", "&Beenden"};
     Menu m_rueckgaengig{*this, "m_rueckgaengig", "&Rückgängig"};
     Menu m_wiederholen{*this, "m_wiederholen", "&Wiederholen"};
@@ -242,6 +243,7 @@ struct Form1 : Form {
     Hinweiszeile Hinweise{StatusBar1[3]};
     Timer Timer_blink{*this, "Timer_blink", 1000};
     Timer Timer_chronjob{*this, "Timer_chronjob", 1000};
+    Timer Timer_entwurf{*this, "Timer_entwurf", 2000}; ///< looks for unsaved changes that are not on disk
 
     bool Direktuebernahme = true; ///< a double click on an article takes it over at once
 

@@ -51,6 +51,9 @@ void datei_anhaengen(const std::string& pfad, std::string_view bytes) {
         datei.schliessen();
         return;
     }
+    if (auskunft.st_nlink > 1) {
+        abgang_melden(ort, Abgang::AmOrt); // what has a second name must not grow under it
+    }
     try {
         datei.schreiben((endet_mit_der_zeile(datei, auskunft.st_size, ort) ? "" : "\r\n") +
                         std::string(bytes));

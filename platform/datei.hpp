@@ -43,6 +43,30 @@ private:
 std::string datei_ersetzen(const std::string& pfad, std::string_view bytes,
                            const std::string& ausweichordner = {});
 
+/// How the content of a file goes.
+enum class Abgang {
+    Ersetzt, ///< another file takes its place, or none: the old one may live on under another name
+    AmOrt,   ///< the file itself is written over
+};
+
+/// While one lives, it is told of each file just before `datei_ersetzen`, `DATEI_KOPIEREN` or
+/// `DATEI_LOESCHEN` takes its content away: nobody who writes files can forget to ask. The new content is
+/// completely on disk by then. At most one in a process, for the files are the same for all of it.
+class Abgangswache {
+public:
+    /// `pfad` leads to the file itself, past all links. What `vorher` throws must not be a file's error.
+    using Vorher = std::function<void(const std::string& pfad, Abgang abgang)>;
+    explicit Abgangswache(Vorher vorher);
+    Abgangswache(const Abgangswache&) = delete;
+    Abgangswache& operator=(const Abgangswache&) = delete;
+    ~Abgangswache();
+
+private:
+    friend void abgang_melden(const std::string& ort, Abgang abgang);
+    Vorher vorher_;
+    Abgangswache* bisher_; ///< the one that counts again afterwards
+};
+
 /// Takes the next bytes of a file that is being written.
 using Bytesenke = std::function<void(std::string_view bytes)>;
 
@@ -68,6 +92,16 @@ enum class Kopierziel {
 /// Copies a file byte for byte. Source and target stay as they were where that fails. Throws 70 for a file
 /// that would be copied onto itself. The error's path tells which of the two it was.
 void DATEI_KOPIEREN(const std::string& von, const std::string& nach, Kopierziel ziel = Kopierziel::Ersetzen);
+
+/// Gives a file a second name, under which its content stays where another file takes its place. Throws 58
+/// where something has that name, and what the file system answers that cannot do it.
+void DATEI_VERKNUEPFEN(const std::string& pfad, const std::string& name);
+
+/// Moves a file within one file system; throws 58 where something has that name.
+void DATEI_UMBENENNEN(const std::string& alt, const std::string& neu);
+
+/// Makes sure that there is such a folder, and the one that it lies in.
+void ORDNER_ANLEGEN(const std::string& ordner);
 
 /// Deletes a file, but throws 70 for one that may not be written. Of a symbolic link only the link goes.
 void DATEI_LOESCHEN(const std::string& pfad);

@@ -89,26 +89,6 @@ template <class Name> NeueDatei neue_datei(const std::string& ordner, mode_t rec
     }
 }
 
-void umbenennen(const std::string& alt, const std::string& neu) {
-    if (rename(alt.c_str(), neu.c_str()) != 0) {
-        scheitern(errno, neu);
-    }
-}
-
-/// The same, but throws 58 where something has that name.
-void benennen(const std::string& alt, const std::string& neu) {
-    if (renameat2(AT_FDCWD, alt.c_str(), AT_FDCWD, neu.c_str(), RENAME_NOREPLACE) == 0) {
-        return;
-    }
-    if (errno != EINVAL && errno != ENOSYS) {
-        scheitern(errno, neu);
-    }
-    if (datei_vorhanden(neu)) { // not every file system can tell by itself
-        scheitern(EEXIST, neu);
-    }
-    umbenennen(alt, neu);
-}
-
 using Inhalt = std::function<void(const Datei&)>;
 
 Inhalt inhalt_aus(std::string_view bytes) {
@@ -160,6 +140,9 @@ void daneben_schreiben(const std::string& ziel, const Inhalt& inhalt, std::optio
         }
         datei.sichern();
         datei.schliessen();
+        if (rechte) {
+            abgang_melden(ziel, Abgang::Ersetzt);
+        }
         an_den_platz(neu.pfad, ziel);
     } catch (...) {
         unlink(neu.pfad.c_str());
@@ -212,6 +195,7 @@ std::string am_ort_schreiben(const std::string& ziel, std::string_view bytes, co
     const std::string alt = datei.lesen(kUnbegrenzt);
     const std::string name = ziel.substr(ordner_von(ziel).size());
     const std::string beiseite = beiseite_legen(ordner + "/", name, alt);
+    abgang_melden(ziel, Abgang::AmOrt);
     try {
         datei.ueberschreiben(bytes);
         datei.schliessen();
@@ -256,7 +240,7 @@ void datei_anlegen(const std::string& pfad, std::string_view bytes) {
     if (stat(ziel.c_str(), &auskunft) == 0) {
         scheitern(S_ISDIR(auskunft.st_mode) ? EISDIR : EEXIST, ziel);
     }
-    daneben_schreiben(ziel, inhalt_aus(bytes), std::nullopt, benennen);
+    daneben_schreiben(ziel, inhalt_aus(bytes), std::nullopt, umbenennen_ohne_ersatz);
 }
 
 } // namespace quittika

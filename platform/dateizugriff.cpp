@@ -4,6 +4,7 @@
 #include "platform/verzeichnis.hpp"
 
 #include <cerrno>
+#include <cstdio>
 #include <utility>
 
 #include <fcntl.h>
@@ -75,6 +76,47 @@ void ordner_sichern(const std::string& ordner) {
     if (fsync(nummer) != 0 && errno != EINVAL) { // not every file system can
         scheitern(errno, ordner);
     }
+}
+
+namespace {
+
+Abgangswache*& wache() {
+    static Abgangswache* jetzige = nullptr;
+    return jetzige;
+}
+
+} // namespace
+
+Abgangswache::Abgangswache(Vorher vorher)
+    : vorher_(std::move(vorher)), bisher_(std::exchange(wache(), this)) {}
+
+Abgangswache::~Abgangswache() {
+    wache() = bisher_;
+}
+
+void abgang_melden(const std::string& ort, Abgang abgang) {
+    if (wache() != nullptr) {
+        wache()->vorher_(ort, abgang);
+    }
+}
+
+void umbenennen(const std::string& alt, const std::string& neu) {
+    if (rename(alt.c_str(), neu.c_str()) != 0) {
+        scheitern(errno, neu);
+    }
+}
+
+void umbenennen_ohne_ersatz(const std::string& alt, const std::string& neu) {
+    if (renameat2(AT_FDCWD, alt.c_str(), AT_FDCWD, neu.c_str(), RENAME_NOREPLACE) == 0) {
+        return;
+    }
+    if (errno != EINVAL && errno != ENOSYS) {
+        scheitern(errno, neu);
+    }
+    if (datei_vorhanden(neu)) { // not every file system can tell by itself
+        scheitern(EEXIST, neu);
+    }
+    umbenennen(alt, neu);
 }
 
 Datei::Datei(std::string pfad, int art, mode_t rechte)

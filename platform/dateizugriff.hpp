@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/datei.hpp"
+
 #include <cstddef>
 #include <cstdint>
 #include <functional>
@@ -25,6 +27,14 @@ std::string ordner_von(const std::string& ort);
 
 /// Makes sure that a new or renamed file stays in its folder even if the machine stops now.
 void ordner_sichern(const std::string& ordner);
+
+/// Gives a file another name in the same file system, in the place of what has that name.
+void umbenennen(const std::string& alt, const std::string& neu);
+/// The same, but throws 58 where something has that name.
+void umbenennen_ohne_ersatz(const std::string& alt, const std::string& neu);
+
+/// Tells the watch that the content of a file goes; nothing where there is none.
+void abgang_melden(const std::string& ort, Abgang abgang);
 
 /// An open file, closed at the end of its life. What fails throws `Laufzeitfehler` with `pfad`.
 class Datei {

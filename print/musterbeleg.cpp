@@ -84,22 +84,36 @@ void Musterbeleg::AUFNEHMEN() {
 /// Returns whether there is a sample invoice that can be read.
 bool Musterbeleg::Beispiel_Lesen() {
     try {
-        const std::string bytes =
-            bytes_lesen(verzeichnis_.pfad("\\Beispielrechnung.qk8"), kGroesstesBeispiel);
-        bool lesbar = false;
-        zeilen_durchgehen(bytes, [&lesbar](std::string_view erste) {
-            lesbar = erste == kDateikennung;
-            return false;
-        });
-        if (lesbar) {
-            leser_.InhaltUebernehmen(bytes);
-            lesbar = leser_.DateiDatenAnzeigen();
-            summen_.VersandMerken(leser_.VersandGelesen());
-        }
-        return lesbar;
+        return Uebernehmen(bytes_lesen(verzeichnis_.pfad("\\Beispielrechnung.qk8"), kGroesstesBeispiel));
     } catch (const Laufzeitfehler&) {
         return false;
     }
+}
+
+bool Musterbeleg::Uebernehmen(std::string_view bytes) {
+    bool lesbar = false;
+    zeilen_durchgehen(bytes, [&lesbar](std::string_view erste) {
+        lesbar = erste == kDateikennung;
+        return false;
+    });
+    if (lesbar) {
+        leser_.InhaltUebernehmen(bytes);
+        lesbar = leser_.DateiDatenAnzeigen();
+        summen_.VersandMerken(leser_.VersandGelesen());
+    }
+    return lesbar;
+}
+
+bool Musterbeleg::LESEN(std::string_view bytes) {
+    copy_controls(einstellungen_, muster_.einstellungen);
+    muster_.werte = werte_;
+    if (!Uebernehmen(bytes)) {
+        return false;
+    }
+    DRUCKFARBEN_UEBERNEHMEN(muster_.werte, muster_.einstellungen);
+    SCHRIFTGROESSEN_UEBERNEHMEN(muster_.werte, muster_.einstellungen);
+    summen_.jetztberechnen_List();
+    return true;
 }
 
 Druckvorlage Musterbeleg::vorlage(std::string& hinweis) const {

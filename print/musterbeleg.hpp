@@ -13,6 +13,7 @@
 #include "print/rechnungsdruck.hpp"
 
 #include <string>
+#include <string_view>
 
 namespace quittika {
 
@@ -28,6 +29,10 @@ public:
     /// Takes what the windows show at present. An invoice without rows gives way to the sample invoice of the
     /// program folder, that of a new customer.
     void AUFNEHMEN();
+    /// Takes the bytes of an invoice's file, with the settings in force. Returns whether they are an invoice.
+    bool LESEN(std::string_view bytes);
+    /// The invoice taken.
+    const Form1& beleg() const { return muster_.form1; }
     /// Draws the first page in the page design chosen, or in `layout` (1 to 9). Returns what is wrong on it
     /// as a sentence, empty where all is right.
     std::string ZEICHNEN(PictureControl& bild, int layout = 0);
@@ -36,6 +41,7 @@ public:
 
 private:
     bool Beispiel_Lesen();
+    bool Uebernehmen(std::string_view bytes);
     Druckvorlage vorlage(std::string& hinweis) const;
 
     const Form1& form1_;

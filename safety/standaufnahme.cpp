@@ -77,7 +77,7 @@ Begleitung Standaufnahme::begleitung() const {
 Belegbezug Standaufnahme::beleg() const {
     return {
         zustand_.Beleg(), zustand_.AktuellerPfad(), zustand_.IstDateiDesPfads(), form1_.Label_Pfad.Caption(),
-        dateistand_,      werte_.RECHNUNGSSCHRIFT,  nummern_.VomZaehler()};
+        dateistand_,      werte_.RECHNUNGSSCHRIFT,  nummern_.IstVorlaeufig()};
 }
 
 void Standaufnahme::gehen(const Schritt& schritt) {

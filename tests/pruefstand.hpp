@@ -76,8 +76,9 @@ struct Pruefstand {
     Dateistand stand;
     Rechnungsschreiber schreiber{form1, werte, zustand, verzeichnis, stand, dialoge, uhr};
     Rechnungsleser leser{form1, werte, zustand, rechnung, stand, dialoge};
-    Dateibefehle befehle{form1,   zustand,   rechnung, vorgaben, summen, stand,
-                         dialoge, schreiber, leser,    nummern,  zuletzt};
+    Rechnungssperre sperre{uhr};
+    Dateibefehle befehle{form1,   zustand,   rechnung, vorgaben, summen,  stand,
+                         dialoge, schreiber, leser,    nummern,  zuletzt, sperre};
 
     Pruefstand() {
         rechnung.RechnungLeeren();

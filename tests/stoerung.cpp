@@ -5,6 +5,7 @@
 #include <utility>
 
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace quittika {
@@ -69,6 +70,9 @@ UMGELEITET(ssize_t, read, (int datei, void* bytes, size_t anzahl), (datei, bytes
 UMGELEITET(ssize_t, pread, (int datei, void* bytes, size_t anzahl, off_t ab), (datei, bytes, anzahl, ab))
 UMGELEITET(int, fsync, (int datei), (datei))
 UMGELEITET(int, ftruncate, (int datei, off_t laenge), (datei, laenge))
+UMGELEITET(int, link, (const char* alt, const char* neu), (alt, neu))
+UMGELEITET(int, unlink, (const char* pfad), (pfad))
+UMGELEITET(int, mkdir, (const char* pfad, mode_t rechte), (pfad, rechte))
 UMGELEITET(int, rename, (const char* alt, const char* neu), (alt, neu))
 UMGELEITET(int, renameat2, (int von, const char* alt, int nach, const char* neu, unsigned art),
            (von, alt, nach, neu, art))

@@ -10,7 +10,7 @@ namespace quittika {
 Dateibefehle::Dateibefehle(Form1& form1, Rechnungszustand& zustand, Rechnung& rechnung, Vorgaben& vorgaben,
                            Summen& summen, const Dateistand& stand, Dialogs& dialogs,
                            Rechnungsschreiber& schreiber, Rechnungsleser& leser, Rechnungsnummern& nummern,
-                           ZuletztGeoeffnet& zuletzt)
+                           ZuletztGeoeffnet& zuletzt, Rechnungssperre& sperre)
     : form1_(form1),
       zustand_(zustand),
       rechnung_(rechnung),
@@ -21,7 +21,8 @@ Dateibefehle::Dateibefehle(Form1& form1, Rechnungszustand& zustand, Rechnung& re
       schreiber_(schreiber),
       leser_(leser),
       nummern_(nummern),
-      zuletzt_(zuletzt) {}
+      zuletzt_(zuletzt),
+      sperre_(sperre) {}
 
 bool Dateibefehle::VorherSpeichern(Buttons tasten) {
     switch (
@@ -59,6 +60,7 @@ bool Dateibefehle::m_neu_Click() {
     rechnung_.RechnungLeeren();
     NeuBeginnen();
     zustand_.DateiLoesen();
+    sperre_.Setzen("");
     summen_.jetztberechnen_List();
     zustand_.als_gespeichert_merken();
     return true;
@@ -97,15 +99,21 @@ bool Dateibefehle::SpeichernNach(const std::string& pfad) {
     }
     PfadZeigen(pfad);
     form1_.StatusBar1[2].Caption = "SPEICHERN VON: " + pfad;
+    // Used up before the file is there: a gap among the numbers does less harm than a number given out twice.
+    if (const std::string meldung = nummern_.NummerVerbrauchen(); !meldung.empty()) {
+        nummernmeldung_ = meldung;
+    }
     schreiber_.DateiDatenSammeln();
     if (!schreiber_.DateiSchreiben(pfad)) {
+        if (!stand_.VorgemerktesLiegtIn(pfad)) {
+            nummern_.NummerZurueckgeben();
+        }
         PfadZeigen(zustand_.IstDateiDesPfads() ? zustand_.AktuellerPfad() : std::string());
         form1_.StatusBar1[2].Caption = kSpeicherfehler;
         return false;
     }
-    zuletzt_.ZuletztGeoeffnetMerken(pfad); // a file that was not written is none of the recent ones
     zustand_.als_gespeichert_merken();
-    nummern_.NummerVerbrauchen();
+    zuletzt_.ZuletztGeoeffnetMerken(pfad); // a file that was not written is none of the recent ones
     form1_.StatusBar1[2].Caption = "SPEICHERN ABGESCHLOSSEN";
     AktuellenPfadSetzen(pfad);
     return true;
@@ -137,22 +145,27 @@ void Dateibefehle::AmPfadSpeichern() {
         return;
     }
     zustand_.als_gespeichert_merken();
-    zustand_.DateiSetzen(zustand_.AktuellerPfad());
+    AktuellenPfadSetzen(zustand_.AktuellerPfad());
     PfadZeigen(zustand_.AktuellerPfad());
     form1_.StatusBar1[2].Caption = "SPEICHERN ERFOLGREICH ABGESCHLOSSEN";
 }
 
 bool Dateibefehle::ErsetzenErlaubt(const std::string& pfad) {
-    if (!stand_.AnderswoGeaendert(pfad)) {
+    const auto anderer = sperre_.WerSonst(pfad);
+    if (!anderer && !stand_.AnderswoGeaendert(pfad)) {
         return true;
     }
+    const std::string grund =
+        anderer ? "< ist geöffnet von " + SPERRTEXT(*anderer)
+                : "< wurde von einem anderen Programm geändert, seit sie hier geöffnet oder "
+                  "gespeichert wurde";
     const Answer antwort =
-        dialogs_.message({"Die Datei >" + pfad +
-                              "< wurde von einem anderen Programm geändert, seit sie hier geöffnet oder "
-                              "gespeichert wurde. Soll sie trotzdem ersetzt werden?\r\n"
+        dialogs_.message({"Die Datei >" + pfad + grund +
+                              ". Soll sie trotzdem ersetzt werden?\r\n"
                               "Nein behält beide: die Datei bleibt, wie sie ist, und Ihre Rechnung bleibt im "
                               "Fenster.",
-                          "Datei wurde geändert", Buttons::YesNo, Symbol::Exclamation, Answer::No});
+                          anderer ? "Datei ist geöffnet" : "Datei wurde geändert", Buttons::YesNo,
+                          Symbol::Exclamation, Answer::No});
     if (antwort == Answer::Yes) {
         return true;
     }
@@ -212,8 +225,12 @@ bool Dateibefehle::oeffneRN(const std::string& pfad) {
             gewaehlt = dialogs_.open_file({"Quittika 2008  Dateien (*.qk8)|*.qk8", {}, {}});
             zustand_.ZuletztGeoeffnet = gewaehlt;
         }
+        const Zugriff zugriff = ZugriffErfragen(gewaehlt);
+        if (zugriff == Zugriff::Keiner) {
+            return false;
+        }
         leser_.DateiEinlesen(gewaehlt);
-        GelesenesZeigen(gewaehlt);
+        GelesenesZeigen(gewaehlt, zugriff);
         zuletzt_.ZuletztGeoeffnetMerken(gewaehlt);
         form1_.StatusBar1[2].Caption = "GEÖFFNETE DATEI: " + gewaehlt;
         if (Geoeffnet) {
@@ -232,12 +249,53 @@ void Dateibefehle::m_R_Click(int n) {
     const Hinweiszeile::Befehl befehl(form1_.Hinweise);
     const std::string pfad = zuletzt_.Eintrag(n);
     try {
+        const Zugriff zugriff = ZugriffErfragen(pfad);
+        if (zugriff == Zugriff::Keiner) {
+            return;
+        }
+        if (zustand_.geaendert() && VorVerlust) {
+            VorVerlust();
+        }
         leser_.DateiEinlesen(pfad);
         form1_.StatusBar1[2].Caption = "GEÖFFNETE DATEI: " + pfad;
-        GelesenesZeigen(pfad);
+        GelesenesZeigen(pfad, zugriff);
     } catch (const Laufzeitfehler& fehler) {
         OeffnungsfehlerMelden(pfad, fehler);
     }
+}
+
+bool Dateibefehle::AlsUngespeichertOeffnen(std::string_view bytes) {
+    const Hinweiszeile::Befehl befehl(form1_.Hinweise);
+    leser_.InhaltUebernehmen(bytes);
+    const bool rechnung = GelesenesZeigen({}, Zugriff::NurLesen);
+    if (Geoeffnet) {
+        Geoeffnet();
+    }
+    if (rechnung) {
+        if (leser_.NummerVorlaeufig()) {
+            nummern_.RNNUMMERZUWEISEN();
+        }
+        zustand_.aendern();
+    }
+    return rechnung;
+}
+
+Dateibefehle::Zugriff Dateibefehle::ZugriffErfragen(const std::string& pfad) {
+    const auto anderer = sperre_.WerSonst(pfad);
+    if (!anderer) {
+        return Zugriff::Ganz;
+    }
+    const std::string ausweg =
+        anderer->hier ? ""
+                      : "\r\nGibt es dort niemanden mehr, der sie geöffnet hat, löschen Sie bitte >>" +
+                            anderer->pfad + "<<.";
+    const Answer antwort = dialogs_.message(
+        {"Die Rechnung >" + pfad + "< ist geöffnet von " + SPERRTEXT(*anderer) +
+             ".\r\nSoll sie nur zum Lesen geöffnet werden? Sie lässt sich dann unter einem anderen Namen "
+             "speichern." +
+             ausweg,
+         "Rechnung ist geöffnet", Buttons::YesNo, Symbol::Exclamation});
+    return antwort == Answer::Yes ? Zugriff::NurLesen : Zugriff::Keiner;
 }
 
 void Dateibefehle::OeffnungsfehlerMelden(const std::string& pfad, const Laufzeitfehler& fehler) {
@@ -252,21 +310,28 @@ void Dateibefehle::PfadZeigen(const std::string& pfad) {
 
 void Dateibefehle::AktuellenPfadSetzen(const std::string& pfad) {
     zustand_.DateiSetzen(pfad);
+    sperre_.Setzen(pfad);
     form1_.m_speichern_direkt.Enabled = !pfad.empty();
 }
 
-void Dateibefehle::GelesenesZeigen(const std::string& pfad) {
+bool Dateibefehle::GelesenesZeigen(const std::string& pfad, Zugriff zugriff) {
     const bool rechnung = leser_.DateiDatenAnzeigen();
-    AktuellenPfadSetzen(rechnung && !leser_.befund().abgeschnitten ? pfad : std::string());
+    const bool ganz = rechnung && !leser_.befund().abgeschnitten && zugriff == Zugriff::Ganz;
+    AktuellenPfadSetzen(ganz ? pfad : std::string());
     if (rechnung) {
         PfadZeigen(pfad);
         form1_.Hinweise.leeren();
         form1_.Hinweise.melden(BEFUND_MELDUNG(leser_.befund()));
+        if (zugriff == Zugriff::NurLesen && !pfad.empty()) {
+            form1_.Hinweise.melden(
+                "Nur zum Lesen geöffnet: Änderungen lassen sich unter einem anderen Namen speichern.");
+        }
         summen_.VersandMerken(leser_.VersandGelesen());
     } else {
         NeuBeginnen();
     }
     Auffrischen();
+    return rechnung;
 }
 
 void Dateibefehle::Auffrischen() {

@@ -31,12 +31,16 @@ constexpr int kVersandMwSt = 219;
 constexpr int kVersandNetto = 220;
 constexpr int kLetzteFeste = 1000; ///< last of the scalar lines
 constexpr int kGespeichert = 1001;
+constexpr int kVorlaeufig = 1002;
 constexpr int kGrenze = 32000; ///< last index of the line arrays
 } // namespace dateizeile
 
 inline constexpr const char* kDateikennung = "qk8";
 inline constexpr const char* kNichtGesetzt = "#**#";
 inline constexpr const char* kListenmarke = "#qk8LIST#";
+inline constexpr const char* kGespeichertAm = "Gespeichert am: "; ///< before date and time, in its line
+/// Behind the other lines of an unsaved invoice: nobody has its number but in the window.
+inline constexpr const char* kVorlaeufig = "Vorläufige Nummer";
 
 enum class Lesart : std::uint8_t {
     Nie,          ///< written only

@@ -1,6 +1,7 @@
 #include "invoice/file/dateistand.hpp"
 
 #include "platform/datei.hpp"
+#include "platform/verzeichnis.hpp"
 
 #include <filesystem>
 #include <functional>
@@ -32,6 +33,14 @@ void Dateistand::vormerken(std::string_view bytes) {
 void Dateistand::geschrieben(const std::string& pfad) {
     ort_ = pfad;
     inhalt_ = vorgemerkt_;
+}
+
+bool Dateistand::VorgemerktesLiegtIn(const std::string& pfad) const {
+    try {
+        return datei_vorhanden(pfad) && kInhalt(bytes_lesen(pfad)) == vorgemerkt_;
+    } catch (const Laufzeitfehler&) {
+        return true;
+    }
 }
 
 bool Dateistand::AnderswoGeaendert(const std::string& pfad) const {

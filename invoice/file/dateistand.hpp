@@ -13,6 +13,8 @@ public:
     void merken(const std::string& pfad, std::string_view bytes);
     /// These bytes are about to be written; a save that fails at its very end leaves them on disk.
     void vormerken(std::string_view bytes);
+    /// Whether the bytes that were about to be written are in `pfad`, or may be: it cannot be read.
+    bool VorgemerktesLiegtIn(const std::string& pfad) const;
     /// The file holds the bytes that were about to be written.
     void geschrieben(const std::string& pfad);
     /// Whether `pfad` is that file and holds something else by now. A file that is gone or that cannot be

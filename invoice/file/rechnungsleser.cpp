@@ -163,6 +163,10 @@ Versandaufteilung Rechnungsleser::VersandGelesen() const {
             double_versuch(MIT_KOMMA(DatenLesen[dateizeile::kVersandMwSt])).value_or(0)};
 }
 
+bool Rechnungsleser::NummerVorlaeufig() const {
+    return DatenLesen[dateizeile::kVorlaeufig] == kVorlaeufig;
+}
+
 void Rechnungsleser::UebrigesUebernehmen() {
     const std::string& nummer = DatenLesen[dateizeile::kNummer];
     form1_.Text_RNnr.Text = nummer == kNichtGesetzt ? std::string() : nummer;

@@ -33,6 +33,9 @@ public:
     /// Split of the shipping costs as the file holds it; zeros where it holds none.
     Versandaufteilung VersandGelesen() const;
 
+    /// Whether the file holds an unsaved invoice whose number may be another's by now.
+    bool NummerVorlaeufig() const;
+
     /// What is wrong with the file, if it is an invoice.
     const Befund& befund() const { return befund_; }
 

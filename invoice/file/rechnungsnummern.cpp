@@ -7,6 +7,7 @@
 
 #include <limits>
 #include <string>
+#include <utility>
 
 namespace quittika {
 
@@ -58,12 +59,12 @@ void Rechnungsnummern::RNNUMMERZUWEISEN() {
     NummerZeigen();
 }
 
-bool Rechnungsnummern::VomZaehler() const {
+bool Rechnungsnummern::IstVorlaeufig() const {
     return automatisch() && !zustand_.IstDateiDesPfads() && form1_.Text_RNnr.Text() == gezeigt_;
 }
 
 std::string Rechnungsnummern::NummerErneuern() {
-    if (!automatisch() || zustand_.IstDateiDesPfads() || form1_.Text_RNnr.Text() != Nummer()) {
+    if (!IstVorlaeufig()) {
         return {};
     }
     const std::string vorher = Nummer();
@@ -78,10 +79,27 @@ std::string Rechnungsnummern::NummerErneuern() {
     return meldung;
 }
 
-void Rechnungsnummern::NummerVerbrauchen() {
-    if (!automatisch()) {
-        return;
+std::optional<Dateisperre> Rechnungsnummern::Sperren() const {
+    constexpr std::chrono::seconds kGeduld{3}; // a program that holds it for longer has come to a stop
+    try {
+        return Dateisperre::NEHMEN(systempfad(verzeichnis_.pfad("\\.RN.txt.sperre")), kGeduld);
+    } catch (const Laufzeitfehler&) {
+        return std::nullopt; // a folder that takes no lock takes no counter either
     }
+}
+
+std::string Rechnungsnummern::NummerVerbrauchen() {
+    verbraucht_ = false;
+    if (!automatisch()) {
+        return {};
+    }
+    const auto sperre = Sperren();
+    std::string meldung = NummerErneuern();
+    ZaehlerHeben();
+    return meldung;
+}
+
+void Rechnungsnummern::ZaehlerHeben() {
     const Zaehlerstand stand = ZaehlerNachlesen();
     if (zaehler_ == std::numeric_limits<int>::max()) {
         form1_.Hinweise.melden("Der Zähler ist am Ende: die nächste Rechnung bekäme wieder die Nummer " +
@@ -89,9 +107,23 @@ void Rechnungsnummern::NummerVerbrauchen() {
         return;
     }
     ++zaehler_;
+    verbraucht_ = true;
     ZaehlerZeigen();
     LesbarkeitMelden(stand);
     ZaehlerSchreiben();
+}
+
+void Rechnungsnummern::NummerZurueckgeben() {
+    const auto sperre = Sperren();
+    const std::optional<int> geschrieben = ZAEHLERSTAND(verzeichnis_).wert;
+    if (!std::exchange(verbraucht_, false) || geschrieben > zaehler_) {
+        return;
+    }
+    --zaehler_;
+    ZaehlerZeigen();
+    if (geschrieben > zaehler_) {
+        ZaehlerSchreiben();
+    }
 }
 
 void Rechnungsnummern::Command_RNSTartwertSET_Click() {

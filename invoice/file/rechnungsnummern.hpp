@@ -2,6 +2,7 @@
 
 #include "invoice/form1.hpp"
 #include "invoice/rechnungszustand.hpp"
+#include "platform/dateisperre.hpp"
 #include "platform/dialogs.hpp"
 #include "platform/verzeichnis.hpp"
 #include "settings/frm_einstellungen.hpp"
@@ -32,8 +33,8 @@ public:
     /// Puts the next number into `Text_RNnr`; with numbering by hand a zero. Not an edit by the user.
     /// Automatic numbers follow the counter of another running program.
     void RNNUMMERZUWEISEN();
-    /// Whether the invoice in the window has its number from the counter and has not used it up.
-    bool VomZaehler() const;
+    /// Whether the invoice in hand shows a number that it has not used up yet.
+    bool IstVorlaeufig() const;
     /// Gives a new invoice another number where another program has used up its own since. Answers what to
     /// tell of it, which panel 3 says already; empty where the number stays.
     std::string NummerErneuern();
@@ -45,9 +46,12 @@ public:
     void NummerAuffrischen();
     /// The same, and the counter in the settings.
     void ZaehlerAuffrischen();
-    /// Uses up a number: raises the higher of the counter and the one in RN.txt and writes it, if numbering
-    /// is automatic.
-    void NummerVerbrauchen();
+    /// Uses up a number before its invoice is written, if numbering is automatic: raises the higher of the
+    /// counter and the one in RN.txt and writes it, while no other program can. A new invoice gets another
+    /// number where its own was used up meanwhile; what to tell of that is answered, as by `NummerErneuern`.
+    std::string NummerVerbrauchen();
+    /// The invoice was not written: its number is free again, unless another program has raised the counter.
+    void NummerZurueckgeben();
 
 private:
     bool automatisch() const { return einstellungen_.Check_RN_automatisch.ticked(); }
@@ -58,6 +62,8 @@ private:
     void NummerZeigen();
     void ZaehlerZeigen();
     void ZaehlerSchreiben();
+    void ZaehlerHeben();
+    std::optional<Dateisperre> Sperren() const;
 
     Form1& form1_;
     frm_einstellungen& einstellungen_;
@@ -65,7 +71,8 @@ private:
     const Programmverzeichnis& verzeichnis_;
     Dialogs& dialogs_;
     int zaehler_ = 1;
-    std::string gezeigt_; ///< the number that was put into `Text_RNnr` last
+    bool verbraucht_ = false; ///< by the invoice that is being written
+    std::string gezeigt_;     ///< the number that was put into `Text_RNnr` last
 };
 
 } // namespace quittika

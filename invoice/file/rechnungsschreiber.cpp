@@ -81,13 +81,27 @@ void Rechnungsschreiber::PositionenAnfuegen(Textpuffer& datei) const {
     }
 }
 
-bool Rechnungsschreiber::DateiSchreiben(const std::string& pfad) {
+Textpuffer Rechnungsschreiber::Dateitext(const std::string& gespeichert) const {
     Textpuffer datei;
     for (const std::string& zeile : DatenSchreiben.alle()) {
         datei.zeile(zeile);
     }
-    datei.zeile("Gespeichert am: " + datum_zeit_text(uhr_.now()));
+    datei.zeile(kGespeichertAm + gespeichert);
     PositionenAnfuegen(datei);
+    return datei;
+}
+
+std::string Rechnungsschreiber::Abbild(const std::string& gespeichert, bool vorlaeufig) {
+    DateiDatenSammeln();
+    Textpuffer datei = Dateitext(gespeichert);
+    if (vorlaeufig) {
+        datei.zeile(kVorlaeufig);
+    }
+    return datei.bytes();
+}
+
+bool Rechnungsschreiber::DateiSchreiben(const std::string& pfad) {
+    const Textpuffer datei = Dateitext(datum_zeit_text(uhr_.now()));
     stand_.vormerken(datei.bytes());
     if (!ablage_.Ablegen(pfad, datei)) {
         return false;

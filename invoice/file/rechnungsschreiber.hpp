@@ -29,11 +29,15 @@ public:
     /// new one is complete. Shows a message and answers false when that fails. Panel 3 tells why, or of
     /// characters that the file cannot hold, or where the old content of a file written in place lies.
     bool DateiSchreiben(const std::string& pfad);
+    /// The bytes of the present invoice's file, with this text in place of the time of saving. `vorlaeufig`:
+    /// a line behind them tells that the number is not used up yet.
+    std::string Abbild(const std::string& gespeichert, bool vorlaeufig);
     /// What panel 3 told of the file written last, a line each; empty for nothing.
     const std::string& Meldung() const { return ablage_.Meldung(); }
 
 private:
     void BesondereZeilen();
+    Textpuffer Dateitext(const std::string& gespeichert) const;
     void PositionenAnfuegen(Textpuffer& datei) const;
 
     Form1& form1_;

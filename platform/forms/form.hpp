@@ -100,6 +100,7 @@ public:
     Handler<bool&> QueryUnload{activity_}; ///< the argument set true keeps the form open
     Handler<> Unload{activity_};
     Handler<> Resize{activity_};
+    Handler<> Deactivate{activity_}; ///< the user has turned to another program
     Handler<const std::vector<std::string>&> FilesDropped{activity_}; ///< paths in the system's form, UTF-8
 
 protected:

@@ -18,6 +18,25 @@
 
 namespace quittika {
 
+QtDesktop::QtDesktop(BuildWindow build) : build_(build) {
+    QObject::connect(qApp, &QGuiApplication::applicationStateChanged, &context_,
+                     [this](Qt::ApplicationState state) {
+                         if (state != Qt::ApplicationActive && !standing_still()) {
+                             deactivated();
+                         }
+                     });
+}
+
+void QtDesktop::deactivated() {
+    const std::vector<FormWindow*> windows = windows_; // a handler may open another one
+    for (FormWindow* window : windows) {
+        if (std::find(windows_.begin(), windows_.end(), window) != windows_.end() &&
+            window->form().Deactivate) {
+            guarded(window->form(), [window] { window->form().Deactivate(); });
+        }
+    }
+}
+
 QtDesktop::~QtDesktop() {
     while (!windows_.empty()) {
         Form& form = windows_.back()->form();

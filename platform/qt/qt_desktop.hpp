@@ -25,7 +25,7 @@ class QtDesktop final : public Desktop {
 public:
     /// Makes the window of the form of that name; null if there is none.
     using BuildWindow = std::unique_ptr<QWidget> (*)(std::string_view form);
-    explicit QtDesktop(BuildWindow build = build_window) : build_(build) {}
+    explicit QtDesktop(BuildWindow build = build_window);
     ~QtDesktop() override;
 
     void adopt(Form& form) override;
@@ -92,6 +92,7 @@ public:
 private:
     FormWindow* find(const Form& form) const;
     void restore_place(Form& form) const;
+    void deactivated();
 
     BuildWindow build_;
     PaintTools tools_;

@@ -38,6 +38,9 @@ const std::map<std::string, Zeilen> kWege{
     {"Form_Helferlein", {"click form1.CMD_FORM_HELFERLEIN"}},
     {"Form_Helferlein_Bkg", {"click form1.CMD_FORM_HELFERLEIN_Bkg"}},
     {"Form_Notiz", {"click form1.Cmd_Notiz"}},
+    {"Form_Fassungen",
+     {"set form1.Text_Kunde_1 Eva", "click form1.m_speichern_direkt", "click form1.m_Fassungen",
+      "select Form_Fassungen.List_Fassungen 0"}},
     {"Form_Datensicherung", {"click form1.m_datensicherung"}},
     {"Form_Rueckspielen",
      {"click form1.m_datensicherung", "file @ORDNER@/s.zip", "click Form_Datensicherung.Command_Sichern",
@@ -48,6 +51,7 @@ const std::map<std::string, Zeilen> kWege{
 /// "%s" the page of six that it stands on.
 const std::pair<const char*, Zeilen> kVoraussetzungen[]{
     {"form1.m_eingabezeile", {"click form1.Text_Kunde_1"}},
+    {"form1.m_wiederholen", {"click form1.m_rueckgaengig"}},
     {"form1.m_Zeile_", {"select form1.List_DARSTELLUNG 1"}},
     {"form1.Command_AENDERN", {"select form1.List_DARSTELLUNG 1", "click form1.m_Zeile_aendern"}},
     {"form1.CMD_Seite1(0)", {"click form1.CMD_Seite1(1)"}},
@@ -89,6 +93,7 @@ const std::pair<const char*, Zeilen> kVoraussetzungen[]{
      {"click Form_Nummernpruefung.Command_Ordner", "set Form_VerzWahlAuftrag.Text_VerzWahl @ORDNER@",
       "click Form_VerzWahlAuftrag.Command_OK", "click Form_Nummernpruefung.Command_Pruefen",
       "select Form_Nummernpruefung.List_Befund 0"}},
+    {"Form_Fassungen.Command_Kopie", {"file @ORDNER@/k.qk8"}},
     {"Form_Nummernpruefung.Command_Speichern", {"click Form_Nummernpruefung.Command_Pruefen"}},
     {"Form_txt_Vorlagen.Command1_choose", {"click Form_txt_Vorlagen.Option%s"}}};
 

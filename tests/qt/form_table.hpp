@@ -13,6 +13,7 @@
 #include "print/form_druckvorschau.hpp"
 #include "print/form_lieferschein_opt.hpp"
 #include "safety/form_datensicherung.hpp"
+#include "safety/form_fassungen.hpp"
 #include "safety/form_nummernpruefung.hpp"
 #include "safety/form_rueckspielen.hpp"
 #include "settings/frm_einstellungen.hpp"
@@ -39,6 +40,7 @@ inline const std::vector<MakeForm> kForms{make<Form1>,
                                           make<frm_Programm>,
                                           make<Form_Lieferschein_opt>,
                                           make<Form_Druckvorschau>,
+                                          make<Form_Fassungen>,
                                           make<Form_Etp_Barcode>,
                                           make<Form2_PAKET_ETIKETT>,
                                           make<Form2_PAKETHRMS_ETIKETT>,
