@@ -11,12 +11,13 @@
 namespace quittika::test {
 namespace {
 
+bool ist_dialog(const QWidget* fenster) {
+    return fenster != nullptr && fenster->objectName() == "frm_Programm";
+}
+
 QWidget& dialogfenster() {
     const QWidgetList fenster = QApplication::topLevelWidgets();
-    const auto gefunden = std::find_if(fenster.begin(), fenster.end(), [](const QWidget* eines) {
-        return eines->objectName() == "frm_Programm";
-    });
-    return **gefunden;
+    return **std::find_if(fenster.begin(), fenster.end(), ist_dialog);
 }
 
 struct Schritt {
@@ -49,27 +50,28 @@ TEST(Programmfenster, TastenProbierenEinenStilUndDerResetBeendetSofort) {
     QColor grund;
     std::string frage;
     const auto immer = [] { return true; };
+    const auto dialog_offen = [] { return ist_dialog(QApplication::activeWindow()); };
+    const auto dialog_zu = [&] { return QApplication::activeWindow() == plattform.desktop().window(f); };
     const auto im_dialog = [] {
         const QWidget* eingabe = QApplication::focusWidget();
-        return eingabe != nullptr && eingabe->window()->objectName() == "frm_Programm";
+        return eingabe != nullptr && ist_dialog(eingabe->window());
     };
-    const auto im_hauptfenster = [&] { return plattform.desktop().window(f)->isActiveWindow(); };
     const auto frage_offen = [] {
         const QWidget* box = QApplication::activeModalWidget();
         return box != nullptr && box->isActiveWindow();
     };
     const std::vector<Schritt> schritte = {
-        {im_hauptfenster, [&] { f.m_Programmeinstellungen.Click(); }},
-        {im_dialog, [] { QTest::keyClick(&dialogfenster(), Qt::Key_S, Qt::AltModifier); }},
+        {dialog_zu, [&] { f.m_Programmeinstellungen.Click(); }},
+        {dialog_offen, [] { QTest::keyClick(&dialogfenster(), Qt::Key_S, Qt::AltModifier); }},
         {im_dialog, [] { QTest::keyClick(QApplication::focusWidget(), Qt::Key_Down); }},
         {immer, [&] { grund = plattform.desktop().window(f)->palette().color(QPalette::Window); }},
-        {im_dialog, [] { QTest::keyClick(&dialogfenster(), Qt::Key_Escape); }},
-        {im_hauptfenster,
+        {dialog_offen, [] { QTest::keyClick(&dialogfenster(), Qt::Key_Escape); }},
+        {dialog_zu,
          [&] {
              f.Text_Kunde_1.Text = "Kaiser"; // unsaved: nobody is asked
              f.m_Programmeinstellungen.Click();
          }},
-        {im_dialog, [] { dialogfenster().findChild<QAbstractButton*>("Command_delreg")->click(); }},
+        {dialog_offen, [] { dialogfenster().findChild<QAbstractButton*>("Command_delreg")->click(); }},
         {frage_offen,
          [&] {
              QWidget& box = *QApplication::activeModalWidget();
