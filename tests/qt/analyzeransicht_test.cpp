@@ -24,7 +24,7 @@ protected:
     Ansichtsfenster() {
         plattform.desktop().adopt(form);
         PROBE_EINTRAGEN(form, kProbenrechnungen);
-        ansicht.NEUE_DATEN();
+        ansicht.NEUE_DATEN({});
         form.SSTab_Ergebnis.Tab = 1;
         form.Show();
         fenster = plattform.desktop().window(form);
