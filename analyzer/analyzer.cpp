@@ -92,13 +92,14 @@ void Analyzer::Command_Quellordner_Click() {
     if (auto gewaehlt = VERZEICHNIS_WAEHLEN(desktop_, pfad_)) {
         pfad_ = std::move(*gewaehlt);
         PfadZeigen();
+        const bool anderer = form_.List_ANSICHT.ListCount() > 0 && pfad_ != gelesener_;
+        melden(anderer ? "Die Tabelle zeigt noch die Rechnungen in " + gelesener_ : "");
         PfadMerken();
     }
 }
 
 void Analyzer::PfadMerken() {
     constexpr const char* kNurJetzt = "Das Verzeichnis gilt nur, bis dieses Fenster geschlossen wird: ";
-    melden("");
     try {
         DATEI_SCHREIBEN(verzeichnis_.pfad(kQuelle), pfad_);
     } catch (const Laufzeitfehler& fehler) {
@@ -157,7 +158,8 @@ void Analyzer::Leeren() {
     }
     StandLeeren();
     AlteVersionGefunden = false;
-    ansicht_.NEUE_DATEN();
+    gelesener_ = pfad_;
+    ansicht_.NEUE_DATEN({gelesener_});
     melden("");
 }
 
@@ -190,7 +192,7 @@ void Analyzer::Dateien_suchen(const std::string& ordner, std::string_view muster
 Rechnungsliste Analyzer::Lesen() {
     Rechnungsliste liste;
     const std::unique_ptr<ProgressDisplay> fortschritt = progress_.begin("Rechnungen werden gelesen");
-    liste.Dateien_einlesen(systempfad(pfad_), form_.List_dateien.items(), *fortschritt);
+    liste.Dateien_einlesen(systempfad(gelesener_), form_.List_dateien.items(), *fortschritt);
     return liste;
 }
 
@@ -201,7 +203,7 @@ void Analyzer::Uebernehmen(Rechnungsliste&& liste) {
     }
     form_.List_dateien.assign(std::move(liste.dateien));
     form_.List_ANSICHT.assign(std::move(liste.zeilen));
-    ansicht_.NEUE_DATEN();
+    ansicht_.NEUE_DATEN({gelesener_, !liste.abgebrochen});
 }
 
 void Analyzer::StandZeigen(const Rechnungsliste& liste, std::size_t dateien) {
@@ -220,18 +222,18 @@ void Analyzer::AbbruchZeigen(const Rechnungsliste& liste, std::size_t dateien) {
     form_.List_Zusammenfassung.assign(
         {"Die Analyse wurde abgebrochen und ist unvollständig.",
          "Gelesen wurden " + std::to_string(liste.dateien.size() + liste.ausgelassen.size()) + " von " +
-             std::to_string(dateien) + " Rechnungsdateien in Verzeichnis:  (" + pfad_ + ")",
+             std::to_string(dateien) + " Rechnungsdateien in Verzeichnis:  (" + gelesener_ + ")",
          "Summen gibt es erst, wenn alle gelesen sind: Bitte starten Sie die Analyse noch einmal."});
 }
 
 void Analyzer::Zeile_auswaehlen(const ListBox& liste) {
     const int zeile = liste.ListIndex();
+    for (ListBox& spalte : form_.List_rohdata) {
+        spalte.ListIndex = zeile;
+    }
     if (zeile < 0) {
         StandLeeren();
         return;
-    }
-    for (ListBox& spalte : form_.List_rohdata) {
-        spalte.ListIndex = zeile;
     }
     form_.List_dateien.ListIndex = zeile;
     form_.List_ANSICHT.ListIndex = zeile;
@@ -253,7 +255,7 @@ void Analyzer::CMD_OPEN_markierte_RN_Click() {
     }
     // The mark of a path is read as such only where no file has it in its name.
     const char* trenner = name.find('\\') == std::string::npos ? "\\" : "/";
-    oeffneRN_(pfad_ + trenner + name);
+    oeffneRN_(gelesener_ + trenner + name);
 }
 
 void Analyzer::BERECHNUNG_GESAMTWERTE() {
@@ -263,7 +265,7 @@ void Analyzer::BERECHNUNG_GESAMTWERTE() {
     };
     try {
         form_.List_Zusammenfassung.assign(
-            ZUSAMMENFASSUNG(pfad_, clock_.now(), AlteVersionGefunden,
+            ZUSAMMENFASSUNG(gelesener_, clock_.now(), AlteVersionGefunden,
                             GESAMTWERTE(spalte(rohdatum::kBezahlt), spalte(rohdatum::kNetto),
                                         spalte(rohdatum::kMwSt), spalte(rohdatum::kBrutto))));
     } catch (const Laufzeitfehler& fehler) {
@@ -278,7 +280,7 @@ void Analyzer::cmd_ErgebnisSpeichern_Click() {
     const std::string pfad = verzeichnis_.pfad(kBericht);
     const Textpuffer bericht = ANALYSEBERICHT(form_);
     for (ListBox* liste : {&form_.List_Zusammenfassung, &form_.List_ANSICHT}) {
-        liste->ListIndex = liste->ListCount() - 1;
+        liste->ListIndex = liste->item_in(liste->shown_count() - 1);
     }
     try {
         datei_ersetzen(pfad, bericht.bytes());

@@ -62,7 +62,8 @@ private:
     Progress& progress_;
     Rechnungsoeffner oeffneRN_;
     Analyzeransicht ansicht_;
-    std::string pfad_; ///< folder of the invoices; "FEHLER" or empty for none
+    std::string pfad_;      ///< folder chosen last; "FEHLER" or empty for none
+    std::string gelesener_; ///< folder of the invoices in the lists
     bool AlteVersionGefunden = false;
 };
 

@@ -21,6 +21,7 @@ namespace {
 constexpr const char* kPdf = ".pdf";
 constexpr const char* kPng = ".png";
 constexpr const char* kCsv = ".csv";
+constexpr const char* kUnvollstaendig = "Die Analyse wurde abgebrochen: es fehlen Rechnungen.";
 
 Rechnungstabelle daten(const Form_Analyzer& form) {
     return Rechnungstabelle(form.List_rohdata);
@@ -75,7 +76,8 @@ Analyzeransicht::Analyzeransicht(Form_Analyzer& form, Printing& printing, Dialog
     pfeile_zeigen();
 }
 
-void Analyzeransicht::NEUE_DATEN() {
+void Analyzeransicht::NEUE_DATEN(Herkunft herkunft) {
+    herkunft_ = std::move(herkunft);
     anzahl_ = daten(form_).anzahl();
     suchtexte_.clear();
     diagramme_alt_ = true;
@@ -98,10 +100,12 @@ void Analyzeransicht::diagramme_fuellen() {
     stufen_ = NACH_MAHNSTUFEN(daten(form_));
     form_.Diagramm_Monate.show(monatsdiagramm(monate_.saeulen));
     form_.Diagramm_Mahnstufen.show(stufendiagramm(stufen_));
-    form_.Label_ohne_Datum.Caption =
-        monate_.ohne_datum == 0
-            ? ""
-            : rechnungen(monate_.ohne_datum) + " ohne lesbares Datum: in der letzten Säule, \"ohne Datum\".";
+    std::string fehlt = herkunft_.vollstaendig ? "" : kUnvollstaendig;
+    if (monate_.ohne_datum > 0) {
+        fehlt += (fehlt.empty() ? "" : "  ") + rechnungen(monate_.ohne_datum) +
+                 " ohne lesbares Datum: in der letzten Säule, \"ohne Datum\".";
+    }
+    form_.Label_ohne_Datum.Caption = fehlt;
 }
 
 void Analyzeransicht::Alle_zeigen() {
@@ -250,7 +254,8 @@ void Analyzeransicht::speichern(const FileDialog& dialog, const Schreiben& schre
 }
 
 void Analyzeransicht::CMD_Unbezahlte_CSV_Click() {
-    FileDialog dialog{"CSV-Dateien (*.csv)|*.csv", std::string("Unbezahlte Rechnungen") + kCsv,
+    const std::string name = herkunft_.vollstaendig ? "" : " (unvollständig)";
+    FileDialog dialog{"CSV-Dateien (*.csv)|*.csv", "Unbezahlte Rechnungen" + name + kCsv,
                       "Unbezahlte Rechnungen speichern"};
     dialog.asks_before_replacing = false;
     speichern(dialog, [this](const std::string& gewaehlt) {
@@ -262,6 +267,7 @@ void Analyzeransicht::CMD_Unbezahlte_CSV_Click() {
         const Csvinhalt inhalt = UNBEZAHLTE_CSV(daten(form_), form_.List_dateien.items(), satz);
         datei_ersetzen(pfad, inhalt.bytes);
         melden(rechnungen(inhalt.rechnungen) + " gespeichert: " + pfad +
+               (herkunft_.vollstaendig ? "" : std::string("  ") + kUnvollstaendig) +
                (inhalt.ersetzt == 0 ? ""
                                     : "  (" + std::to_string(inhalt.ersetzt) +
                                           " Zeichen kennt Windows-1252 nicht; in UTF-8 bleiben sie.)"));
@@ -278,7 +284,7 @@ void Analyzeransicht::CMD_Diagramm_speichern_Click() {
         if (datei_vorhanden(pfad) && !UEBERSCHREIBEN_FRAGEN(pfad, dialogs_)) {
             return;
         }
-        printing_.save_charts({"Rechnungen in " + form_.Label_Pfad.Caption(),
+        printing_.save_charts({"Rechnungen in " + herkunft_.ordner,
                                form_.Label_ohne_Datum.Caption(),
                                {&form_.Diagramm_Monate, &form_.Diagramm_Mahnstufen}},
                               pfad);

@@ -18,8 +18,13 @@ class Analyzeransicht {
 public:
     Analyzeransicht(Form_Analyzer& form, Printing& printing, Dialogs& dialogs);
 
+    /// Where the invoices in the lists come from.
+    struct Herkunft {
+        std::string ordner;
+        bool vollstaendig = true; ///< none of its invoices is missing because the user stopped the analysis
+    };
     /// Shows what the lists hold now: all of it, in the order of the files.
-    void NEUE_DATEN();
+    void NEUE_DATEN(Herkunft herkunft);
 
 private:
     void Alle_zeigen();
@@ -45,6 +50,7 @@ private:
     Form_Analyzer& form_;
     Printing& printing_;
     Dialogs& dialogs_;
+    Herkunft herkunft_;
     int anzahl_ = 0;                     ///< invoices that the lists hold
     std::vector<std::string> suchtexte_; ///< made for the first search
     Monatsbild monate_;

@@ -91,7 +91,7 @@ std::string SPALTE_FORMAT(int art, std::string_view text, std::size_t breite) {
 }
 
 std::string TABELLENZEILE(const Rohdaten& werte) {
-    constexpr std::size_t kBreite = 128;
+    constexpr std::size_t kBreite = 135; // bytes: 128 characters, a few of them umlauts
     const std::string nummer = werte[rohdatum::kNummer] + werte[rohdatum::kNummerzusatz];
     std::string zeile;
     zeile.reserve(kBreite);

@@ -157,8 +157,12 @@ void ListBox::Clear() {
 
 void ListBox::assign(std::vector<std::string> items, int first) {
     require(first >= 0 && first <= ListCount(), fehler::kUngueltigerAufruf);
-    items_.resize(static_cast<std::size_t>(first));
-    std::move(items.begin(), items.end(), std::back_inserter(items_));
+    if (first == 0) {
+        items_ = std::move(items); // no room for more than it holds
+    } else {
+        items_.resize(static_cast<std::size_t>(first));
+        std::move(items.begin(), items.end(), std::back_inserter(items_));
+    }
     if (ListIndex() >= ListCount()) {
         ListIndex.adopt(-1);
     }

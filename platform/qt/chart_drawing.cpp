@@ -5,6 +5,7 @@
 
 #include <QBarSet>
 #include <QChart>
+#include <QFontInfo>
 #include <QFontMetricsF>
 #include <QGraphicsSimpleTextItem>
 #include <QLegend>
@@ -87,6 +88,7 @@ ChartDrawing::ChartDrawing(const Chart& chart, QChart& drawing) : chart_(chart),
 void ChartDrawing::clear() {
     drawing_.removeAllSeries();
     for (QAbstractAxis* axis : drawing_.axes()) {
+        axis->hide(); // its parts outlive it until the event loop comes round
         drawing_.removeAxis(axis);
         delete axis;
     }
@@ -191,9 +193,10 @@ void ChartDrawing::name_categories() {
     const auto count = static_cast<int>(categories.size());
     const QRectF plot = drawing_.plotArea();
     const double room = plot.width() / std::max(count, 1);
-    const int step = step_for(widest_name() / std::max(room, 1.0));
+    const QFont font = name_font(room);
+    const int step = font != font_ ? 1 : step_for(widest_name() / std::max(room, 1.0));
     for (int i = (count - 1) % step; i >= 0 && i < count; i += step) {
-        add_name(categories[static_cast<std::size_t>(i)], plot.left() + (i + kHalf) * room);
+        add_name(categories[static_cast<std::size_t>(i)], font, plot.left() + (i + kHalf) * room);
     }
 }
 
@@ -208,14 +211,25 @@ double ChartDrawing::widest_name() const {
     return widest + kGap;
 }
 
-void ChartDrawing::add_name(const std::string& category, double middle) {
+QFont ChartDrawing::name_font(double room) const {
+    constexpr int kSmallest = 11; // pixels
+    const int usual = QFontInfo(font_).pixelSize();
+    const int fitting = static_cast<int>(usual * room / widest_name());
+    QFont font = font_;
+    if (fitting >= kSmallest && fitting < usual) {
+        font.setPixelSize(fitting);
+    }
+    return font;
+}
+
+void ChartDrawing::add_name(const std::string& category, const QFont& font, double middle) {
     double top = drawing_.plotArea().bottom() + kNameGap;
     for (const QString& word : words_of(category)) {
         auto* name = new QGraphicsSimpleTextItem(word, &drawing_);
-        name->setFont(font_);
+        name->setFont(font);
         name->setBrush(text_);
         name->setPos(middle - name->boundingRect().width() / 2, top);
-        top += QFontMetricsF(font_).height();
+        top += QFontMetricsF(font).height();
         names_.append(name);
     }
 }

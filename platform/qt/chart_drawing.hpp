@@ -40,8 +40,10 @@ private:
     void dress_bars() const;
     /// In pixels, with the gap to the next one.
     double widest_name() const;
+    /// The font in which each category can be named, if it needs not be too small; else the chart's own.
+    QFont name_font(double room) const;
     /// Puts a name beneath the columns, its words one below the other.
-    void add_name(const std::string& category, double middle);
+    void add_name(const std::string& category, const QFont& font, double middle);
 
     const Chart& chart_;
     QChart& drawing_;

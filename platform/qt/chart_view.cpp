@@ -84,25 +84,37 @@ void ChartBarsView::tell(bool inside, int bar) {
     QToolTip::showText(QCursor::pos(), inside ? tool_tip(control_.bar_text(bar)) : QString(), &widget_);
 }
 
-int ChartBarsView::next_bar(int categories, int series) const {
-    ChartBar at = control_.bar(control_.ListIndex());
-    const ChartContent& content = control_.content();
-    const auto last_category = static_cast<int>(content.categories.size()) - 1;
-    const auto last_series = static_cast<int>(content.series.size()) - 1;
-    if (at.category < 0) { // nothing is marked yet: the first one, or the last
-        int bar = categories < 0 ? control_.ListCount() - 1 : 0;
-        while (bar >= 0 && bar < control_.ListCount() && control_.cents(bar) == 0) {
-            bar += categories < 0 ? -1 : 1;
+int ChartBarsView::bar_in(int category, int series) const {
+    const int wanted = control_.index_of({category, series});
+    if (control_.cents(wanted) != 0) {
+        return wanted;
+    }
+    const auto count = static_cast<int>(control_.content().series.size());
+    for (int bar = category * count; bar < (category + 1) * count; ++bar) {
+        if (control_.cents(bar) != 0) {
+            return bar;
         }
-        return bar < control_.ListCount() ? bar : -1;
+    }
+    return -1;
+}
+
+int ChartBarsView::next_bar(int categories, int series) const {
+    const auto category_count = static_cast<int>(control_.content().categories.size());
+    const auto series_count = static_cast<int>(control_.content().series.size());
+    ChartBar at = control_.bar(control_.ListIndex());
+    if (at.category < 0) { // nothing is marked yet: the first one, or the last
+        at = {categories < 0 ? category_count : -1, 0};
+        categories = categories < 0 ? -1 : 1;
+        series = 0;
     }
     for (;;) {
         at = {at.category + categories, at.series + series};
-        if (at.category < 0 || at.category > last_category || at.series < 0 || at.series > last_series) {
+        if (at.category < 0 || at.category >= category_count || at.series < 0 || at.series >= series_count) {
             return -1;
         }
-        if (control_.cents(control_.index_of(at)) != 0) {
-            return control_.index_of(at);
+        const int bar = categories != 0 ? bar_in(at.category, at.series) : control_.index_of(at);
+        if (control_.cents(bar) != 0) {
+            return bar;
         }
     }
 }

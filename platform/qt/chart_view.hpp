@@ -27,8 +27,11 @@ private:
     void outline(bool focused);
     void take(int bar);
     void tell(bool inside, int bar);
-    /// The bar with an amount that lies next in that direction; -1 if there is none.
+    /// The bar with an amount that lies next in that direction, in another category one of another series if
+    /// need be; -1 if there is none.
     int next_bar(int categories, int series) const;
+    /// The bar with an amount in that category, of that series if there is one; -1 if there is none.
+    int bar_in(int category, int series) const;
 
     ChartDrawing drawing_;
     bool dressing_ = false;

@@ -8,6 +8,7 @@
 #include <QHeaderView>
 #include <QItemSelectionModel>
 
+#include <string>
 #include <utility>
 
 namespace quittika {
@@ -24,7 +25,14 @@ bool is_opened(const QEvent& event) {
 DriveView::DriveView(DriveListBox& control, QComboBox& widget) : TypedView(control, widget) {
     widget.setPlaceholderText(QStringLiteral("Laufwerk wählen"));
     connect(&widget, &QComboBox::activated, this, [this](int row) {
-        guarded(control_.form(), [&] { control_.Path = path_from_qt(widget_.itemData(row).toString()); });
+        guarded(control_.form(), [&] {
+            const std::string path = path_from_qt(widget_.itemData(row).toString());
+            if (path == control_.Path()) { // chosen once more: back to where its tree begins
+                control_.Change();
+            } else {
+                control_.Path = path;
+            }
+        });
     });
 }
 

@@ -14,9 +14,10 @@ namespace lookup {
 Form& form(const ScriptDesktop& desktop, std::string_view name);
 /// `<form>.<control>`, with the index in parentheses for an element of a control array.
 Control& control(const ScriptDesktop& desktop, std::string_view name);
-/// The value of `<form>.<control>`, `<form>.<control>.<Property>` or `<form>.<Property>`.
+/// The value of `<form>.<control>`, `<form>.<control>.<Property>` or `<form>.<Property>`. `Shown` of a list:
+/// the indices of the items that the user sees, from top to bottom. A chart's value is its marked bar.
 std::string value(const ScriptDesktop& desktop, std::string_view name);
-/// The items of a list or combo box.
+/// The items of a list or combo box, the bars of a chart.
 std::vector<std::string> items(const ScriptDesktop& desktop, std::string_view name);
 
 /// Throws unless a user could get at the window.

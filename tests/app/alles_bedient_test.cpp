@@ -47,6 +47,11 @@ const std::map<std::string, Zeilen> kWege{
       "click Form_Datensicherung.Command_Schliessen", "file @ORDNER@/s.zip", "click form1.m_zurueckspielen"}},
     {"Form_Nummernpruefung", {"click form1.m_nummern_pruefen"}}};
 
+/// The invoices of the program's folder, read by the analyzer.
+const Zeilen kAnalyse{"click Form_Analyzer.Command_Quellordner",
+                      "set Form_VerzWahlAuftrag.Text_VerzWahl @ORDNER@",
+                      "click Form_VerzWahlAuftrag.Command_OK", "click Form_Analyzer.CMD_START_ANALYSE"};
+
 /// What has to be done before a command can do anything, by the beginning of its name. "%n" is its index,
 /// "%s" the page of six that it stands on.
 const std::pair<const char*, Zeilen> kVoraussetzungen[]{
@@ -65,6 +70,9 @@ const std::pair<const char*, Zeilen> kVoraussetzungen[]{
     {"Form_Artikelverwaltung.Command_weitersuchen", {"type Form_Artikelverwaltung.Text_suchen e"}},
     {"Form_Artikelverwaltung.Command_Artikelhinz", {"click Form_Artikelverwaltung.Command_neuerArtikel"}},
     {"Form_Artikelverwaltung.Command_ART", {"click Form_Artikelverwaltung.Command_neuerArtikel"}},
+    {"Form_Analyzer.CMD_Alle_zeigen", {"set Form_Analyzer.Text_suchen e"}},
+    {"Form_Analyzer.CMD_Unbezahlte_CSV", kAnalyse},
+    {"Form_Analyzer.CMD_Diagramm_speichern", kAnalyse},
     {"FORM_DESIGNER.CMD_SET_LOGO",
      {"mouse FORM_DESIGNER.Image_LOGO down 2 9 9", "set FORM_DESIGNER.Text_Logo_X 30"}},
     {"FORM_DESIGNER.CMD_SET_Wasserz",

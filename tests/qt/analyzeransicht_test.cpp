@@ -24,7 +24,7 @@ protected:
     Ansichtsfenster() {
         plattform.desktop().adopt(form);
         PROBE_EINTRAGEN(form, kProbenrechnungen);
-        ansicht.NEUE_DATEN();
+        ansicht.NEUE_DATEN({});
         form.SSTab_Ergebnis.Tab = 1;
         form.Show();
         fenster = plattform.desktop().window(form);
@@ -76,6 +76,9 @@ TEST_F(Ansichtsfenster, EinKlickAufDenBalkenZeigtSeineRechnungen) {
     EXPECT_EQ(form.Diagramm_Monate.main_value(), "01.2009, unbezahlt: 1.190,00") << "past an empty month";
     QTest::keyClick(&widget<QChartView>("Diagramm_Monate"), Qt::Key_Escape);
     EXPECT_EQ(gezeigt().size(), 6);
+    klicken(0, 200);
+    QTest::keyClick(&widget<QChartView>("Diagramm_Monate"), Qt::Key_Right);
+    EXPECT_EQ(form.Diagramm_Monate.main_value(), "01.2009, unbezahlt: 1.190,00") << "nothing is paid there";
 }
 
 TEST_F(Ansichtsfenster, KoepfeSortierenMitMausUndTastatur) {
@@ -104,7 +107,8 @@ TEST_F(Ansichtsfenster, KoepfeSortierenMitMausUndTastatur) {
 
 TEST_F(Ansichtsfenster, DieSucheMitDerTastatur) {
     auto& feld = widget<QLineEdit>("Text_suchen");
-    feld.setFocus();
+    QTest::keyClick(fenster, Qt::Key_F, Qt::ControlModifier);
+    ASSERT_EQ(QApplication::focusWidget(), &feld);
     QTest::keyClicks(&feld, "zander");
     EXPECT_EQ(gezeigt(), QStringList{"RN-100"});
     QTest::keyClick(&feld, Qt::Key_Escape);

@@ -43,5 +43,33 @@ TEST(Analyzerfenster, DieKoepfeStehenZeichenFuerZeichenUeberDenZeilen) {
     }
 }
 
+TEST(Analyzerfenster, DieDateinamenRollenMitDerTabelle) {
+    QtDesktop desktop;
+    Form_Analyzer form;
+    desktop.adopt(form);
+    form.List_ANSICHT.assign(std::vector<std::string>(100, "x"));
+    form.List_dateien.assign(std::vector<std::string>(100, "x.qk8"));
+    form.Show();
+    QWidget& window = *desktop.window(form);
+    auto& table = *window.findChild<ColumnList*>("List_ANSICHT")->verticalScrollBar();
+    auto& names = *window.findChild<ColumnList*>("List_dateien")->verticalScrollBar();
+    table.setValue(40);
+    form.List_dateien.Visible = true;
+    QCoreApplication::processEvents();
+    EXPECT_EQ(names.value(), 40) << "shown beside a table that has been scrolled";
+    table.setValue(7);
+    EXPECT_EQ(names.value(), 7);
+    names.setValue(50);
+    EXPECT_EQ(table.value(), 50);
+    form.List_ANSICHT.show_rows({5, 3});
+    form.List_dateien.show_rows({5, 3});
+    form.List_ANSICHT.show_all();
+    form.List_dateien.show_all();
+    form.List_ANSICHT.ListIndex = 99;
+    form.List_dateien.ListIndex = 99;
+    QCoreApplication::processEvents();
+    EXPECT_EQ(names.value(), table.value());
+}
+
 } // namespace
 } // namespace quittika::test

@@ -49,6 +49,10 @@ TEST(DirectoryLists, AreReadAnewAtEachOpeningAndKeepTheChoice) {
     EXPECT_EQ(form.Drive1.Path(), "/") << "passed by";
     emit drives.activated(there - 1);
     EXPECT_EQ(form.Drive1.Path(), LAUFWERKE().back().pfad);
+    bool heard = false;
+    form.Drive1.Change = [&heard] { heard = true; };
+    emit drives.activated(there - 1);
+    EXPECT_TRUE(heard) << "chosen once more, it leads back to its root";
     const auto& model = *tree.model();
     ASSERT_TRUE(QTest::qWaitFor([&] { return model.rowCount(tree.currentIndex()) == 1; }));
     tree.setCurrentIndex(model.index(0, 0, tree.currentIndex()));

@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QAction>
 #include <QApplication>
 #include <QKeyEvent>
 #include <QWidget>
@@ -50,6 +51,10 @@ TEST_P(DesignTest, F1AsksForHelpWhereverTheFocusIs) {
             QApplication::sendEvent(place, &press);
             EXPECT_EQ(asked, std::vector<const Form*>{form.get()}) << place->objectName().toStdString();
         }
+    }
+    for (const QAction* action : window.findChildren<QAction*>()) { // it would be faster
+        const bool taken = action->shortcut() == QKeySequence(Qt::Key_F1);
+        EXPECT_TRUE(!taken || action->objectName() == "m_Hilfe_Fenster") << action->text().toStdString();
     }
 }
 

@@ -9,10 +9,27 @@
 
 namespace quittika {
 
+namespace {
+
+constexpr double kBaseline = 1.5; // pixels of the line beneath the arrow
+
+/// Height of the strip beneath the texts.
+int strip(const QFontMetrics& font) {
+    return font.height() / 2;
+}
+
+} // namespace
+
 ColumnHead::ColumnHead(QWidget* parent) : QAbstractButton(parent) {
     setAttribute(Qt::WA_Hover);
     setFocusPolicy(Qt::StrongFocus);
     setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Expanding);
+}
+
+QSize ColumnHead::sizeHint() const {
+    constexpr int kLines = 2;
+    constexpr int kGap = 2; // pixels behind each line
+    return {0, kLines * (fontMetrics().height() + kGap) + strip(fontMetrics())};
 }
 
 void ColumnHead::paintEvent(QPaintEvent* /*event*/) {
@@ -25,18 +42,17 @@ void ColumnHead::paintEvent(QPaintEvent* /*event*/) {
         painter.fillRect(rect(), QColor(ink.red(), ink.green(), ink.blue(), isDown() ? kPressed : kTinge));
     }
     if (!text().isEmpty()) {
-        constexpr double kLine = 1.5;
-        constexpr double kArrow = 5; // high, and half as broad again on each side
-        const double base = height() - kLine;
-        painter.fillRect(QRectF(0, base, width(), kLine), ink);
+        const double arrow = strip(fontMetrics()) - 2; // high, and as broad on each side
+        const double base = height() - kBaseline;
+        painter.fillRect(QRectF(0, base, width(), kBaseline), ink);
         const bool upwards = text() == QStringLiteral("▲");
-        const double top = base - kArrow;
+        const double top = base - arrow;
         const double middle = width() / 2.0;
         painter.setPen(Qt::NoPen);
         painter.setBrush(ink);
         painter.drawPolygon(QPolygonF({{middle, upwards ? top : base},
-                                       {middle - kArrow, upwards ? base : top},
-                                       {middle + kArrow, upwards ? base : top}}));
+                                       {middle - arrow, upwards ? base : top},
+                                       {middle + arrow, upwards ? base : top}}));
     }
     if (hasFocus()) {
         painter.setRenderHint(QPainter::Antialiasing, false);

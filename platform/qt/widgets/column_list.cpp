@@ -6,6 +6,7 @@
 #include <QFontMetrics>
 #include <QHelpEvent>
 #include <QPainter>
+#include <QScopedValueRollback>
 #include <QScrollBar>
 #include <QStyledItemDelegate>
 #include <QToolTip>
@@ -272,6 +273,35 @@ bool ColumnList::viewportEvent(QEvent* event) {
 void ColumnList::resizeEvent(QResizeEvent* event) {
     QListView::resizeEvent(event);
     arrange();
+}
+
+void ColumnList::showEvent(QShowEvent* event) {
+    QListView::showEvent(event);
+    find_leader();
+    follow();
+}
+
+void ColumnList::find_leader() {
+    if (leader_ != nullptr || follows_.isEmpty()) {
+        return;
+    }
+    leader_ = window()->findChild<ColumnList*>(follows_);
+    if (leader_ != nullptr) {
+        connect(leader_->verticalScrollBar(), &QScrollBar::valueChanged, this, &ColumnList::follow);
+        connect(verticalScrollBar(), &QScrollBar::rangeChanged, this, &ColumnList::follow);
+        connect(verticalScrollBar(), &QScrollBar::valueChanged, this, [this](int row) {
+            if (!following_ && leader_ != nullptr && isVisible()) {
+                leader_->verticalScrollBar()->setValue(row);
+            }
+        });
+    }
+}
+
+void ColumnList::follow() {
+    if (leader_ != nullptr) {
+        const QScopedValueRollback<bool> here(following_, true);
+        verticalScrollBar()->setValue(leader_->verticalScrollBar()->value());
+    }
 }
 
 } // namespace quittika

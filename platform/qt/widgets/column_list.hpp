@@ -18,10 +18,14 @@ class ColumnRow;
 ///
 /// Columns of the kind "t" are counted characters of rows that have their columns in their text: such rows
 /// are drawn as they are, as wide as the longest one, and can be scrolled.
+///
+/// `follows` is the object name of a list in the same window whose rows stand beside this one's: both scroll
+/// together.
 class ColumnList : public QListView {
     Q_OBJECT
     Q_PROPERTY(QString columns READ columns WRITE setColumns)
     Q_PROPERTY(QString separator READ separator WRITE setSeparator)
+    Q_PROPERTY(QString follows READ follows WRITE setFollows)
 public:
     static constexpr int kColumnTexts = Qt::UserRole;    ///< QStringList
     static constexpr int kLongestRow = Qt::UserRole + 1; ///< characters, the same for each row
@@ -39,6 +43,8 @@ public:
     void setColumns(const QString& columns);
     QString separator() const { return separator_; }
     void setSeparator(const QString& separator) { separator_ = separator; }
+    QString follows() const { return follows_; }
+    void setFollows(const QString& list) { follows_ = list; }
     /// Where the texts of each column come from.
     QStringList sources() const;
     Span span(int column) const;
@@ -57,6 +63,7 @@ protected:
     bool event(QEvent* event) override;
     bool viewportEvent(QEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
+    void showEvent(QShowEvent* event) override;
 
 private:
     class Delegate;
@@ -72,6 +79,8 @@ private:
     bool columns_in_text() const { return !columns_.isEmpty() && columns_.front().in_text; }
     void arrange_text();
     void arrange_columns();
+    void find_leader();
+    void follow();
     /// Pixels that so many characters take.
     qreal text_width(int characters) const;
     int needed_width(int column) const;
@@ -86,6 +95,9 @@ private:
 
     QString written_;
     QString separator_;
+    QString follows_;
+    QPointer<ColumnList> leader_; ///< the list of that name, once this one has been seen
+    bool following_ = false;
     QList<Column> columns_;
     QList<Span> spans_;
     QList<QPointer<ColumnRow>> rows_;
