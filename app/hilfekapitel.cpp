@@ -22,7 +22,7 @@ constexpr Hilfekapitel kKapitel[] = {
     {"Form_Analyzer", "analyzer"},         {"Form_VerzWahlAuftrag", "analyzer"},
     {"Form_txt_Vorlagen", "textvorlagen"}, {"Form_Helferlein", "helfer"},
     {"Form_Helferlein_Bkg", "helfer"},     {"Form_Notiz", "notiz"},
-    {"Form_ueber_QUITTIKA", "version"},
+    {"Form_ueber_QUITTIKA", "version"},    {"Form_ERechnung", "e-rechnung"},
 };
 
 } // namespace

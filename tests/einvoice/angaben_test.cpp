@@ -140,7 +140,7 @@ TEST(GiroCode, SagtWasDieRechnungSagt) {
         u.verwendung.insert(0, "😀");
     }
     EXPECT_LE(GIROCODE_TEXT(u).size(), 331U);
-    const Codebild bild = QR_CODE(GIROCODE_TEXT(u));
+    const SquareGrid bild = QR_CODE(GIROCODE_TEXT(u));
     EXPECT_LE(bild.seite, 69) << "version 13 at most";
     EXPECT_TRUE(bild.ist_dunkel(0, 0) && bild.ist_dunkel(bild.seite - 1, 0) &&
                 bild.ist_dunkel(0, bild.seite - 1));

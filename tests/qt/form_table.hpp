@@ -6,6 +6,7 @@
 #include "app/form_ueber_quittika.hpp"
 #include "barcode/form_etp_barcode.hpp"
 #include "designer/form_designer.hpp"
+#include "einvoice/form_e_rechnung.hpp"
 #include "invoice/form1.hpp"
 #include "masterdata/form_artikelverwaltung.hpp"
 #include "masterdata/form_kundenverwaltung.hpp"
@@ -50,6 +51,7 @@ inline const std::vector<MakeForm> kForms{make<Form1>,
                                           make<Form_Helferlein_Bkg>,
                                           make<Form_Notiz>,
                                           make<Form_Analyzer>,
-                                          make<Form_VerzWahlAuftrag>};
+                                          make<Form_VerzWahlAuftrag>,
+                                          make<Form_ERechnung>};
 
 } // namespace quittika::test
