@@ -1,10 +1,15 @@
 #include "einvoice/befunde.hpp"
 
+#include "platform/text.hpp"
+
 #include <algorithm>
 
 namespace quittika {
 
 namespace {
+
+constexpr std::size_t kZeile = 100; // characters of a line of the list
+constexpr std::size_t kEinzug = 4;  // of those that go on
 
 int rang(const Mangelbefund& befund) {
     return befund.zugferd && befund.xrechnung ? 0 : befund.zugferd || befund.xrechnung ? 1 : 2;
@@ -32,12 +37,22 @@ std::string anzahl(std::ptrdiff_t fehlend) {
 
 } // namespace
 
-std::string Mangelbefund::text() const {
+std::vector<std::string> Mangelbefund::zeilen() const {
     const char* const vorsatz = zugferd && xrechnung ? ""
                                 : zugferd            ? "ZUGFeRD: "
                                 : xrechnung          ? "XRechnung: "
                                                      : "Hinweis: ";
-    return vorsatz + mangel.text;
+    std::vector<std::string> zeilen;
+    std::string rest = vorsatz + mangel.text;
+    while (zeichenzahl(rest) > kZeile) {
+        const std::size_t wortende = links(rest, kZeile + 1).rfind(' ');
+        const std::size_t ende =
+            wortende == std::string::npos || wortende < kEinzug ? links(rest, kZeile).size() : wortende;
+        zeilen.push_back(rest.substr(0, ende));
+        rest = leerzeichen(kEinzug) + gekuerzt(rest.substr(ende));
+    }
+    zeilen.push_back(rest);
+    return zeilen;
 }
 
 std::vector<Mangelbefund> BEFUNDE(const Maengel& zugferd, const Maengel& xrechnung) {

@@ -13,8 +13,9 @@ struct Mangelbefund {
     bool zugferd = false;   ///< stands in the way of a ZUGFeRD PDF
     bool xrechnung = false; ///< stands in the way of an XRechnung
 
-    /// As the list shows it: of which format it is where not of both, and whether it is a hint only.
-    std::string text() const;
+    /// As the list shows it, in lines that fit: of which format it is where not of both, and whether it is a
+    /// hint only.
+    std::vector<std::string> zeilen() const;
     bool operator==(const Mangelbefund&) const = default;
 };
 

@@ -152,8 +152,12 @@ void ERechnung::pruefen() {
         }
     }
     std::vector<std::string> zeilen;
-    for (const Mangelbefund& befund : befunde_) {
-        zeilen.push_back(befund.text());
+    gezeigt_.clear();
+    for (std::size_t i = 0; i < befunde_.size(); ++i) {
+        for (std::string& zeile : befunde_[i].zeilen()) {
+            zeilen.push_back(std::move(zeile));
+            gezeigt_.push_back(i);
+        }
     }
     form_.List_Maengel.assign(std::move(zeilen));
     form_.List_Maengel.ListIndex = -1;
@@ -170,7 +174,7 @@ void ERechnung::zum_feld() {
     if (index < 0) {
         return;
     }
-    const Mangel mangel = befunde_.at(static_cast<std::size_t>(index)).mangel;
+    const Mangel mangel = befunde_.at(gezeigt_.at(static_cast<std::size_t>(index))).mangel;
     Control* feld = form_.find(mangel.feld);
     if (feld == nullptr) {
         feld = form1_.find(mangel.feld);

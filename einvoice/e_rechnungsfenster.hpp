@@ -8,6 +8,7 @@
 #include "platform/forms/opened_window.hpp"
 #include "platform/shell.hpp"
 
+#include <cstddef>
 #include <functional>
 #include <string>
 #include <vector>
@@ -51,8 +52,9 @@ private:
     E_Rechnung zugferd_;
     E_Rechnung xrechnung_;
     std::vector<Mangelbefund> befunde_;
-    bool fuellt_ = false;    ///< the program is filling the fields
-    bool blaettert_ = false; ///< an arrow key is moving through the list
+    std::vector<std::size_t> gezeigt_; ///< the finding in each row of the list
+    bool fuellt_ = false;              ///< the program is filling the fields
+    bool blaettert_ = false;           ///< an arrow key is moving through the list
 };
 
 /// The one window of electronic invoices.

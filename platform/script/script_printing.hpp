@@ -17,9 +17,9 @@ struct RealPrinting {
     /// `Laufzeitfehler`.
     std::function<void(const std::string& path, const RecordedJobs& jobs)> write_pdf;
     /// Makes a PDF for archives of a document, as `Printing::archive`.
-    std::function<std::string(const RecordedJob& job)> archive;
+    std::function<std::string(const RecordedJob& job)> archive = {};
     /// As `Printing::save_page`.
-    std::function<void(const DrawnPage& page, const std::string& path, int dpi)> save_page;
+    std::function<void(const DrawnPage& page, const std::string& path, int dpi)> save_page = {};
     /// As `Printing::save_charts`.
     std::function<void(const ChartSheet& sheet, const std::string& path)> save_charts = {};
 };

@@ -37,7 +37,27 @@ const std::map<std::string, Zeilen> kWege{
     {"Form_txt_Vorlagen", {"click form1.Cmd_Vorlagen"}},
     {"Form_Helferlein", {"click form1.CMD_FORM_HELFERLEIN"}},
     {"Form_Helferlein_Bkg", {"click form1.CMD_FORM_HELFERLEIN_Bkg"}},
-    {"Form_Notiz", {"click form1.Cmd_Notiz"}}};
+    {"Form_Notiz", {"click form1.Cmd_Notiz"}},
+    {"Form_ERechnung", {"click form1.m_ERechnung"}}};
+
+/// Makes an electronic invoice of what stands in the window.
+const Zeilen kVollstaendig{"set Form_ERechnung.Text_Verkaeufer_Name Holz",
+                           "set Form_ERechnung.Text_Verkaeufer_PLZ 50667",
+                           "set Form_ERechnung.Text_Verkaeufer_Ort Bonn",
+                           "set Form_ERechnung.Text_Verkaeufer_Land DE",
+                           "set Form_ERechnung.Text_Verkaeufer_USt_IdNr DE136695976",
+                           "set Form_ERechnung.Text_Verkaeufer_Kontakt Eva Holz",
+                           "set Form_ERechnung.Text_Verkaeufer_Telefon 0221 4711",
+                           "set Form_ERechnung.Text_Verkaeufer_E_Mail eva@holz.example",
+                           "set Form_ERechnung.Text_Verkaeufer_IBAN DE02120300000000202051",
+                           "set Form_ERechnung.Text_Zahlungstage 14",
+                           "select Form_ERechnung.Combo_Befreiungsgrund 1",
+                           "set Form_ERechnung.Text_Kaeufer_Name Emil",
+                           "set Form_ERechnung.Text_Kaeufer_PLZ 53111",
+                           "set Form_ERechnung.Text_Kaeufer_Ort Bonn",
+                           "set Form_ERechnung.Text_Kaeufer_Land DE",
+                           "set Form_ERechnung.Text_Kaeufer_E_Mail emil@bonn.example",
+                           "set Form_ERechnung.Text_Kaeufer_Leitweg_ID 04011000-1234512345-06"};
 
 /// What has to be done before a command can do anything, by the beginning of its name. "%n" is its index,
 /// "%s" the page of six that it stands on.
@@ -76,6 +96,8 @@ const std::pair<const char*, Zeilen> kVoraussetzungen[]{
     {"FORM_DESIGNER.m_Wieder",
      {"mouse FORM_DESIGNER.Image_datum down 1 9 9", "mouse FORM_DESIGNER.Image_datum up 1 9 9",
       "click FORM_DESIGNER.m_Pfeil(1)", "click FORM_DESIGNER.m_Rueckgaengig"}},
+    {"Form_ERechnung.Command_ZUGFeRD", kVollstaendig},
+    {"Form_ERechnung.Command_XRechnung", kVollstaendig},
     {"Form_txt_Vorlagen.Command1_choose", {"click Form_txt_Vorlagen.Option%s"}}};
 
 /// Titles of menus, and a button that calculates what is calculated already.
