@@ -3,6 +3,7 @@
 #include "einvoice/zugferd.hpp"
 #include "platform/qt/print_printing.hpp"
 #include "platform/qt/qt_text.hpp"
+#include "print/belegausgabe.hpp"
 #include "tests/einvoice/zufallsfall.hpp"
 #include "tests/fehlernummer.hpp"
 
@@ -105,8 +106,9 @@ TEST(Girocode, WirdVomBlattZurueckgelesen) {
             probe.code = GIROCODE(quelle, verkaeufer);
             const std::string pdf = probe.ordner.pfad("seite.pdf");
             const auto geraet = probe.printing.pdf(pdf, {"Probe"});
-            PrintSurface flaeche(*geraet, probe.printing.metrics());
-            probe.belegdruck.vorbereiten().DRUCKEN(flaeche, JUSTIERUNG_LESEN(probe.einstellungen));
+            AUSGEBEN(*geraet, {"Probe"}, probe.printing.metrics(), kAusweg, [&probe](PrintSurface& flaeche) {
+                probe.belegdruck.vorbereiten().DRUCKEN(flaeche, JUSTIERUNG_LESEN(probe.einstellungen));
+            });
             const QString seite = path_to_qt(probe.ordner.pfad("seite"));
             ausgabe_von(QStringLiteral("pdftoppm"),
                         {"-r", "150", "-gray", "-png", "-singlefile", path_to_qt(pdf), seite});
