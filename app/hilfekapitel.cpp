@@ -24,7 +24,7 @@ constexpr Hilfekapitel kKapitel[] = {
     {"Form_Helferlein_Bkg", "helfer"},       {"Form_Notiz", "notiz"},
     {"Form_Fassungen", "fassungen"},         {"Form_Datensicherung", "sicherung"},
     {"Form_Rueckspielen", "zurueckspielen"}, {"Form_Nummernpruefung", "nummern-pruefen"},
-    {"Form_ueber_QUITTIKA", "version"},
+    {"Form_ERechnung", "e-rechnung"},        {"Form_ueber_QUITTIKA", "version"},
 };
 
 } // namespace

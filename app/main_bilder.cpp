@@ -140,6 +140,7 @@ const Aufnahme kAufnahmen[] = {
     {"umschlag", "Form2_Breiter_Brief", [](Form1& f) { f.m_druckenBRIEF.Click(); }},
     {"scanner", "Form_Etp_Barcode", [](Form1& f) { f.Cmd_Barcode.Click(); },
      [] { scannen("4006381333931"); }},
+    {"e-rechnung", "Form_ERechnung", [](Form1& f) { f.m_ERechnung.Click(); }},
     {"programmeinstellungen", "frm_Programm", [](Form1& f) { f.m_Programmeinstellungen.Click(); }},
 };
 

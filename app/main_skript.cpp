@@ -32,6 +32,14 @@ void pdf_schreiben(PaintTools& werkzeug, const std::string& pfad, const Recorded
     geraet.end_document();
 }
 
+std::string archivieren(PaintTools& werkzeug, const RecordedJob& auftrag) {
+    std::string bytes;
+    QtPdfDevice geraet(werkzeug, auftrag.document, [&bytes](std::string pdf) { bytes = std::move(pdf); });
+    replay(auftrag, geraet);
+    geraet.end_document();
+    return bytes;
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
@@ -39,13 +47,15 @@ int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QApplication anwendung(argc, argv);
     PaintTools werkzeug;
-    const RealPrinting ausgabe{[&werkzeug](const std::string& pfad, const RecordedJobs& auftraege) {
-                                   pdf_schreiben(werkzeug, pfad, auftraege);
-                               },
-                               [&werkzeug](const DrawnPage& seite, const std::string& pfad, int dpi) {
-                                   save_page(seite, pfad, dpi, werkzeug);
-                               },
-                               save_charts};
+    const RealPrinting ausgabe{
+        [&werkzeug](const std::string& pfad, const RecordedJobs& auftraege) {
+            pdf_schreiben(werkzeug, pfad, auftraege);
+        },
+        [&werkzeug](const RecordedJob& auftrag) { return archivieren(werkzeug, auftrag); },
+        [&werkzeug](const DrawnPage& seite, const std::string& pfad, int dpi) {
+            save_page(seite, pfad, dpi, werkzeug);
+        },
+        save_charts};
     Runner runner({programm_starten, werkzeug.metrics, ausgabe, &werkzeug.pictures}, std::cin, std::cout);
     return runner.run();
 }

@@ -14,8 +14,9 @@ constexpr std::string_view kEndung = ".QK8";
 } // namespace
 
 MenueDatei::MenueDatei(Form1& form1, const Ereignisse& ereignisse, Dateibefehle& dateibefehle,
-                       Textexport& textexport, Druckauftrag& druckauftrag, Hauptfenster& hauptfenster,
-                       Fassungsfenster& fassungsfenster, Kopf& kopf, Raster& raster)
+                       Textexport& textexport, Druckauftrag& druckauftrag, ERechnungsfenster& e_rechnung,
+                       Mailversand& mailversand, Hauptfenster& hauptfenster, Fassungsfenster& fassungsfenster,
+                       Kopf& kopf, Raster& raster)
     : form1_(form1), dateibefehle_(dateibefehle) {
     form1.m_neu.Click = ereignisse.befehl([&dateibefehle, &kopf, &raster] {
         if (dateibefehle.m_neu_Click()) {
@@ -32,6 +33,8 @@ MenueDatei::MenueDatei(Form1& form1, const Ereignisse& ereignisse, Dateibefehle&
     form1.m_Rechnung_txt_export.Click =
         ereignisse.befehl([&textexport] { textexport.m_Rechnung_txt_export_Click(); });
     form1.m_Fassungen.Click = ereignisse.befehl([&fassungsfenster] { fassungsfenster.m_Fassungen_Click(); });
+    form1.m_ERechnung.Click = ereignisse.befehl([&e_rechnung] { e_rechnung.open(); });
+    form1.m_Mail.Click = ereignisse.befehl([&mailversand] { mailversand.m_Mail_Click(); });
     form1.m_beenden.Click = ereignisse.befehl([&hauptfenster] { hauptfenster.m_beenden_Click(); });
 }
 

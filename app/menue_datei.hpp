@@ -4,6 +4,8 @@
 #include "app/hauptfenster.hpp"
 #include "app/kopf.hpp"
 #include "app/raster.hpp"
+#include "einvoice/e_rechnungsfenster.hpp"
+#include "einvoice/mailversand.hpp"
 #include "invoice/file/dateibefehle.hpp"
 #include "invoice/file/textexport.hpp"
 #include "print/druckauftrag.hpp"
@@ -19,8 +21,8 @@ namespace quittika {
 class MenueDatei {
 public:
     MenueDatei(Form1& form1, const Ereignisse& ereignisse, Dateibefehle& dateibefehle, Textexport& textexport,
-               Druckauftrag& druckauftrag, Hauptfenster& hauptfenster, Fassungsfenster& fassungsfenster,
-               Kopf& kopf, Raster& raster);
+               Druckauftrag& druckauftrag, ERechnungsfenster& e_rechnung, Mailversand& mailversand,
+               Hauptfenster& hauptfenster, Fassungsfenster& fassungsfenster, Kopf& kopf, Raster& raster);
 
 private:
     void OeffnenVerdrahten(const Ereignisse& ereignisse, Raster& raster);

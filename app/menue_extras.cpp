@@ -3,9 +3,12 @@
 namespace quittika {
 
 void MENUE_EXTRAS(Form1& form1, const Ereignisse& ereignisse, Eingabezeile& eingabezeile,
-                  Barcodefenster& barcode, Analyzerfenster& analyzer, Nummernpruefung& nummern,
-                  Datensicherung& sicherung, Rueckspielfenster& rueckspielen, Updatecheck& updatecheck) {
+                  const Pflichtpruefung& pflichtpruefung, Barcodefenster& barcode, Analyzerfenster& analyzer,
+                  Nummernpruefung& nummern, Datensicherung& sicherung, Rueckspielfenster& rueckspielen,
+                  Updatecheck& updatecheck) {
     form1.m_eingabezeile.Click = [&eingabezeile] { eingabezeile.anwaehlen(); };
+    form1.m_Pflichtangaben.Click =
+        ereignisse.befehl([&pflichtpruefung] { pflichtpruefung.m_Pflichtangaben_Click(); });
     form1.Cmd_Barcode.Click = ereignisse.befehl([&barcode] { barcode.open(); });
     for (Control* starten :
          {static_cast<Control*>(&form1.m_start_analyzer), static_cast<Control*>(&form1.Command1)}) {

@@ -20,6 +20,10 @@
 #include "app/startfenster.hpp"
 #include "app/werkzeuge.hpp"
 #include "designer/designer.hpp"
+#include "einvoice/e_rechnungsfenster.hpp"
+#include "einvoice/girocode.hpp"
+#include "einvoice/mailversand.hpp"
+#include "einvoice/pflichtpruefung.hpp"
 #include "invoice/erste_rechnung.hpp"
 #include "invoice/file/textexport.hpp"
 #include "print/druckauftrag.hpp"
@@ -55,8 +59,8 @@ struct Programm::Teile {
         MENUE_DRUCKEN(form1, etiketten);
         MENUE_EINSTELLUNGEN(form1, einstellungen, ereignisse, einstellungsfenster, programmfenster,
                             designeraufruf, designerfenster);
-        MENUE_EXTRAS(form1, ereignisse, eingabezeile, barcodefenster, analyzerfenster, nummernpruefung,
-                     datensicherung, rueckspielfenster, updatecheck);
+        MENUE_EXTRAS(form1, ereignisse, eingabezeile, pflichtpruefung, barcodefenster, analyzerfenster,
+                     nummernpruefung, datensicherung, rueckspielfenster, updatecheck);
         WERKZEUGE(form1, ereignisse, zustand, notizfenster, verzeichnis, platform.dialogs, platform.desktop);
         dateibefehle.VorVerlust = [this] { fassungsablage.EntwurfAufheben(entwurf.Abbild()); };
     }
@@ -82,6 +86,19 @@ struct Programm::Teile {
         const bool frei = !zustand.geaendert() || dateibefehle.VorherSpeichern(Buttons::YesNoCancel);
         if (frei && dateibefehle.oeffneRN(pfad)) {
             form1.Show();
+        }
+    }
+
+    void VorDerAusgabe() {
+        summen.jetztberechnen_List();
+        pflichtpruefung.ERSTEN_PUNKT_NENNEN();
+    }
+    /// The code that is printed with the invoice in hand. Without the user's data there is none.
+    std::optional<SquareGrid> Girocode() const {
+        try {
+            return GIROCODE(BELEGQUELLE(form1, einstellungen, werte), angabenspeicher.verkaeufer());
+        } catch (const Laufzeitfehler&) {
+            return std::nullopt;
         }
     }
 
@@ -121,10 +138,12 @@ struct Programm::Teile {
     Textexport textexport{form1, einstellungen, summen, verzeichnis, platform.dialogs, platform.shell};
     Lieferscheinoptionen lieferscheinoptionen{form1, einstellungen, platform.desktop};
     Designdatei designdatei{verzeichnis, platform.dialogs, form1.Hinweise};
-    Belegdruck belegdruck{form1, einstellungen, werte, designdatei};
+    Angabenspeicher angabenspeicher{verzeichnis};
+    Pflichtpruefung pflichtpruefung{form1, einstellungen, werte, zustand, zuletzt, platform.dialogs};
+    Belegdruck belegdruck{form1, einstellungen, werte, designdatei, [this] { return Girocode(); }};
     Druckauftrag druckauftrag{
         form1, einstellungen, belegdruck, platform.dialogs, platform.printing, lieferscheinoptionen, [this] {
-            summen.jetztberechnen_List();
+            VorDerAusgabe();
         }};
     Etiketten etiketten{form1, einstellungen, werte, platform.desktop, platform.dialogs, platform.printing};
     Vorschauzeichnung vorschauzeichnung{
@@ -143,7 +162,24 @@ struct Programm::Teile {
                           platform.printing,
                           platform.dialogs,
                           platform.shell,
-                          [this] { summen.jetztberechnen_List(); }};
+                          [this] { VorDerAusgabe(); }};
+    E_Rechnungsausgabe e_rechnungsausgabe{form1,           einstellungen, werte,
+                                          angabenspeicher, belegdruck,    platform.printing};
+    ERechnungsfenster e_rechnungsfenster{platform.desktop, [this](Form_ERechnung& form) {
+                                             return std::make_unique<ERechnung>(
+                                                 form, form1, einstellungen, e_rechnungsausgabe,
+                                                 angabenspeicher, platform.dialogs, platform.shell,
+                                                 [this] { summen.jetztberechnen_List(); });
+                                         }};
+    Mailversand mailversand{form1,
+                            einstellungen,
+                            e_rechnungsausgabe,
+                            pdfausgabe,
+                            lieferscheinoptionen,
+                            verzeichnis,
+                            platform.dialogs,
+                            platform.shell,
+                            [this] { VorDerAusgabe(); }};
     Vorschaufenster vorschaufenster{platform.desktop, [this](Form_Druckvorschau& form) {
                                         return std::make_unique<Druckvorschau>(
                                             form, vorschauzeichnung, druckauftrag, bildausgabe, pdfausgabe);
@@ -237,8 +273,9 @@ struct Programm::Teile {
     Einstellungsaustausch einstellungsaustausch{
         form1,       einstellungen,    einstellungsschreiber,
         verzeichnis, platform.dialogs, [this] { hauptfenster.m_beenden_Click(); }};
-    MenueDatei menue_datei{form1,        ereignisse,      dateibefehle, textexport, druckauftrag,
-                           hauptfenster, fassungsfenster, kopf,         raster};
+    MenueDatei menue_datei{
+        form1,       ereignisse,   dateibefehle,    textexport, druckauftrag, e_rechnungsfenster,
+        mailversand, hauptfenster, fassungsfenster, kopf,       raster};
     Ausgabe ausgabe{form1, ereignisse, summen, vorschauzeichnung, vorschaufenster, bildausgabe, pdfausgabe};
     MenueHilfe menue_hilfe{form1,          ereignisse,       verzeichnis,     werte,
                            platform.shell, platform.dialogs, platform.desktop};

@@ -39,6 +39,7 @@ const std::vector<Vergleich> kVergleiche{
     {"deleting one of 12,000 articles", "artikel_loeschen", "", 100},
     {"searching 7,000 customers", "kunde_suchen", "", 16},
     {"invoice of 60 rows to PDF, cold : as many texts", "rechnung_als_pdf", "texte_als_pdf", 2},
+    {"the same as ZUGFeRD : as plain PDF", "rechnung_als_zugferd", "rechnung_als_pdf", 2},
     {"opening the invoice settings for the first time", "einstellungen_oeffnen", "", 150},
     {"the same : an empty window", "einstellungen_oeffnen", "leerer_dialog", 200},
     {"opening them again", "einstellungen_wieder", "", 30},

@@ -166,7 +166,9 @@ private:
     void formen() {
         form(UST_ID_FEHLER(v_.USt_IdNr), "Text_Verkaeufer_USt_IdNr");
         form(UST_ID_FEHLER(k_.USt_IdNr), "Text_Kaeufer_USt_IdNr");
-        form(IBANHINWEIS(v_.IBAN), "Text_Verkaeufer_IBAN");
+        if (const std::string hinweis = IBANHINWEIS(v_.IBAN); !hinweis.empty()) {
+            fatal("Text_Verkaeufer_IBAN", "IBAN: " + hinweis);
+        }
         form(BIC_FEHLER(v_.BIC), "Text_Verkaeufer_BIC");
         form(LAND_FEHLER(v_.Land), "Text_Verkaeufer_Land");
         form(LAND_FEHLER(k_.Land), "Text_Kaeufer_Land");

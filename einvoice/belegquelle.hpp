@@ -18,6 +18,7 @@ struct Quellzeile {
     std::string Leistung;
     std::string Preis;
     std::string Gesamtp;
+    bool operator==(const Quellzeile&) const = default;
 };
 
 /// The invoice in hand as texts, without a window: what the main window shows and the settings hold.
@@ -49,6 +50,7 @@ struct Belegquelle {
     std::string Gesamtbetrag; ///< as printed
     std::vector<std::string> Anschreiben;
     std::vector<std::string> Bemerkungen;
+    bool operator==(const Belegquelle&) const = default;
 };
 
 Belegquelle BELEGQUELLE(const Form1& form1, const frm_einstellungen& einstellungen,

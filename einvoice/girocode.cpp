@@ -18,6 +18,7 @@ namespace {
 constexpr std::size_t kEmpfaenger = 70;  // characters
 constexpr std::size_t kVerwendung = 140; // characters
 constexpr std::size_t kBytes = 331;      // of the whole text
+constexpr int kRuhezone = 4;             // modules
 constexpr Cent kHoechstens{999'999'999'99};
 
 std::string zeile(const std::string& text, std::size_t zeichen) {
@@ -68,7 +69,7 @@ std::string GIROCODE_TEXT(const Ueberweisung& u) {
     return vorn + in_bytes(zeile(u.verwendung, kVerwendung), kBytes - vorn.size());
 }
 
-Codebild QR_CODE(const std::string& text) {
+SquareGrid QR_CODE(const std::string& text) {
     const std::unique_ptr<QRcode, decltype(&QRcode_free)> code(
         QRcode_encodeData(static_cast<int>(text.size()), reinterpret_cast<const unsigned char*>(text.data()),
                           0, QR_ECLEVEL_M),
@@ -76,12 +77,20 @@ Codebild QR_CODE(const std::string& text) {
     if (code == nullptr) {
         throw Laufzeitfehler(fehler::kUngueltigerAufruf);
     }
-    Codebild bild{code->width, {}};
+    SquareGrid bild{code->width, kRuhezone, {}};
     const int module = code->width * code->width;
     for (int i = 0; i < module; ++i) {
-        bild.dunkel.push_back((code->data[i] & 1U) != 0);
+        bild.dark.push_back((code->data[i] & 1U) != 0);
     }
     return bild;
+}
+
+std::optional<SquareGrid> GIROCODE(const Belegquelle& quelle, const Verkaeufer& verkaeufer) {
+    const Ueberweisung ueberweisung = UEBERWEISUNG(quelle, verkaeufer);
+    if (verkaeufer.GiroCode != "1" || !GIROCODE_FEHLER(ueberweisung).empty()) {
+        return std::nullopt;
+    }
+    return QR_CODE(GIROCODE_TEXT(ueberweisung));
 }
 
 } // namespace quittika

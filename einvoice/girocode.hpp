@@ -3,10 +3,10 @@
 #include "einvoice/angaben.hpp"
 #include "einvoice/belegquelle.hpp"
 #include "einvoice/festkomma.hpp"
+#include "platform/printing.hpp"
 
-#include <cstddef>
+#include <optional>
 #include <string>
-#include <vector>
 
 namespace quittika {
 
@@ -30,18 +30,11 @@ std::string GIROCODE_FEHLER(const Ueberweisung& ueberweisung);
 /// The text in the code (EPC069-12, version 002, UTF-8). Only where `GIROCODE_FEHLER` is empty.
 std::string GIROCODE_TEXT(const Ueberweisung& ueberweisung);
 
-/// A square of dark and light modules, without the quiet zone of `kRuhezone` modules around it.
-struct Codebild {
-    static constexpr int kRuhezone = 4;
-    int seite = 0; ///< modules
-    std::vector<bool> dunkel;
-    bool ist_dunkel(int x, int y) const {
-        return dunkel.at(static_cast<std::size_t>(y) * static_cast<std::size_t>(seite) +
-                         static_cast<std::size_t>(x));
-    }
-};
+/// QR code of a text with the quiet zone that it needs, error correction M. Throws `Laufzeitfehler` 5 for one
+/// that no code holds.
+SquareGrid QR_CODE(const std::string& text);
 
-/// QR code of a text, error correction M. Throws `Laufzeitfehler` 5 for one that no code holds.
-Codebild QR_CODE(const std::string& text);
+/// The code to be printed on the invoice; nothing where it is not wanted or cannot be.
+std::optional<SquareGrid> GIROCODE(const Belegquelle& quelle, const Verkaeufer& verkaeufer);
 
 } // namespace quittika

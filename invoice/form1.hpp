@@ -40,6 +40,9 @@ struct Form1 : Form {
     Menu m_Drucken{*this, "m_Drucken", "&Rechnung drucken..."};
     Menu m_Vorschau{*this, "m_Vorschau", "Druckvorschau..."};
     Menu m_Rechnung_pdf_export{*this, "m_Rechnung_pdf_export", "Als PDF speichern..."};
+    Menu m_ERechnung{*this, "m_ERechnung", "&E-Rechnung..."};
+    Menu m_Mail{*this, "m_Mail", "Per E-&Mail senden..."};
+    Menu m_Pflichtangaben{*this, "m_Pflichtangaben", "P&flichtangaben prüfen..."};
     Menu m_druckenBRIEF{*this, "m_druckenBRIEF", "&Briefumschlag bedrucken..."};
     Menu m_druckenpaketschein{*this, "m_druckenpaketschein", "&Paketschein bedrucken..."};
     Menu m_druckenpaketscheinHVersand{*this, "m_druckenpaketscheinHVersand",

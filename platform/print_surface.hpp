@@ -30,6 +30,10 @@ public:
     void Line(double x1, double y1, double x2, double y2, Color color);
     /// Nothing happens where `path` is empty.
     void PaintPicture(const std::string& path, double left, double top, double width, double height);
+    /// Draws a grid `size` mm wide; as much white ground as it names lies around it.
+    void PaintSquares(const SquareGrid& grid, double left, double top, double size) {
+        device_.squares(left, top, size, grid);
+    }
     /// Begins a new page with the cursor in its corner.
     void NewPage();
     void EndDoc() { device_.end_document(); }

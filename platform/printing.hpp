@@ -2,9 +2,12 @@
 
 #include "platform/forms/property.hpp"
 
+#include <cstddef>
+#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace quittika {
 
@@ -49,6 +52,18 @@ struct PrintDocument {
 inline constexpr double kOriginLeft = 4;
 inline constexpr double kOriginTop = 6;
 
+/// A square of dark and light ones, as codes are made of, row by row.
+struct SquareGrid {
+    int side = 0;  ///< squares in a row and in a column
+    int quiet = 0; ///< as many squares of white ground lie around it
+    std::vector<bool> dark;
+    bool is_dark(int x, int y) const {
+        return dark.at(static_cast<std::size_t>(y) * static_cast<std::size_t>(side) +
+                       static_cast<std::size_t>(x));
+    }
+    bool operator==(const SquareGrid&) const = default;
+};
+
 /// What reaches the paper. All lengths are millimetres from the origin.
 class PrintDevice {
 public:
@@ -63,6 +78,8 @@ public:
     virtual void line(double x1, double y1, double x2, double y2, Color color) = 0;
     /// Draws a picture file stretched to the box. Throws what `Pictures` throws for one that cannot be shown.
     virtual void picture(double left, double top, double width, double height, const std::string& path) = 0;
+    /// Draws a grid `size` mm wide, its white ground around it.
+    virtual void squares(double left, double top, double size, const SquareGrid& grid) = 0;
     virtual void new_page() = 0;
     /// Ends the document and hands it over. Throws `Laufzeitfehler` 482, or that of the file, when that
     /// fails; it names the reason.
@@ -88,6 +105,11 @@ public:
     /// Begins a PDF file, which appears, or is replaced, whole at the end of the document. Its text can be
     /// searched; title, author and the time are entered. Throws as `PrintDevice::end_document` does.
     virtual std::unique_ptr<PrintDevice> pdf(const std::string& path, const PrintDocument& document) = 0;
+    /// Takes the bytes of a document.
+    using TakeBytes = std::function<void(std::string bytes)>;
+    /// Begins a PDF that can be kept for long, with all fonts and the profile of its colours in it (PDF/A).
+    /// At the end of the document `take` gets it.
+    virtual std::unique_ptr<PrintDevice> archive(const PrintDocument& document, TakeBytes take) = 0;
     /// Draws a page to be shown by `control`, which outlives the device. A new page wipes out the one before;
     /// at the end of the document the last one takes the place of what the control shows.
     virtual std::unique_ptr<PrintDevice> picture(PictureControl& control, const PrintDocument& document) = 0;

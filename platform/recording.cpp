@@ -18,6 +18,7 @@ struct Replayer {
     void operator()(const drawn::Picture& p) const {
         device.picture(p.left, p.top, p.width, p.height, p.path);
     }
+    void operator()(const drawn::Squares& s) const { device.squares(s.left, s.top, s.size, s.grid); }
 };
 
 } // namespace
@@ -54,6 +55,10 @@ void RecordingDevice::line(double x1, double y1, double x2, double y2, Color col
 void RecordingDevice::picture(double left, double top, double width, double height, const std::string& path) {
     pictures_.check(path);
     drawings().emplace_back(drawn::Picture{left, top, width, height, path});
+}
+
+void RecordingDevice::squares(double left, double top, double size, const SquareGrid& grid) {
+    drawings().emplace_back(drawn::Squares{left, top, size, grid});
 }
 
 void RecordingDevice::new_page() {

@@ -38,8 +38,15 @@ struct Picture {
     std::string path;
     bool operator==(const Picture&) const = default;
 };
+struct Squares {
+    double left;
+    double top;
+    double size;
+    SquareGrid grid;
+    bool operator==(const Squares&) const = default;
+};
 } // namespace drawn
-using Drawing = std::variant<drawn::Text, drawn::Line, drawn::Picture>;
+using Drawing = std::variant<drawn::Text, drawn::Line, drawn::Picture, drawn::Squares>;
 
 /// One page in the order in which it was drawn.
 struct DrawnPage {
@@ -74,6 +81,7 @@ public:
               std::string_view text) override;
     void line(double x1, double y1, double x2, double y2, Color color) override;
     void picture(double left, double top, double width, double height, const std::string& path) override;
+    void squares(double left, double top, double size, const SquareGrid& grid) override;
     void new_page() override;
     void end_document() override;
 

@@ -4,12 +4,18 @@
 
 namespace quittika {
 
+namespace {
+
+constexpr const char* kOhneGirocode = "Ohne GiroCode: Neben den Beträgen ist kein Platz dafür.";
+
+} // namespace
+
 std::string Zeichenbefund::hinweis(const std::string& getan) const {
-    if (fehlendes_bild.empty()) {
-        return ueberdruck;
+    std::string saetze = fehlendes_bild.empty() ? "" : "Ohne das Bild " + fehlendes_bild + " " + getan + ".";
+    for (const std::string& satz : {code_fehlt ? std::string(kOhneGirocode) : std::string(), ueberdruck}) {
+        saetze += (saetze.empty() || satz.empty() ? "" : " ") + satz;
     }
-    return "Ohne das Bild " + fehlendes_bild + " " + getan + "." + (ueberdruck.empty() ? "" : " ") +
-           ueberdruck;
+    return saetze;
 }
 
 Zeichenbefund AUSGEBEN(PrintDevice& ziel, const PrintDocument& dokument, const FontMetrics& metrics,
@@ -17,7 +23,7 @@ Zeichenbefund AUSGEBEN(PrintDevice& ziel, const PrintDocument& dokument, const F
     NachsichtigesGeraet geraet(ziel, dokument.paper, dokument.first_page);
     PrintSurface surface(geraet, metrics);
     zeichnung(surface);
-    return {geraet.fehlendes_bild(), geraet.ueberdruck().hinweis(ausweg)};
+    return {geraet.fehlendes_bild(), geraet.ueberdruck().hinweis(ausweg), geraet.code_fehlt()};
 }
 
 } // namespace quittika

@@ -16,8 +16,9 @@ inline constexpr const char* kAusweg =
 struct Zeichenbefund {
     std::string fehlendes_bild; ///< the first picture that could not be drawn
     std::string ueberdruck;     ///< the first texts one over the other, as a sentence
+    bool code_fehlt = false;    ///< there was no room for the GiroCode
 
-    /// Both as sentences; `getan` says what was done with the document: "gedruckt".
+    /// All as sentences; `getan` says what was done with the document: "gedruckt".
     std::string hinweis(const std::string& getan) const;
 };
 

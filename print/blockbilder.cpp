@@ -266,7 +266,7 @@ DrawnPage Blockbilder::liste_zeichnen(const Design& design, bool& platzhalter) {
     Druckseite seite = seiten.front();
     const auto zeichnen = [&] {
         papier.gezeichnet().clear();
-        return eigene.TABELLE_DRUCKEN(papier.blatt, seite, kOptionen, design.Y_LISTE) - design.Y_LISTE;
+        return eigene.TABELLE_DRUCKEN(papier.blatt, seite, kOptionen, design.Y_LISTE).linie - design.Y_LISTE;
     };
     if (const double zu_viel = zeichnen() - kListenbild.height; zu_viel > 0) {
         const auto zeilen = static_cast<int>(std::ceil(zu_viel / papier.surface.TextHeight()));
@@ -287,7 +287,8 @@ std::array<Blocklage, kDesignbloecke> Blockbilder::LAGEN(const Design& design) {
         lagen[i].kasten =
             block == Designblock::Liste
                 ? Kasten{design.X_LISTE, design.Y_LISTE, design.X_LISTE + kListenbild.width,
-                         eigene.TABELLE_DRUCKEN(papier.blatt, seiten.front(), kOptionen, design.Y_LISTE)}
+                         eigene.TABELLE_DRUCKEN(papier.blatt, seiten.front(), kOptionen, design.Y_LISTE)
+                             .linie}
                 : kasten_um(papier.blatt, texte(eigene, papier.blatt, block, seiten.front()));
     }
     wege_pruefen(papier.blatt, design, lagen);

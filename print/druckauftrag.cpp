@@ -17,19 +17,19 @@ constexpr Druckworte kWorte{"BERECHNEN...DRUCKEN...BLATT: ", "DRUCKEN ABGEBROCHE
 Druckauftrag::Druckauftrag(Form1& form1, const frm_einstellungen& einstellungen, Belegdruck& belegdruck,
                            Dialogs& dialogs, Printing& printing,
                            const Lieferscheinoptionen& lieferscheinoptionen,
-                           std::function<void()> jetztberechnen_List)
+                           std::function<void()> vor_der_ausgabe)
     : form1_(form1),
       einstellungen_(einstellungen),
       belegdruck_(belegdruck),
       lieferscheinoptionen_(lieferscheinoptionen),
-      jetztberechnen_List_(std::move(jetztberechnen_List)),
+      vor_der_ausgabe_(std::move(vor_der_ausgabe)),
       exemplare_(form1, dialogs, printing, kWorte) {}
 
 void Druckauftrag::Command_printform_Click() {
     const Hinweiszeile::Befehl befehl(form1_.Hinweise);
     const Druckjustierung just = JUSTIERUNG_LESEN(einstellungen_);
     status("BERECHNEN...");
-    jetztberechnen_List_();
+    vor_der_ausgabe_();
     try {
         const Druckoptionen optionen{lieferscheinoptionen_.check_LIEFERSCHEIN_PRINT()};
         status("BERECHNEN...DRUCKEN...");

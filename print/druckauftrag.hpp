@@ -16,10 +16,10 @@ namespace quittika {
 /// Prints the document in hand, from the button to the end of the last copy.
 class Druckauftrag {
 public:
-    /// `jetztberechnen_List` brings the result fields of the main window up to date.
+    /// `vor_der_ausgabe` brings the result fields of the main window up to date and may tell something.
     Druckauftrag(Form1& form1, const frm_einstellungen& einstellungen, Belegdruck& belegdruck,
                  Dialogs& dialogs, Printing& printing, const Lieferscheinoptionen& lieferscheinoptionen,
-                 std::function<void()> jetztberechnen_List);
+                 std::function<void()> vor_der_ausgabe);
 
     /// Asks for the printer and prints the copies, each a job of its own. Says in panel 2 of the
     /// status bar how it ended, in panel 3 why it failed, where a file lies and what is missing on paper;
@@ -34,7 +34,7 @@ private:
     const frm_einstellungen& einstellungen_;
     Belegdruck& belegdruck_;
     const Lieferscheinoptionen& lieferscheinoptionen_;
-    std::function<void()> jetztberechnen_List_;
+    std::function<void()> vor_der_ausgabe_;
     Exemplardruck exemplare_;
 };
 

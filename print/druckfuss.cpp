@@ -1,5 +1,7 @@
 #include "print/druckfuss.hpp"
 
+#include <algorithm>
+
 namespace quittika {
 
 namespace {
@@ -25,11 +27,12 @@ std::string SEITENZAHL(int seite, int seiten) {
     return "Seite " + std::to_string(seite) + "/" + std::to_string(seiten);
 }
 
-void Druckfuss::DRUCKE_BEMERKUNGEN(Blatt& blatt) const {
+void Druckfuss::DRUCKE_BEMERKUNGEN(Blatt& blatt, double ab) const {
     const bool versand = form1_.Check_Versandkosten.ticked();
     const bool versand_mwst =
         form1_.Check_VersandMwStEXTRA.ticked() || form1_.Check_VersandINKL_MwSt.ticked();
     blatt.leerzeilen(!versand ? 4 : versand_mwst ? 2 : 3);
+    blatt.surface.CurrentY = std::max(blatt.surface.CurrentY, ab);
     const double schrift_tabelle = blatt.surface.FontSize;
     blatt.surface.FontSize = programm_.GROESSE_BEMERKUNGEN;
     blatt.surface.ForeColor = programm_.FARBE_BEMERKUNGEN;

@@ -30,8 +30,8 @@ public:
         : form1_(form1), einstellungen_(einstellungen), programm_(programm) {}
 
     /// The four lines of remarks in their own size, some lines below the cursor: the fewer, the more lines
-    /// the shipping took.
-    void DRUCKE_BEMERKUNGEN(Blatt& blatt) const;
+    /// the shipping took. Not above `ab` mm of the surface.
+    void DRUCKE_BEMERKUNGEN(Blatt& blatt, double ab) const;
     /// Page number, rule and bank lines, at their fixed places.
     void DRUCKE_FUSSZEILE(Blatt& blatt, int seite, int seiten) const;
 

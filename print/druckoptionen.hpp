@@ -1,5 +1,9 @@
 #pragma once
 
+#include "platform/printing.hpp"
+
+#include <optional>
+
 namespace quittika {
 
 /// What a delivery note shows besides its rows and their quantities.
@@ -14,6 +18,7 @@ struct Lieferscheinangaben {
 struct Druckoptionen {
     Lieferscheinangaben lieferschein; ///< the other documents show everything
     double x_gesamt = 184;            ///< mm, right edge of the totals where position numbers are printed
+    std::optional<SquareGrid> girocode = {}; ///< printed beside the totals
 };
 
 } // namespace quittika

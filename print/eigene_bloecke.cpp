@@ -177,15 +177,15 @@ void EigeneBloecke::BANKLINIE_DRUCKEN(Blatt& blatt) const {
     }
 }
 
-double EigeneBloecke::TABELLE_DRUCKEN(Blatt& blatt, const Druckseite& seite, const Druckoptionen& optionen,
-                                      double y) const {
+EigeneBloecke::Tabellenende EigeneBloecke::TABELLE_DRUCKEN(Blatt& blatt, const Druckseite& seite,
+                                                           const Druckoptionen& optionen, double y) const {
     const Color farbe = programm_.FARBE_LINIEN;
     const Drucktabelle tabelle(form1_, einstellungen_, programm_, optionen);
     blatt.schrift(kSchriftTabelle, false);
     blatt.gehe_zu(0, y);
     DRUCKE_TABELLE(blatt, tabelle, seite.zeilen, design_.LIST_OPTION, farbe);
-    DRUCKE_BETRAEGE(blatt, seite, tabelle, form1_, farbe);
-    return blatt.surface.CurrentY - blatt.just.Yjust - kTabellenschluss;
+    const std::optional<double> summen = DRUCKE_BETRAEGE(blatt, seite, tabelle, form1_, farbe);
+    return {blatt.surface.CurrentY - blatt.just.Yjust - kTabellenschluss, summen};
 }
 
 } // namespace quittika

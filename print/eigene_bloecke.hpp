@@ -39,10 +39,14 @@ public:
     /// Room and drawing of the rule above the bank data; neither where it is not wanted.
     std::optional<Kasten> banklinie() const;
     void BANKLINIE_DRUCKEN(Blatt& blatt) const;
-    /// Prints rows and amounts of a page from `y` mm on. Returns where their last rule stands; the cursor is
-    /// below it.
-    double TABELLE_DRUCKEN(Blatt& blatt, const Druckseite& seite, const Druckoptionen& optionen,
-                           double y) const;
+    /// Where a table ends, and where its totals begin, in mm of the surface; nothing for a page without.
+    struct Tabellenende {
+        double linie; ///< mm, the last rule; the cursor is below it
+        std::optional<double> summen;
+    };
+    /// Prints rows and amounts of a page from `y` mm on.
+    Tabellenende TABELLE_DRUCKEN(Blatt& blatt, const Druckseite& seite, const Druckoptionen& optionen,
+                                 double y) const;
 
 private:
     std::vector<std::string> textzeilen(int block) const;

@@ -3,6 +3,7 @@
 #include "invoice/belegtexte.hpp"
 #include "print/druckkopf.hpp"
 #include "print/eigene_bloecke.hpp"
+#include "print/girodruck.hpp"
 
 #include <algorithm>
 #include <optional>
@@ -49,12 +50,16 @@ public:
             (steht_oben(block) ? ueber_tabelle : unter_tabelle).push_back(std::move(block));
         }
         const double kopfende = setzen(ueber_tabelle);
-        const double ende = tabelle(voller_kopf_ ? satz_.frei_unter(design_.Y_LISTE) : kurzer_kopf(kopfende));
+        double ende = tabelle(voller_kopf_ ? satz_.frei_unter(design_.Y_LISTE) : kurzer_kopf(kopfende));
+        ende = std::max(ende, girocode_freihalten());
         if (Textblock bemerkungen = bloecke_.bemerkungen(); mit_bemerkungen() && !im_kopf(bemerkungen)) {
             unter_tabelle.push_back(unter(ende, std::move(bemerkungen)));
         }
         setzen(unter_tabelle);
         fuss_drucken(fuss);
+        if (summen_ && beleg_.optionen.girocode) {
+            DRUCKE_GIROCODE(blatt_, *beleg_.optionen.girocode, *summen_);
+        }
     }
 
 private:
@@ -133,9 +138,30 @@ private:
 
     /// Prints rows and amounts from `y` on and returns where what follows them begins.
     double tabelle(double y) {
-        const double ende = bloecke_.TABELLE_DRUCKEN(blatt_, seite_, beleg_.optionen, y);
+        const auto [ende, summen] = bloecke_.TABELLE_DRUCKEN(blatt_, seite_, beleg_.optionen, y);
         satz_.belegen({kListenrand, y, kBlattbreite, ende});
+        summen_ = summen;
         return ende + kTabellenschluss;
+    }
+
+    /// Texts keep clear of the GiroCode as far as they fit below it. Returns where it ends, 0 where nothing
+    /// was kept.
+    double girocode_freihalten() {
+        if (!summen_ || !beleg_.optionen.girocode) {
+            return 0;
+        }
+        const Kasten kasten = GIROCODE_KASTEN(blatt_, *beleg_.optionen.girocode, *summen_);
+        const double x = blatt_.just.Xjust;
+        const double y = blatt_.just.Yjust;
+        const double unten = kasten.unten - y;
+        Textblock bemerkungen = bloecke_.bemerkungen();
+        bemerkungen.y = unten;
+        if (mit_bemerkungen() && !im_kopf(bloecke_.bemerkungen()) &&
+            !satz_.frei(BLOCK_KASTEN(bemerkungen, BLOCK_MESSEN(blatt_, bemerkungen)))) {
+            return 0;
+        }
+        satz_.belegen({kasten.links - x, kasten.oben - y, kasten.rechts - x, unten});
+        return unten;
     }
 
     /// The block below `ende`, where the table ends; close below its last rule where it fits only there.
@@ -184,6 +210,7 @@ private:
     bool mit_absender_; ///< logo and sender stand on the page
     EigeneBloecke bloecke_;
     Satzspiegel satz_;
+    std::optional<double> summen_; ///< where the totals begin, in mm of the surface
 };
 
 /// A delivery note shows what was ticked, but no prices.
@@ -197,8 +224,11 @@ Lieferscheinangaben angaben(const Form1& form1, Lieferscheinangaben gewaehlt) {
 Druckvorlage DRUCKE_EIGENESLAYOUT(const Form1& form1, const frm_einstellungen& einstellungen,
                                   const PROGRAMMEINSTELLUNG& programm, const Design& design,
                                   const Druckoptionen& optionen) {
-    const Beleg beleg{
-        form1, einstellungen, programm, design, {angaben(form1, optionen.lieferschein), optionen.x_gesamt}};
+    const Beleg beleg{form1,
+                      einstellungen,
+                      programm,
+                      design,
+                      {angaben(form1, optionen.lieferschein), optionen.x_gesamt, optionen.girocode}};
     return {DRUCKSEITEN(form1, einstellungen),
             [beleg](Blatt& blatt, const Druckseite& seite) { Eigenseite(blatt, beleg, seite).drucken(); }};
 }

@@ -18,7 +18,7 @@ constexpr const char* kEndung = ".pdf";
 
 Pdfausgabe::Pdfausgabe(Form1& form1, const frm_einstellungen& einstellungen, Belegdruck& belegdruck,
                        const Lieferscheinoptionen& lieferscheinoptionen, Printing& printing, Dialogs& dialogs,
-                       Shell& shell, std::function<void()> jetztberechnen_List)
+                       Shell& shell, std::function<void()> vor_der_ausgabe)
     : form1_(form1),
       einstellungen_(einstellungen),
       belegdruck_(belegdruck),
@@ -26,11 +26,11 @@ Pdfausgabe::Pdfausgabe(Form1& form1, const frm_einstellungen& einstellungen, Bel
       printing_(printing),
       dialogs_(dialogs),
       shell_(shell),
-      jetztberechnen_List_(std::move(jetztberechnen_List)) {}
+      vor_der_ausgabe_(std::move(vor_der_ausgabe)) {}
 
 void Pdfausgabe::m_Rechnung_pdf_export_Click() {
     const Hinweiszeile::Befehl befehl(form1_.Hinweise);
-    jetztberechnen_List_();
+    vor_der_ausgabe_();
     try {
         ausgeben({lieferscheinoptionen_.check_LIEFERSCHEIN_PRINT()});
     } catch (const Laufzeitfehler& fehler) {
@@ -55,12 +55,12 @@ void Pdfausgabe::ausgeben(const Druckoptionen& optionen) {
     if (!ERSETZEN_ERLAUBT({pfad}, dialogs_)) {
         return;
     }
-    schreiben(pfad, optionen);
+    SCHREIBEN(pfad, optionen);
     form1_.Hinweise.melden("Die PDF-Datei liegt hier: " + pfad);
     OEFFNEN_ANBIETEN(pfad, pfad, dialogs_, shell_);
 }
 
-void Pdfausgabe::schreiben(const std::string& pfad, const Druckoptionen& optionen) {
+void Pdfausgabe::SCHREIBEN(const std::string& pfad, const Druckoptionen& optionen) {
     const PrintDocument dokument{
         DOKUMENTTITEL(form1_, einstellungen_), {}, 1, einstellungen_.Text_firma_1.Text()};
     const std::unique_ptr<PrintDevice> geraet = printing_.pdf(pfad, dokument);

@@ -16,17 +16,18 @@ namespace quittika {
 /// Saves the document in hand, as it is printed, as a PDF file.
 class Pdfausgabe {
 public:
-    /// `jetztberechnen_List` brings the result fields of the main window up to date.
+    /// `vor_der_ausgabe` brings the result fields of the main window up to date and may tell something.
     Pdfausgabe(Form1& form1, const frm_einstellungen& einstellungen, Belegdruck& belegdruck,
                const Lieferscheinoptionen& lieferscheinoptionen, Printing& printing, Dialogs& dialogs,
-               Shell& shell, std::function<void()> jetztberechnen_List);
+               Shell& shell, std::function<void()> vor_der_ausgabe);
 
     /// Asks for a name, saves and offers to open the file. Says what went wrong.
     void m_Rechnung_pdf_export_Click();
+    /// Writes the file; panel 3 says what is not on the pages as it should be. Throws the error of the file.
+    void SCHREIBEN(const std::string& pfad, const Druckoptionen& optionen);
 
 private:
     void ausgeben(const Druckoptionen& optionen);
-    void schreiben(const std::string& pfad, const Druckoptionen& optionen);
 
     Form1& form1_;
     const frm_einstellungen& einstellungen_;
@@ -35,7 +36,7 @@ private:
     Printing& printing_;
     Dialogs& dialogs_;
     Shell& shell_;
-    std::function<void()> jetztberechnen_List_;
+    std::function<void()> vor_der_ausgabe_;
 };
 
 } // namespace quittika

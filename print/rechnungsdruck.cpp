@@ -1,6 +1,7 @@
 #include "print/rechnungsdruck.hpp"
 
 #include "invoice/belegtexte.hpp"
+#include "print/girodruck.hpp"
 #include "print/summenblock.hpp"
 
 namespace quittika {
@@ -25,11 +26,16 @@ void Rechnungsdruck::seite_drucken(Blatt& blatt, const Druckseite& seite,
     const Drucktabelle tabelle(form1_, einstellungen_, programm_, optionen);
     kopf(blatt, seite.erste(), optionen.lieferschein);
     tabelle.DRUCKE_POSITIONEN(blatt, seite.zeilen);
-    DRUCKE_BETRAEGE(blatt, seite, tabelle, form1_, programm_.FARBE_LINIEN);
+    const std::optional<double> summen =
+        DRUCKE_BETRAEGE(blatt, seite, tabelle, form1_, programm_.FARBE_LINIEN);
+    const SquareGrid* const code = summen && optionen.girocode ? &*optionen.girocode : nullptr;
     if (mit_bemerkungen(seite.letzte(), optionen.lieferschein)) {
-        fuss_.DRUCKE_BEMERKUNGEN(blatt);
+        fuss_.DRUCKE_BEMERKUNGEN(blatt, code == nullptr ? 0 : GIROCODE_KASTEN(blatt, *code, *summen).unten);
     }
     fuss_.DRUCKE_FUSSZEILE(blatt, seite.nummer, seite.anzahl);
+    if (code != nullptr) {
+        DRUCKE_GIROCODE(blatt, *code, *summen);
+    }
 }
 
 Druckvorlage Rechnungsdruck::vorbereiten(const Druckoptionen& optionen) const {

@@ -84,19 +84,21 @@ void DRUCKE_SUMMENBLOCK(Blatt& blatt, const Form1& form1, Color farbe_linien, do
     block.gesamtbetrag();
 }
 
-void DRUCKE_BETRAEGE(Blatt& blatt, const Druckseite& seite, const Drucktabelle& tabelle, const Form1& form1,
-                     Color farbe_linien) {
+std::optional<double> DRUCKE_BETRAEGE(Blatt& blatt, const Druckseite& seite, const Drucktabelle& tabelle,
+                                      const Form1& form1, Color farbe_linien) {
     if (!tabelle.zeigt_preise()) {
-        return;
+        return std::nullopt;
     }
     if (!seite.erste()) {
         tabelle.DRUCKE_UEBERTRAG(blatt, seite.uebertrag);
     }
-    if (seite.letzte()) {
-        DRUCKE_SUMMENBLOCK(blatt, form1, farbe_linien, tabelle.spalten().X_Gesamt);
-    } else {
+    if (!seite.letzte()) {
         tabelle.DRUCKE_ZWISCHENSUMME(blatt, seite.zwischensumme);
+        return std::nullopt;
     }
+    const double oben = blatt.surface.CurrentY;
+    DRUCKE_SUMMENBLOCK(blatt, form1, farbe_linien, tabelle.spalten().X_Gesamt);
+    return oben;
 }
 
 } // namespace quittika

@@ -5,6 +5,7 @@
 #include "platform/script/runner.hpp"
 #include "tests/feste_schrift.hpp"
 
+#include <fstream>
 #include <functional>
 #include <memory>
 #include <sstream>
@@ -45,7 +46,8 @@ struct Programmlauf {
                        programm->starten();
                        return programm;
                    },
-                   schrift},
+                   schrift,
+                   {[](const std::string& pfad, const RecordedJobs&) { std::ofstream(pfad) << "%PDF"; }}},
                   ein,
                   aus};
 

@@ -5,6 +5,7 @@
 
 #include <QGlyphRun>
 #include <QPaintDevice>
+#include <QPainterPath>
 #include <QPen>
 
 #include <algorithm>
@@ -101,6 +102,29 @@ void PainterDevice::picture(double left, double top, double width, double height
     painter_.setRenderHint(QPainter::LosslessImageRendering,
                            qint64{image.width()} * image.height() <= kMostLosslessPixels);
     painter_.drawImage(box, image);
+}
+
+void PainterDevice::squares(double left, double top, double size, const SquareGrid& grid) {
+    const double square = size / grid.side * pixels_per_mm_;
+    const QPointF corner = QPointF(left, top) * pixels_per_mm_;
+    const double ground = square * (grid.side + 2 * grid.quiet);
+    painter_.fillRect(QRectF(corner - QPointF(grid.quiet, grid.quiet) * square, QSizeF(ground, ground)),
+                      Qt::white);
+    QPainterPath dark; // one shape, so that no gaps shine through between its squares
+    dark.setFillRule(Qt::WindingFill);
+    for (int y = 0; y < grid.side; ++y) {
+        for (int x = 0; x < grid.side; ++x) {
+            const int first = x;
+            while (x < grid.side && grid.is_dark(x, y)) {
+                ++x;
+            }
+            if (x > first) {
+                dark.addRect(
+                    QRectF(corner + QPointF(first, y) * square, QSizeF(square * (x - first), square)));
+            }
+        }
+    }
+    painter_.fillPath(dark, Qt::black);
 }
 
 const QImage& PainterDevice::ready(const std::string& path, const QSize& box) {

@@ -24,6 +24,7 @@ public:
               std::string_view text) override;
     void line(double x1, double y1, double x2, double y2, Color color) override;
     void picture(double left, double top, double width, double height, const std::string& path) override;
+    void squares(double left, double top, double size, const SquareGrid& grid) override;
 
 protected:
     explicit PainterDevice(PaintTools& tools) : tools_(tools) {}

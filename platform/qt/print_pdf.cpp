@@ -6,16 +6,27 @@
 #include "platform/qt/print_paper.hpp"
 #include "platform/qt/qt_text.hpp"
 
-#include <cstddef>
 #include <utility>
 
 namespace quittika {
 
-QtPdfDevice::QtPdfDevice(PaintTools& tools, QString path, const PrintDocument& document, bool grey)
-    : PainterDevice(tools), path_(std::move(path)), author_(to_qt(document.author)) {
+QtPdfDevice::QtPdfDevice(PaintTools& tools, const QString& path, const PrintDocument& document, bool grey)
+    : PainterDevice(tools),
+      take_([file = path_from_qt(path)](const std::string& bytes) { datei_ersetzen(file, bytes); }),
+      author_(to_qt(document.author)) {
     if (grey) {
         draw_grey();
     }
+    begin_document(document);
+}
+
+QtPdfDevice::QtPdfDevice(PaintTools& tools, const PrintDocument& document, Printing::TakeBytes take)
+    : PainterDevice(tools), take_(std::move(take)), author_(to_qt(document.author)) {
+    writer_.setPdfVersion(QPagedPaintDevice::PdfVersion_A1b);
+    begin_document(document);
+}
+
+void QtPdfDevice::begin_document(const PrintDocument& document) {
     content_.open(QIODevice::WriteOnly);
     writer_.setResolution(kDrawingDpi);
     writer_.setPageLayout(page_layout(document.paper));
@@ -45,8 +56,7 @@ void QtPdfDevice::end_document() {
     if (!end()) {
         throw Laufzeitfehler(fehler::kDrucker);
     }
-    const QByteArray bytes = with_author(content_.data(), author_);
-    datei_ersetzen(path_from_qt(path_), {bytes.constData(), static_cast<std::size_t>(bytes.size())});
+    take_(with_author(content_.data(), author_).toStdString());
 }
 
 } // namespace quittika

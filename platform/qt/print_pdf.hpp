@@ -7,11 +7,13 @@
 
 namespace quittika {
 
-/// Draws a PDF file. The file appears, or is replaced, whole at the end of the document.
+/// Draws a PDF. Its file appears, or is replaced, whole at the end of the document.
 class QtPdfDevice final : public PainterDevice {
 public:
     /// Throws `Laufzeitfehler` 482 when no document can be begun.
-    QtPdfDevice(PaintTools& tools, QString path, const PrintDocument& document, bool grey = false);
+    QtPdfDevice(PaintTools& tools, const QString& path, const PrintDocument& document, bool grey = false);
+    /// Draws a document for archives, of which `take` gets the bytes at its end.
+    QtPdfDevice(PaintTools& tools, const PrintDocument& document, Printing::TakeBytes take);
     ~QtPdfDevice() override;
 
     void new_page() override;
@@ -20,7 +22,9 @@ public:
     void end_document() override;
 
 private:
-    QString path_;
+    void begin_document(const PrintDocument& document);
+
+    Printing::TakeBytes take_;
     QString author_;
     QBuffer content_;
     QPdfWriter writer_{&content_};

@@ -28,6 +28,10 @@ std::unique_ptr<PrintDevice> QtPrinting::pdf(const std::string& path, const Prin
     return std::make_unique<QtPdfDevice>(tools_, path_to_qt(path), document);
 }
 
+std::unique_ptr<PrintDevice> QtPrinting::archive(const PrintDocument& document, TakeBytes take) {
+    return std::make_unique<QtPdfDevice>(tools_, document, std::move(take));
+}
+
 std::unique_ptr<PrintDevice> QtPrinting::picture(PictureControl& control, const PrintDocument& document) {
     return draw_on(control, std::make_shared<RecordedJob>(document), tools_.pictures);
 }

@@ -23,6 +23,7 @@ public:
     const QtFontMetrics& metrics() const override { return tools_.metrics; }
     std::unique_ptr<PrintDevice> printer(const PrintDocument& document) override;
     std::unique_ptr<PrintDevice> pdf(const std::string& path, const PrintDocument& document) override;
+    std::unique_ptr<PrintDevice> archive(const PrintDocument& document, TakeBytes take) override;
     std::unique_ptr<PrintDevice> picture(PictureControl& control, const PrintDocument& document) override;
     void save_page(const DrawnPage& page, const std::string& path, int dpi) override;
     void save_charts(const ChartSheet& sheet, const std::string& path) override;

@@ -4,9 +4,12 @@
 #include "platform/qt/qt_text.hpp"
 #include "platform/verzeichnis.hpp"
 
+#include <QCoreApplication>
 #include <QDateTime>
 #include <QDesktopServices>
 #include <QFileInfo>
+#include <QProcess>
+#include <QStandardPaths>
 #include <QUrl>
 
 #include <string_view>
@@ -55,6 +58,32 @@ void QtShell::open(const std::string& document) {
     const QUrl address = address_of(document);
     if (!address.isValid() || !QDesktopServices::openUrl(address)) {
         throw Laufzeitfehler(fehler::kDateiFehlt, document);
+    }
+}
+
+void QtShell::mail(const MailMessage& message) {
+    const QString program = QStandardPaths::findExecutable(QStringLiteral("xdg-email"));
+    if (program.isEmpty()) {
+        throw Laufzeitfehler(fehler::kDateiFehlt, "xdg-email");
+    }
+    QStringList arguments{QStringLiteral("--utf8"),
+                          QStringLiteral("--subject"),
+                          to_qt(message.subject),
+                          QStringLiteral("--body"),
+                          to_qt(message.body),
+                          QStringLiteral("--attach"),
+                          QFileInfo(path_to_qt(systempfad(message.attachment))).absoluteFilePath()};
+    if (!message.to.empty() && message.to.front() != '-') { // which would be an option
+        arguments << to_qt(message.to);
+    }
+    auto* const mailer = new QProcess(QCoreApplication::instance());
+    QObject::connect(mailer, &QProcess::finished, mailer, &QObject::deleteLater);
+    mailer->start(program, arguments);
+    // A mail program may run until its window is closed; one that is missing is reported at once.
+    constexpr int kPatience = 3000; // ms
+    if (!mailer->waitForStarted(kPatience) ||
+        (mailer->waitForFinished(kPatience) && mailer->exitCode() != 0)) {
+        throw Laufzeitfehler(fehler::kDateiFehlt, "xdg-email");
     }
 }
 

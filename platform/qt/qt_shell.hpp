@@ -7,6 +7,7 @@ namespace quittika {
 class QtShell final : public Shell {
 public:
     void open(const std::string& document) override;
+    void mail(const MailMessage& message) override;
 };
 
 class QtClock final : public Clock {

@@ -140,9 +140,7 @@ void Commands::dialogs(std::string_view /*arguments*/) {
 }
 
 void Commands::opened(std::string_view /*arguments*/) {
-    for (const std::string& document : platform_.shell.take_opened()) {
-        line(protocol::encode(document));
-    }
+    lines(platform_.shell.take_opened());
 }
 
 void Commands::pages(std::string_view /*arguments*/) {

@@ -27,6 +27,9 @@ struct Lister {
     std::string operator()(const drawn::Picture& p) const {
         return numbers("picture", {p.left, p.top, p.width, p.height}) + ' ' + protocol::encode(p.path);
     }
+    std::string operator()(const drawn::Squares& s) const {
+        return numbers("squares", {s.left, s.top, s.size}) + ' ' + std::to_string(s.grid.side);
+    }
 };
 
 } // namespace

@@ -46,6 +46,15 @@ std::unique_ptr<PrintDevice> ScriptPrinting::pdf(const std::string& path, const 
                                              [this, job, path] { real_.write_pdf(path, {job}); });
 }
 
+std::unique_ptr<PrintDevice> ScriptPrinting::archive(const PrintDocument& document, TakeBytes take) {
+    if (!real_.archive) {
+        throw CommandError("Es gibt keine Ausgabe in PDF-Dateien");
+    }
+    const auto job = new_job(document);
+    return std::make_unique<RecordingDevice>(
+        job, pictures_, [this, job, take = std::move(take)] { take(real_.archive(*job)); });
+}
+
 std::unique_ptr<PrintDevice> ScriptPrinting::picture(PictureControl& control, const PrintDocument& document) {
     return draw_on(control, new_job(document), pictures_);
 }

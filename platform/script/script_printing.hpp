@@ -16,8 +16,10 @@ struct RealPrinting {
     /// Writes documents one behind the other into one PDF file, each on its own paper. Throws
     /// `Laufzeitfehler`.
     std::function<void(const std::string& path, const RecordedJobs& jobs)> write_pdf;
+    /// Makes a PDF for archives of a document, as `Printing::archive`.
+    std::function<std::string(const RecordedJob& job)> archive = {};
     /// As `Printing::save_page`.
-    std::function<void(const DrawnPage& page, const std::string& path, int dpi)> save_page;
+    std::function<void(const DrawnPage& page, const std::string& path, int dpi)> save_page = {};
     /// As `Printing::save_charts`.
     std::function<void(const ChartSheet& sheet, const std::string& path)> save_charts = {};
 };
@@ -31,6 +33,7 @@ public:
     const FontMetrics& metrics() const override { return metrics_; }
     std::unique_ptr<PrintDevice> printer(const PrintDocument& document) override;
     std::unique_ptr<PrintDevice> pdf(const std::string& path, const PrintDocument& document) override;
+    std::unique_ptr<PrintDevice> archive(const PrintDocument& document, TakeBytes take) override;
     std::unique_ptr<PrintDevice> picture(PictureControl& control, const PrintDocument& document) override;
     void save_page(const DrawnPage& page, const std::string& path, int dpi) override;
     void save_charts(const ChartSheet& sheet, const std::string& path) override;

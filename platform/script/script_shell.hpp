@@ -11,8 +11,9 @@ namespace quittika {
 /// Notes down what would be opened.
 class ScriptShell final : public Shell {
 public:
-    void open(const std::string& document) override { opened_.push_back(document); }
-    /// What was opened since the last call.
+    void open(const std::string& document) override;
+    void mail(const MailMessage& message) override;
+    /// What was opened since the last call, as lines of the protocol.
     std::vector<std::string> take_opened() { return std::exchange(opened_, {}); }
 
 private:

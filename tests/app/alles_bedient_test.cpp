@@ -45,12 +45,32 @@ const std::map<std::string, Zeilen> kWege{
     {"Form_Rueckspielen",
      {"click form1.m_datensicherung", "file @ORDNER@/s.zip", "click Form_Datensicherung.Command_Sichern",
       "click Form_Datensicherung.Command_Schliessen", "file @ORDNER@/s.zip", "click form1.m_zurueckspielen"}},
-    {"Form_Nummernpruefung", {"click form1.m_nummern_pruefen"}}};
+    {"Form_Nummernpruefung", {"click form1.m_nummern_pruefen"}},
+    {"Form_ERechnung", {"click form1.m_ERechnung"}}};
 
 /// The invoices of the program's folder, read by the analyzer.
 const Zeilen kAnalyse{"click Form_Analyzer.Command_Quellordner",
                       "set Form_VerzWahlAuftrag.Text_VerzWahl @ORDNER@",
                       "click Form_VerzWahlAuftrag.Command_OK", "click Form_Analyzer.CMD_START_ANALYSE"};
+
+/// Makes an electronic invoice of what stands in the window.
+const Zeilen kVollstaendig{"set Form_ERechnung.Text_Verkaeufer_Name Holz",
+                           "set Form_ERechnung.Text_Verkaeufer_PLZ 50667",
+                           "set Form_ERechnung.Text_Verkaeufer_Ort Bonn",
+                           "set Form_ERechnung.Text_Verkaeufer_Land DE",
+                           "set Form_ERechnung.Text_Verkaeufer_USt_IdNr DE136695976",
+                           "set Form_ERechnung.Text_Verkaeufer_Kontakt Eva Holz",
+                           "set Form_ERechnung.Text_Verkaeufer_Telefon 0221 4711",
+                           "set Form_ERechnung.Text_Verkaeufer_E_Mail eva@holz.example",
+                           "set Form_ERechnung.Text_Verkaeufer_IBAN DE02120300000000202051",
+                           "set Form_ERechnung.Text_Zahlungstage 14",
+                           "select Form_ERechnung.Combo_Befreiungsgrund 1",
+                           "set Form_ERechnung.Text_Kaeufer_Name Emil",
+                           "set Form_ERechnung.Text_Kaeufer_PLZ 53111",
+                           "set Form_ERechnung.Text_Kaeufer_Ort Bonn",
+                           "set Form_ERechnung.Text_Kaeufer_Land DE",
+                           "set Form_ERechnung.Text_Kaeufer_E_Mail emil@bonn.example",
+                           "set Form_ERechnung.Text_Kaeufer_Leitweg_ID 04011000-1234512345-06"};
 
 /// What has to be done before a command can do anything, by the beginning of its name. "%n" is its index,
 /// "%s" the page of six that it stands on.
@@ -103,6 +123,8 @@ const std::pair<const char*, Zeilen> kVoraussetzungen[]{
       "select Form_Nummernpruefung.List_Befund 0"}},
     {"Form_Fassungen.Command_Kopie", {"file @ORDNER@/k.qk8"}},
     {"Form_Nummernpruefung.Command_Speichern", {"click Form_Nummernpruefung.Command_Pruefen"}},
+    {"Form_ERechnung.Command_ZUGFeRD", kVollstaendig},
+    {"Form_ERechnung.Command_XRechnung", kVollstaendig},
     {"Form_txt_Vorlagen.Command1_choose", {"click Form_txt_Vorlagen.Option%s"}}};
 
 /// Titles of menus, and a button that calculates what is calculated already.

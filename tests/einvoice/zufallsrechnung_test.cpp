@@ -1,13 +1,8 @@
 #include "einvoice/cii.hpp"
 #include "platform/text.hpp"
-#include "tests/einvoice/musterrechnung.hpp"
+#include "tests/einvoice/zufallsfall.hpp"
 
 #include <gtest/gtest.h>
-
-#include <array>
-#include <cstdio>
-#include <cstdlib>
-#include <random>
 
 namespace quittika {
 namespace {
@@ -77,75 +72,6 @@ Bruch einer(const std::string& xml, const std::string& name) {
     return funde.empty() ? Bruch{} : bruch(funde.back());
 }
 
-class Zufall {
-public:
-    explicit Zufall(unsigned saat) : quelle_(saat) {}
-    int bis(int groesste) { return std::uniform_int_distribution<int>(0, groesste)(quelle_); }
-    template <class T, std::size_t N> T aus(const T (&werte)[N]) {
-        return werte[bis(static_cast<int>(N) - 1)];
-    }
-
-private:
-    std::mt19937 quelle_;
-};
-
-struct Fall {
-    Verkaeufer verkaeufer = MUSTERVERKAEUFER();
-    Kaeufer kaeufer = MUSTERKAEUFER();
-    Bezug bezug;
-    Belegquelle quelle;
-};
-
-void zeilen_wuerfeln(Musterrechnung& m, Zufall& z, int anzahl) {
-    const bool drei = z.bis(3) == 0;
-    m.form1.Check_000.Value = drei ? 1 : 0;
-    for (int i = 0; i < anzahl; ++i) {
-        if (z.bis(9) == 0) {
-            m.kommentar("Hinweis <" + std::to_string(i) + "> & mehr");
-        }
-        if (z.bis(19) == 0) {
-            m.positionen.Command_Trennzeile_Click();
-        }
-        const char* mengen[] = {"1", "2", "3", "0,5", "1,25", "0,125", "12,3456", "1000", "-1"};
-        const std::string preis = std::to_string(z.bis(200)) + "," + std::to_string(100 + z.bis(899));
-        m.zeile(z.aus(mengen), "Leistung " + std::to_string(i), (z.bis(30) == 0 ? "-" : "") + preis);
-    }
-}
-
-Fall fall(unsigned nummer) {
-    Zufall z(nummer);
-    Musterrechnung m;
-    Fall f;
-    const char* saetze[] = {"19", "7", "16", "10,7"};
-    const char* versand[] = {"4,90", "5,95", "0", "12,34"};
-    const char* gruende[] = {"Kleinunternehmer", "Reverse-Charge", "Innergemeinschaftlich", "Ausfuhr",
-                             "Anderer"};
-    const Mwst_Modus modi[] = {Mwst_Modus::Plus, Mwst_Modus::Inklusive, Mwst_Modus::Minus, Mwst_Modus::Ohne};
-    m.form1.Text_MwSt.Text = z.aus(saetze);
-    m.einstellungen.Text_MwSt.Text = z.bis(2) == 0 ? "7" : "19";
-    m.modus(modi[nummer % 4]);
-    zeilen_wuerfeln(m, z, nummer % 10 == 9 ? 1 + z.bis(199) : 1 + z.bis(20));
-    m.form1.Check_RABATT.Value = z.bis(1);
-    m.form1.Text_Rabatt.Text = std::to_string(z.bis(30)) + "," + std::to_string(z.bis(99));
-    m.form1.Check_Versandkosten.Value = z.bis(1);
-    m.form1.Text_PreisVersankostenEingabe.Text = z.aus(versand);
-    m.form1.Check_VersandMwStEXTRA.Value = z.bis(1);
-    m.form1.Check_VersandINKL_MwSt.Value = z.bis(2) == 0 ? 1 : 0;
-    f.verkaeufer.Befreiungsgrund = z.aus(gruende);
-    f.verkaeufer.Befreiungstext = "Steuerfrei nach § 4 Nr. 21 UStG";
-    f.verkaeufer.Skonto_Prozent = z.bis(2) == 0 ? "2,5" : "";
-    f.verkaeufer.Skonto_Tage = f.verkaeufer.Skonto_Prozent.empty() ? "" : "10";
-    if (z.bis(5) == 0 && f.verkaeufer.Befreiungsgrund == "Kleinunternehmer") {
-        f.verkaeufer.USt_IdNr.clear();
-    }
-    if (z.bis(4) == 0) {
-        m.form1.Text_rechnung.Text = "GUTSCHRIFT";
-        f.bezug = {z.bis(1) == 0 ? Belegart::Gutschrift : Belegart::Korrektur, "2026-16", "1.11.2026"};
-    }
-    f.quelle = m.quelle();
-    return f;
-}
-
 /// The amount due as the window reckons, in fractions.
 Bruch zahlbetrag(const Belegquelle& q) {
     Bruch summe;
@@ -198,26 +124,6 @@ void summen_vergleichen(const std::string& xml, const Belegquelle& q) {
                 einer(xml, "TaxBasisTotalAmount"));
 }
 
-/// What the official rules say of these files, in one call for each profile; nothing where they are not
-/// there.
-std::string kit() {
-    const char* const genannt = std::getenv("E_RECHNUNG_PRUEFWERKZEUG");
-    const std::string ordner = genannt != nullptr ? genannt : PRUEFWERKZEUG;
-    return datei_vorhanden(ordner + "/pruefe") ? ordner : "";
-}
-
-std::string fatale_befunde(const std::string& befehl) {
-    std::string befunde;
-    FILE* const ausgabe = popen((befehl + " 2>&1").c_str(), "r");
-    std::array<char, 4096> puffer{};
-    while (std::fgets(puffer.data(), puffer.size(), ausgabe) != nullptr) {
-        const std::string zeile = puffer.data();
-        befunde += zeile.find(": [warning]") == std::string::npos ? zeile : "";
-    }
-    const int ende = pclose(ausgabe);
-    return ende == 0 || !befunde.empty() ? befunde : "exit " + std::to_string(ende);
-}
-
 /// Texts that nobody should type, in every field that takes any text.
 std::vector<Fall> feindliche_faelle() {
     const std::string texte[] = {"<a href=\"x\">&amp; ]]> <!-- ' -->",
@@ -248,11 +154,12 @@ std::vector<Fall> feindliche_faelle() {
 }
 
 TEST(Rechnungen, RechnenRichtigUndBestehenDieAmtlichenRegeln) {
-    const std::string werkzeug = kit();
+    const std::string werkzeug = PRUEFKIT();
     const Probenordner ordner;
     std::vector<Fall> faelle = feindliche_faelle();
     for (unsigned i = 0; i < kRechnungen; ++i) {
-        faelle.push_back(fall(i));
+        Musterrechnung m;
+        faelle.push_back(FALL(m, i));
     }
     for (const E_Format format : {E_Format::XRechnung, E_Format::ZUGFeRD}) {
         std::string dateien;
@@ -272,7 +179,7 @@ TEST(Rechnungen, RechnenRichtigUndBestehenDieAmtlichenRegeln) {
             dateien += " " + ordner.schreiben(std::to_string(i) + ".xml", xml);
         }
         const char* profil = format == E_Format::XRechnung ? "xrechnung" : "zugferd";
-        EXPECT_EQ(werkzeug.empty() ? "" : fatale_befunde(werkzeug + "/pruefe --profil " + profil + dateien),
+        EXPECT_EQ(werkzeug.empty() ? "" : FATALE_BEFUNDE(werkzeug + "/pruefe --profil " + profil + dateien),
                   "");
     }
     if (werkzeug.empty()) {

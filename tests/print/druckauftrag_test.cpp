@@ -35,6 +35,7 @@ public:
         });
     }
     std::unique_ptr<PrintDevice> pdf(const std::string&, const PrintDocument&) override { return {}; }
+    std::unique_ptr<PrintDevice> archive(const PrintDocument&, TakeBytes) override { return {}; }
     std::unique_ptr<PrintDevice> picture(PictureControl&, const PrintDocument&) override { return {}; }
     void save_page(const DrawnPage&, const std::string&, int) override {}
     void save_charts(const ChartSheet&, const std::string&) override {}
@@ -47,7 +48,7 @@ struct Auftragsprobe : Pruefstand {
     ScriptDesktop desktop{standuhr};
     Lieferscheinoptionen optionen{form1, einstellungen, desktop};
     Designdatei designdatei{verzeichnis, druckdialoge, form1.Hinweise};
-    Belegdruck belegdruck{form1, einstellungen, werte, designdatei};
+    Belegdruck belegdruck{form1, einstellungen, werte, designdatei, [] { return std::nullopt; }};
     Druckauftrag auftrag{form1, einstellungen, belegdruck, druckdialoge, drucker, optionen, [] {}};
 
     std::string drucken(const Choice& wahl = choice::Printer{1}) {

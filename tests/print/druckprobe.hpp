@@ -65,7 +65,7 @@ struct Papiergeraet {
 struct Druckprobe : Pruefstand {
     FesteSchrift schrift;
     Designdatei designdatei{verzeichnis, dialoge, form1.Hinweise};
-    Belegdruck druck{form1, einstellungen, werte, designdatei};
+    Belegdruck druck{form1, einstellungen, werte, designdatei, [] { return std::nullopt; }};
 
     Druckprobe() {
         form1.Text_RNnr.Text = "7";

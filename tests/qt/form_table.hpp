@@ -6,6 +6,7 @@
 #include "app/form_ueber_quittika.hpp"
 #include "barcode/form_etp_barcode.hpp"
 #include "designer/form_designer.hpp"
+#include "einvoice/form_e_rechnung.hpp"
 #include "invoice/form1.hpp"
 #include "masterdata/form_artikelverwaltung.hpp"
 #include "masterdata/form_kundenverwaltung.hpp"
@@ -58,6 +59,8 @@ inline const std::vector<MakeForm> kForms{make<Form1>,
                                           make<Form_VerzWahlAuftrag>,
                                           make<Form_Datensicherung>,
                                           make<Form_Rueckspielen>,
-                                          make<Form_Nummernpruefung>};
+                                          make<Form_Nummernpruefung>,
+
+                                          make<Form_ERechnung>};
 
 } // namespace quittika::test

@@ -68,6 +68,7 @@ TEST(Updatecheck, OhneBrowserSagtEsWoManSelbstNachsieht) {
         void open(const std::string& dokument) override {
             throw Laufzeitfehler(fehler::kDateiFehlt, dokument);
         }
+        void mail(const MailMessage&) override {}
     };
     Pruefstand p;
     KeinBrowser shell;
