@@ -13,10 +13,12 @@
 #include "platform/script/script_dialogs.hpp"
 
 #include <QAbstractButton>
+#include <QAbstractItemView>
 #include <QEventLoop>
 #include <QFont>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QTabWidget>
 #include <QTemporaryDir>
 #include <QTimer>
@@ -74,6 +76,14 @@ void tippen(const char* fenster, const char* feld, const char* text) {
     teil<QLineEdit>(fenster, feld).setText(QString::fromUtf8(text));
 }
 
+/// A text of some lines in a window that is no bigger than it needs.
+void schreiben(const char* name_des_fensters, const char* feld, const char* text) {
+    fenster(name_des_fensters)->resize(420, 230);
+    auto& eingabe = teil<QPlainTextEdit>(name_des_fensters, feld);
+    eingabe.setPlainText(QString::fromUtf8(text));
+    eingabe.moveCursor(QTextCursor::End);
+}
+
 void taste(int code, const QString& text) {
     QKeyEvent druck(QEvent::KeyPress, code, Qt::NoModifier, text);
     QApplication::sendEvent(QApplication::focusWidget(), &druck);
@@ -102,6 +112,20 @@ void zeile_eintippen(Form1& form1) {
     form1.Text_Menge.Text = "3";
     form1.Text_leistung.Text = "Haken, verzinkt";
     form1.Text_preis.Text = "1,25";
+}
+
+/// The sample invoices, sorted by their dates; which page stands below them.
+void analysieren(int seite) {
+    constexpr const char* kAnalyzer = "Form_Analyzer";
+    fenster(kAnalyzer)->resize(1180, 760);
+    druecken(kAnalyzer, "CMD_START_ANALYSE");
+    druecken(kAnalyzer, "CMD_Sortieren(0)");
+    QApplication::processEvents(); // a list follows when its window is idle
+    teil<QAbstractItemView>(kAnalyzer, "List_ANSICHT").setFocus();
+    for (const int code : {Qt::Key_Home, Qt::Key_Down, Qt::Key_Down}) {
+        taste(code, {});
+    }
+    teil<QTabWidget>(kAnalyzer, "SSTab_Ergebnis").setCurrentIndex(seite);
 }
 
 /// A picture more is a row here, and its name in the text of the manual.
@@ -142,6 +166,17 @@ const Aufnahme kAufnahmen[] = {
      [] { scannen("4006381333931"); }},
     {"e-rechnung", "Form_ERechnung", [](Form1& f) { f.m_ERechnung.Click(); }},
     {"programmeinstellungen", "frm_Programm", [](Form1& f) { f.m_Programmeinstellungen.Click(); }},
+    {"analyzer", "Form_Analyzer", [](Form1& f) { f.m_start_analyzer.Click(); }, [] { analysieren(0); }},
+    {"diagramm", "Form_Analyzer", [](Form1& f) { f.m_start_analyzer.Click(); }, [] { analysieren(1); },
+     "SSTab_Ergebnis"},
+    {"textvorlagen", "Form_txt_Vorlagen", [](Form1& f) { f.Cmd_Vorlagen.Click(); }},
+    {"helfer", "Form_Helferlein", [](Form1& f) { f.CMD_FORM_HELFERLEIN.Click(); },
+     [] {
+         schreiben("Form_Helferlein", "Text_Eingabe",
+                   "Eva Lindner\nBachweg 21\n12345 Musterstadt\nTel.: 01234/778899");
+     }},
+    {"notiz", "Form_Notiz", [](Form1& f) { f.Cmd_Notiz.Click(); },
+     [] { schreiben("Form_Notiz", "Text_Notiz", "Ruft am Freitag wieder an."); }},
 };
 
 QImage ausschneiden(QWidget& offen, const char* name) {
@@ -223,6 +258,7 @@ void einrichten(const fs::path& ordner, const std::vector<fs::path>& quellen) {
     }
     std::ofstream(ordner / "prgaufruf.lld") << "1\r\n";
     std::ofstream(ordner / "RN.txt") << "18\r\n";
+    std::ofstream(ordner / "analyse_quelle.txt") << "Rechnungen 2008\r\n";
     fs::current_path(ordner);
 }
 

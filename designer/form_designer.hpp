@@ -94,7 +94,7 @@ struct FORM_DESIGNER : Form {
     ControlArray<TextBox, 3> Text_TIP{FRAME_TIP, "Text_TIP"};
     CommandButton CMD_CLOSE_HELP{FRAME_TIP, "CMD_CLOSE_HELP", "Hilfe schliessen"};
 
-    Menu m_reset{*this, "m_reset", "&Reset der Vorlage"};
+    Menu m_reset{*this, "m_reset", "Reset der Vorlage"};
     Menu m_Rueckgaengig{*this, "m_Rueckgaengig", "Rück&gängig"};
     Menu m_Wiederholen{*this, "m_Wiederholen", "&Wiederholen"};
     // For their shortcuts only; the arrows: left, right, up, down.

@@ -17,8 +17,8 @@ struct Helferform : Form {
           Text_Eingabe(*this, "Text_Eingabe", std::move(muster)) {}
     Label Label1;
     TextBox Text_Eingabe; ///< holds the sample at first
-    CommandButton CMD_Format{*this, "CMD_Format", "&Daten zuordnen"};
-    CommandButton Command1{*this, "Command1", "&Schliessen"};
+    CommandButton CMD_Format{*this, "CMD_Format", "Daten zuordnen"};
+    CommandButton Command1{*this, "Command1", "Schliessen"};
 };
 
 /// For the customer's address.

@@ -13,7 +13,7 @@ struct Form_Notiz : Form {
             "Info: Damit die Notiz dauerhaft gespeichert wird, müssen Sie die Rechnung abspeichern. ");
     }
     TextBox Text_Notiz{*this, "Text_Notiz", vorgabe::kNotiz};
-    CommandButton Cmd_Schliessen{*this, "Cmd_Schliessen", "&Schliessen"};
+    CommandButton Cmd_Schliessen{*this, "Cmd_Schliessen", "Schliessen"};
 };
 
 } // namespace quittika

@@ -34,7 +34,7 @@ struct Form_txt_Vorlagen : Form {
     std::array<Vorlage, kTextvorlagen> Vorlagen;
 
     CommandButton Command1_SAVE{*this, "Command1_SAVE", "&Speichern"};
-    CommandButton Command1{*this, "Command1", "S&chliessen"};
+    CommandButton Command1{*this, "Command1", "S&chließen"};
 
     std::array<OptionButton*, 3> Seitenwahl() { return {&Option1, &Option2, &Option3}; }
     std::array<Frame*, 3> Seiten() { return {&Frame3, &Frame2, &Frame1}; }

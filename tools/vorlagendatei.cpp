@@ -25,10 +25,6 @@ template <class Texte, class Tun> void durchgehen(Texte& texte, const Tun& tun) 
 
 } // namespace
 
-std::string VORLAGENTEXT(std::string_view text) {
-    return einzeilig(std::string(text.substr(0, text.find(';'))));
-}
-
 Vorlagentexte VORLAGEN_LESEN(std::string_view bytes) {
     Vorlagentexte texte;
     std::map<std::string, std::string*> platz;
@@ -47,7 +43,7 @@ Vorlagentexte VORLAGEN_LESEN(std::string_view bytes) {
 Textpuffer VORLAGEN_SCHREIBEN(const Vorlagentexte& texte) {
     Textpuffer puffer;
     durchgehen(texte, [&puffer](const std::string& name, const std::string& text) {
-        puffer.zeile(name + ":" + VORLAGENTEXT(text) + ";");
+        puffer.zeile(name + ":" + einzeilig(text) + ";");
     });
     return puffer;
 }

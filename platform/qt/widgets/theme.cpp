@@ -16,6 +16,7 @@
 #include <QStyleOption>
 #include <QToolButton>
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 namespace quittika::theme {
@@ -118,6 +119,9 @@ public:
         }
         QProxyStyle::drawPrimitive(element, option, painter, widget);
         const bool has_focus = option->state.testFlag(State_HasFocus);
+        if (element == PE_Frame) {
+            draw_outermost(*painter, option->rect, line_color(palette));
+        }
         if (element == PE_Frame && has_focus && qobject_cast<const QAbstractScrollArea*>(widget) != nullptr) {
             outline(*painter, option->rect, focus_color(palette.color(QPalette::Base)), 0);
         } else if (element == PE_FrameFocusRect) {
@@ -184,6 +188,24 @@ private:
         const double shift = radius > 0 ? 0.5 : 0.0;
         painter.drawRoundedRect(QRectF(rect).adjusted(shift, shift, shift - 1, shift - 1), radius, radius);
         painter.restore();
+        if (radius == 0) {
+            draw_outermost(painter, rect, color);
+        }
+    }
+
+    /// Between two whole scales lines may fall outside, or under what stands in the frame; its outermost
+    /// pixels do neither.
+    static void draw_outermost(QPainter& painter, const QRect& rect, const QColor& color) {
+        const double scale = painter.deviceTransform().m11();
+        if (scale == std::round(scale)) {
+            return;
+        }
+        const double pixel = 1 / scale;
+        const QRectF whole(rect);
+        painter.fillRect(QRectF(whole.left(), whole.top(), whole.width(), pixel), color);
+        painter.fillRect(QRectF(whole.left(), whole.bottom() - pixel, whole.width(), pixel), color);
+        painter.fillRect(QRectF(whole.left(), whole.top(), pixel, whole.height()), color);
+        painter.fillRect(QRectF(whole.right() - pixel, whole.top(), pixel, whole.height()), color);
     }
 
     /// The style draws arrows on buttons in the text colour of the window, which may be that of the buttons.
