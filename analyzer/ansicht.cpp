@@ -53,8 +53,8 @@ std::string spaltentext(const Rechnungstabelle& daten, const Tabellenspalte& spa
     return spalte.rohspalte == rohdatum::kNummer ? daten.nummer(zeile) : daten.text(spalte.rohspalte, zeile);
 }
 
-std::optional<std::int64_t> zahlwert(Spaltenart art, std::string_view text) {
-    if (art == Spaltenart::Betrag) {
+std::optional<std::int64_t> zahlwert(Wertart art, std::string_view text) {
+    if (art == Wertart::Betrag) {
         return CENT(text);
     }
     const auto tag = datum_lesen(text);
@@ -81,7 +81,7 @@ void sortieren(std::vector<int>& zeilen, bool absteigend, const Schluessel& schl
 
 void nach_spalte_sortieren(std::vector<int>& zeilen, const Rechnungstabelle& daten,
                            const Tabellenspalte& spalte, bool absteigend) {
-    if (spalte.art != Spaltenart::Text) {
+    if (spalte.art != Wertart::Text) {
         const auto wert = [&](int zeile) {
             return zahlwert(spalte.art, daten.text(spalte.rohspalte, zeile));
         };

@@ -11,28 +11,28 @@
 namespace quittika {
 
 /// How the texts of a column are compared.
-enum class Spaltenart { Text, Datum, Betrag };
+enum class Wertart { Text, Datum, Betrag };
 
 /// A column of the table.
 struct Tabellenspalte {
     std::string_view name;
     std::size_t rohspalte;
-    Spaltenart art;
+    Wertart art;
 };
 
 /// From left to right.
 inline constexpr std::array<Tabellenspalte, 11> kTabellenspalten{{
-    {"Datum", rohdatum::kDatum, Spaltenart::Datum},
-    {"Rechnungsnummer", rohdatum::kNummer, Spaltenart::Text},
-    {"Kundennummer", rohdatum::kKundennummer, Spaltenart::Text},
-    {"Kundenname", rohdatum::kKundenname, Spaltenart::Text},
-    {"versendet", rohdatum::kVersendet, Spaltenart::Text},
-    {"abgemahnt", rohdatum::kAbgemahnt, Spaltenart::Text},
-    {"Mahnstufe", rohdatum::kMahnstufe, Spaltenart::Betrag},
-    {"bezahlt", rohdatum::kBezahlt, Spaltenart::Text},
-    {"Netto", rohdatum::kNetto, Spaltenart::Betrag},
-    {"MwSt", rohdatum::kMwSt, Spaltenart::Betrag},
-    {"Brutto", rohdatum::kBrutto, Spaltenart::Betrag},
+    {"Datum", rohdatum::kDatum, Wertart::Datum},
+    {"Rechnungsnummer", rohdatum::kNummer, Wertart::Text},
+    {"Kundennummer", rohdatum::kKundennummer, Wertart::Text},
+    {"Kundenname", rohdatum::kKundenname, Wertart::Text},
+    {"versendet", rohdatum::kVersendet, Wertart::Text},
+    {"abgemahnt", rohdatum::kAbgemahnt, Wertart::Text},
+    {"Mahnstufe", rohdatum::kMahnstufe, Wertart::Betrag},
+    {"bezahlt", rohdatum::kBezahlt, Wertart::Text},
+    {"Netto", rohdatum::kNetto, Wertart::Betrag},
+    {"MwSt", rohdatum::kMwSt, Wertart::Betrag},
+    {"Brutto", rohdatum::kBrutto, Wertart::Betrag},
 }};
 
 /// What the user wants to see of the table.

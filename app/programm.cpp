@@ -256,7 +256,7 @@ struct Programm::Teile {
 
     // The main window: its areas, then the window, then its menus.
     Standaufnahme standaufnahme{form1,  werte,      zustand, eingabezeile, rechnung,
-                                summen, positionen, nummern, stand};
+                                summen, positionen, nummern, stand,        sperre};
     Rueckgaengig rueckgaengig{form1, zustand, standaufnahme, platform.desktop.activity()};
     Ereignisse ereignisse{form1.Hinweise, zustand, summen, rueckgaengig};
     Kopf kopf{form1, ereignisse, kunde_aufnehmen, platform.clock};

@@ -7,8 +7,8 @@
 #include "platform/recording.hpp"
 #include "platform/text.hpp"
 #include "print/vorschaumass.hpp"
+#include "safety/belegauszug.hpp"
 #include "safety/fassungsvergleich.hpp"
-#include "safety/rechnungsauszug.hpp"
 
 #include <algorithm>
 #include <filesystem>
@@ -33,7 +33,7 @@ std::string listenzeile(std::initializer_list<std::string> felder) {
 std::string fassungszeile(const Fassung& fassung, bool rechnung) {
     try {
         if (rechnung) {
-            const Rechnungsauszug auszug = RECHNUNGSAUSZUG(bytes_lesen(fassung.pfad, kHoechstbytes));
+            const Belegauszug auszug = BELEGAUSZUG(bytes_lesen(fassung.pfad, kHoechstbytes));
             const bool mit_zeit = auszug.lesbar && !auszug.gespeichert.empty();
             return listenzeile({mit_zeit ? auszug.gespeichert : datum_zeit_text(fassung.zeit), auszug.kunde,
                                 auszug.nummer, auszug.betrag});
@@ -141,7 +141,7 @@ std::optional<std::string> Fassungsfenster::Inhalt(const Anzeige& a) const {
 
 void Fassungsfenster::FassungZeigen(Anzeige& a) const {
     const auto bytes = Inhalt(a);
-    const bool rechnung = bytes && RECHNUNGSAUSZUG(*bytes).lesbar && a.muster->LESEN(*bytes);
+    const bool rechnung = bytes && BELEGAUSZUG(*bytes).lesbar && a.muster->LESEN(*bytes);
     a.form.Command_Oeffnen.Enabled = rechnung;
     a.form.Command_Kopie.Enabled = bytes.has_value();
     a.form.Picture1.Visible = rechnung;

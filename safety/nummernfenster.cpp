@@ -6,6 +6,7 @@
 #include "platform/forms/tasten.hpp"
 #include "platform/laufzeitfehler.hpp"
 #include "platform/textdatei.hpp"
+#include "safety/fassungsablage.hpp"
 
 #include <filesystem>
 #include <utility>
@@ -92,7 +93,8 @@ void Nummernfenster::Command_Pruefen_Click() {
         Nummernliste liste;
         {
             const auto fortschritt = progress_.begin("Rechnungsnummern werden gelesen");
-            liste = NUMMERN_EINLESEN(ordner_, form_.Check_Unterordner.ticked(), *fortschritt);
+            liste = NUMMERN_EINLESEN(ordner_, form_.Check_Unterordner.ticked(),
+                                     SICHERUNGSORDNER(verzeichnis_), *fortschritt);
         }
         if (liste.abgebrochen) {
             form_.Label_Zusammenfassung.Caption = "Abgebrochen: was fehlt oder doppelt ist, zeigt sich erst, "

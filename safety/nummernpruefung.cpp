@@ -2,6 +2,7 @@
 
 #include "analyzer/rechnungsauszug.hpp"
 #include "invoice/file/dateifelder.hpp"
+#include "platform/datei.hpp"
 #include "platform/dateianfang.hpp"
 #include "platform/dateisuche.hpp"
 #include "platform/laufzeitfehler.hpp"
@@ -86,7 +87,7 @@ void luecken_suchen(const std::string& name, const Reihe& reihe, std::vector<Num
     }
 }
 
-std::vector<std::string> dateien_mit_unterordnern(const std::string& ordner) {
+std::vector<std::string> dateien_mit_unterordnern(const std::string& ordner, const std::string& ohne) {
     std::vector<std::string> dateien = DATEIEN_SUCHEN(ordner, "*.qk8");
     std::set<std::string> unterordner;
     std::error_code fehler;
@@ -94,9 +95,11 @@ std::vector<std::string> dateien_mit_unterordnern(const std::string& ordner) {
     for (std::filesystem::recursive_directory_iterator i(ordner, darf, fehler), ende; !fehler && i != ende;
          i.increment(fehler)) {
         std::error_code egal;
-        if (i->path().filename().string().front() == '.') {
+        const bool darunter = i->is_directory(egal) && !i->is_symlink(egal);
+        if (i->path().filename().string().front() == '.' ||
+            (darunter && IST_DIESELBE_DATEI(i->path().string(), ohne))) {
             i.disable_recursion_pending();
-        } else if (i->is_directory(egal) && !i->is_symlink(egal)) {
+        } else if (darunter) {
             unterordner.insert(i->path().string().substr(ordner.size() + (ordner.back() == '/' ? 0 : 1)));
         }
     }
@@ -198,11 +201,11 @@ std::string LUECKENTEXT(const Nummernluecke& luecke) {
            std::to_string(luecke.bis - luecke.von + 1) + " Nummern)";
 }
 
-Nummernliste NUMMERN_EINLESEN(const std::string& ordner, bool mit_unterordnern,
+Nummernliste NUMMERN_EINLESEN(const std::string& ordner, bool mit_unterordnern, const std::string& ohne,
                               ProgressDisplay& fortschritt) {
     const std::string ort = systempfad(ordner);
     const std::vector<std::string> dateien =
-        mit_unterordnern ? dateien_mit_unterordnern(ort) : DATEIEN_SUCHEN(ort, "*.qk8");
+        mit_unterordnern ? dateien_mit_unterordnern(ort, ohne) : DATEIEN_SUCHEN(ort, "*.qk8");
     Nummernliste liste;
     Dateianfang leser;
     std::size_t gelesen = 0;

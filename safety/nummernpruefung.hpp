@@ -67,8 +67,10 @@ struct Nummernliste {
     bool abgebrochen = false;
 };
 
-/// Reads the `*.qk8` files of a folder, or of all folders below it, too, as far as they are needed. Throws
-/// `Laufzeitfehler` for a folder that cannot be read.
-Nummernliste NUMMERN_EINLESEN(const std::string& ordner, bool mit_unterordnern, ProgressDisplay& fortschritt);
+/// Reads the `*.qk8` files of a folder, or of all folders below it, too, as far as they are needed.
+/// `ohne`: a folder that is left out with all below it. Throws `Laufzeitfehler` for a folder that cannot be
+/// read.
+Nummernliste NUMMERN_EINLESEN(const std::string& ordner, bool mit_unterordnern, const std::string& ohne,
+                              ProgressDisplay& fortschritt);
 
 } // namespace quittika

@@ -4,6 +4,7 @@
 #include "platform/text.hpp"
 #include "platform/textdatei.hpp"
 #include "platform/verzeichnis.hpp"
+#include "safety/entwurf.hpp"
 #include "safety/sicherungsnamen.hpp"
 
 #include <algorithm>
@@ -137,8 +138,10 @@ Sicherungsplan SICHERUNG_PLANEN(const std::string& programmordner, const std::ve
     for (fs::directory_iterator i(programm), ende; i != ende; ++i) {
         const std::string name = i->path().filename().string();
         if (i->is_directory() && PROGRAMMGRUPPE(name + "/x.png")) {
-            sammler.ordner(kProgrammteil + ("/" + name), i->path().string(),
-                           [&](const std::string& pfad) { return programmdatei(name + "/" + pfad); });
+            sammler.ordner(kProgrammteil + ("/" + name), i->path().string(), [&](const std::string& pfad) {
+                return programmdatei(name + "/" + pfad) &&
+                       !IST_ENTWURF_IN_ARBEIT(i->path().string() + "/" + pfad);
+            });
         } else if (!i->is_directory() && programmdatei(name) && !IST_AUSGENOMMEN(name)) {
             sammler.datei(kProgrammteil + ("/" + name), i->path().string());
         }
@@ -164,7 +167,12 @@ Sicherungsplan SICHERUNG_PLANEN(const std::string& programmordner, const std::ve
             continue;
         }
         sammler.ordner(neuer_ordner("Rechnungen", pfad), pfad, [&](const std::string& name) {
-            return pfad != programm || (name.find('/') != std::string::npos && !programmdatei(name));
+            const std::string ort = (fs::path(pfad) / name).string();
+            if (!liegt_in(ort, programm)) {
+                return true;
+            }
+            const std::string innen = ort.substr(programm.size() + 1);
+            return innen.find('/') != std::string::npos && !programmdatei(innen);
         });
     }
     for (const std::string& bild : bilder) {

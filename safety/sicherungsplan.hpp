@@ -23,7 +23,8 @@ struct Sicherungsplan {
 };
 
 /// Gathers the program's files, the files of the invoice folders with all that lies below, and pictures that
-/// lie elsewhere. Hidden files, other backups and folders behind links are passed over.
+/// lie elsewhere. Hidden files, other backups, drafts of programs that run and folders behind
+/// links are passed over.
 /// `programmordner`: a system path. `ziel`: the backup itself, where it is a file already.
 /// Throws `Sicherungsfehler` for more files than a backup holds.
 Sicherungsplan SICHERUNG_PLANEN(const std::string& programmordner, const std::vector<std::string>& ordner,

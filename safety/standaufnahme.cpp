@@ -8,7 +8,8 @@ namespace quittika {
 
 Standaufnahme::Standaufnahme(Form1& form1, PROGRAMMEINSTELLUNG& werte, Rechnungszustand& zustand,
                              Eingabezeile& eingabezeile, Rechnung& rechnung, Summen& summen,
-                             Positionen& positionen, Rechnungsnummern& nummern, Dateistand& dateistand)
+                             Positionen& positionen, Rechnungsnummern& nummern, Dateistand& dateistand,
+                             Rechnungssperre& sperre)
     : form1_(form1),
       werte_(werte),
       zustand_(zustand),
@@ -18,6 +19,7 @@ Standaufnahme::Standaufnahme(Form1& form1, PROGRAMMEINSTELLUNG& werte, Rechnungs
       positionen_(positionen),
       nummern_(nummern),
       dateistand_(dateistand),
+      sperre_(sperre),
       felder_(STANDFELDER(form1, zustand, rechnung, eingabezeile)),
       nummernfeld_(NUMMERNFELD(felder_)) {}
 
@@ -128,10 +130,16 @@ void Standaufnahme::zeilen_setzen(const Zeilentausch& tausch) {
 }
 
 void Standaufnahme::beleg_setzen(const Belegbezug& beleg) {
+    const auto anderer = beleg.ist_datei ? sperre_.WerSonst(beleg.pfad) : std::nullopt;
     zustand_.BelegWiederholen(beleg.beleg);
-    zustand_.DateiSetzen(beleg.pfad);
+    zustand_.DateiSetzen(anderer ? std::string() : beleg.pfad);
     if (!beleg.ist_datei) {
         zustand_.DateiLoesen();
+    }
+    sperre_.Setzen(zustand_.IstDateiDesPfads() ? beleg.pfad : std::string());
+    if (anderer) {
+        form1_.Hinweise.melden("Die Rechnung ist inzwischen geöffnet von " + SPERRTEXT(*anderer) +
+                               ": Änderungen lassen sich unter einem anderen Namen speichern.");
     }
     form1_.Label_Pfad.Caption = beleg.pfadanzeige;
     dateistand_ = beleg.dateistand;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "invoice/file/rechnungsnummern.hpp"
+#include "invoice/file/rechnungssperre.hpp"
 #include "invoice/positionen.hpp"
 #include "safety/rechnungsstand.hpp"
 #include "safety/standfelder.hpp"
@@ -19,12 +20,13 @@ class Standaufnahme {
 public:
     Standaufnahme(Form1& form1, PROGRAMMEINSTELLUNG& werte, Rechnungszustand& zustand,
                   Eingabezeile& eingabezeile, Rechnung& rechnung, Summen& summen, Positionen& positionen,
-                  Rechnungsnummern& nummern, Dateistand& dateistand);
+                  Rechnungsnummern& nummern, Dateistand& dateistand, Rechnungssperre& sperre);
 
     /// Brings `stand` to what is in the window now; answers the way back, without a name. What only belongs
     /// to the invoice's file and to its number from the counter is taken over and is no step.
     Schritt nachfuehren(Rechnungsstand& stand);
-    /// Brings the window to where `schritt` leads from what is in it now.
+    /// Brings the window to where `schritt` leads from what is in it now. The file of another invoice is
+    /// locked again; one that somebody else has opened meanwhile is no longer saved to directly.
     void gehen(const Schritt& schritt);
 
     const std::vector<Standfeld>& felder() const { return felder_; }
@@ -50,6 +52,7 @@ private:
     Positionen& positionen_;
     Rechnungsnummern& nummern_;
     Dateistand& dateistand_;
+    Rechnungssperre& sperre_;
     std::vector<Standfeld> felder_;
     std::size_t nummernfeld_;
     std::array<std::uint64_t, 5> gelesen_{}; ///< revisions of the lists that were read last

@@ -1,7 +1,7 @@
 #include "safety/wiederherstellung.hpp"
 
 #include "invoice/programmname.hpp"
-#include "safety/rechnungsauszug.hpp"
+#include "safety/belegauszug.hpp"
 
 #include <utility>
 
@@ -13,7 +13,7 @@ Wiederherstellung::Wiederherstellung(Entwurf& entwurf, Fassungsablage& fassungen
 
 void Wiederherstellung::Anbieten() {
     while (auto fund = entwurf_.Finden()) {
-        if (RECHNUNGSAUSZUG(fund->bytes).lesbar && Fragen(fund->bytes)) {
+        if (BELEGAUSZUG(fund->bytes).lesbar && Fragen(fund->bytes)) {
             dateibefehle_.AlsUngespeichertOeffnen(fund->bytes);
             entwurf_.Uebernehmen(std::move(*fund));
             return;
@@ -25,7 +25,7 @@ void Wiederherstellung::Anbieten() {
 }
 
 bool Wiederherstellung::Fragen(const std::string& bytes) const {
-    const Rechnungsauszug auszug = RECHNUNGSAUSZUG(bytes);
+    const Belegauszug auszug = BELEGAUSZUG(bytes);
     return dialogs_.message({"Quittika wurde beim letzten Mal nicht richtig beendet. Diese Rechnung war noch "
                              "nicht gespeichert:\r\n\r\nStand: " +
                                  auszug.gespeichert + "\r\nKunde: " + auszug.kunde +

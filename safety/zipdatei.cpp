@@ -36,10 +36,14 @@ Archiv oeffnen(Archivstrom& strom, int art) {
     zip_error_t fehler;
     zip_error_init(&fehler);
     Archiv archiv(quelle == nullptr ? nullptr : zip_open_from_source(quelle, art, &fehler));
+    const bool zweimal = zip_error_code_zip(&fehler) == ZIP_ER_EXISTS;
     zip_error_fini(&fehler);
     if (archiv == nullptr) {
         zip_source_free(quelle);
         strom.ausnahme_werfen();
+        if (zweimal) {
+            throw Sicherungsfehler("Diese Datei wird nicht zurückgespielt: sie enthält einen Namen zweimal.");
+        }
         beschaedigt();
     }
     return archiv;

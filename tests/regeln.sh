@@ -26,6 +26,16 @@ hits=$(grep -rnE '#include "app/' --include='*.cpp' --include='*.hpp' . | grep -
 hits=$(git ls-files -- '*.hpp' | xargs -r grep -L '#pragma once')
 [ -n "$hits" ] && complain "headers without an include guard" "$hits"
 
+# The linker takes one of them for both, and the program breaks where the other one is meant.
+hits=$(git ls-files -- '*.hpp' | grep -vE '^(tests|benchmarks)/' | xargs -r awk '
+    /^namespace .*{$/ { space[++depth] = $2 }
+    /^} *\/\/ namespace/ { --depth }
+    /^(struct|class|enum class) .*{/ { name = space[depth] "::" ($1 == "enum" ? $3 : $2)
+        if (name in seen) print name ": " seen[name] ", " FILENAME
+        seen[name] = FILENAME }
+    FNR == 1 { depth = 0 }')
+[ -n "$hits" ] && complain "two types of one name" "$hits"
+
 if ! command -v clang-format >/dev/null; then
     complain "clang-format is missing" "apt-get install clang-format"
 else

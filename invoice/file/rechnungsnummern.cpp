@@ -60,7 +60,11 @@ void Rechnungsnummern::RNNUMMERZUWEISEN() {
 }
 
 bool Rechnungsnummern::IstVorlaeufig() const {
-    return automatisch() && !zustand_.IstDateiDesPfads() && form1_.Text_RNnr.Text() == gezeigt_;
+    return automatisch() && ZeigtNaechste();
+}
+
+bool Rechnungsnummern::ZeigtNaechste() const {
+    return !zustand_.IstDateiDesPfads() && !verbraucht_ && form1_.Text_RNnr.Text() == gezeigt_;
 }
 
 std::string Rechnungsnummern::NummerErneuern() {
@@ -89,12 +93,13 @@ std::optional<Dateisperre> Rechnungsnummern::Sperren() const {
 }
 
 std::string Rechnungsnummern::NummerVerbrauchen() {
-    verbraucht_ = false;
     if (!automatisch()) {
+        verbraucht_ = false;
         return {};
     }
     const auto sperre = Sperren();
     std::string meldung = NummerErneuern();
+    verbraucht_ = false;
     ZaehlerHeben();
     return meldung;
 }
@@ -140,11 +145,10 @@ void Rechnungsnummern::Command_RNSTartwertSET_Click() {
 }
 
 void Rechnungsnummern::NummerAuffrischen() {
-    const bool eigene = zustand_.IstDateiDesPfads() || form1_.Text_RNnr.Text() != gezeigt_;
-    if (eigene) {
-        form1_.Text_RNnr.Locked = automatisch();
-    } else {
+    if (ZeigtNaechste()) {
         NummerZeigen();
+    } else {
+        form1_.Text_RNnr.Locked = automatisch();
     }
 }
 
@@ -188,6 +192,7 @@ std::string Rechnungsnummern::Nummer() const {
 void Rechnungsnummern::NummerZeigen() {
     const Rechnungszustand::Sperre still(zustand_);
     gezeigt_ = Nummer();
+    verbraucht_ = false;
     form1_.Text_RNnr.Text = gezeigt_;
     form1_.Text_RNnr.Locked = automatisch();
 }

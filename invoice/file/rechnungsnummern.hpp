@@ -56,6 +56,8 @@ public:
 private:
     bool automatisch() const { return einstellungen_.Check_RN_automatisch.ticked(); }
     std::string Nummer() const;
+    /// Whether the invoice in hand shows the number that was put there last, and has not used it up.
+    bool ZeigtNaechste() const;
     /// Takes over the counter in RN.txt where it is higher.
     Zaehlerstand ZaehlerNachlesen();
     void LesbarkeitMelden(const Zaehlerstand& stand);
@@ -71,8 +73,8 @@ private:
     const Programmverzeichnis& verzeichnis_;
     Dialogs& dialogs_;
     int zaehler_ = 1;
-    bool verbraucht_ = false; ///< by the invoice that is being written
     std::string gezeigt_;     ///< the number that was put into `Text_RNnr` last
+    bool verbraucht_ = false; ///< a file that was written has it, or the one that is being written
 };
 
 } // namespace quittika

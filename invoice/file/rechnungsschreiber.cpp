@@ -103,6 +103,9 @@ std::string Rechnungsschreiber::Abbild(const std::string& gespeichert, bool vorl
 bool Rechnungsschreiber::DateiSchreiben(const std::string& pfad) {
     const Textpuffer datei = Dateitext(datum_zeit_text(uhr_.now()));
     stand_.vormerken(datei.bytes());
+    if (VorSchreiben) {
+        VorSchreiben(pfad, datei.bytes());
+    }
     if (!ablage_.Ablegen(pfad, datei)) {
         return false;
     }

@@ -11,7 +11,9 @@
 #include "platform/verzeichnis.hpp"
 #include "settings/programmeinstellung.hpp"
 
+#include <functional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace quittika {
@@ -22,6 +24,9 @@ public:
     Rechnungsschreiber(Form1& form1, const PROGRAMMEINSTELLUNG& einstellung, const Rechnungszustand& zustand,
                        const Programmverzeichnis& verzeichnis, Dateistand& stand, Dialogs& dialogs,
                        const Clock& uhr);
+
+    /// Called before the file is written, with what it will hold.
+    std::function<void(const std::string& pfad, std::string_view bytes)> VorSchreiben;
 
     /// Fills `DatenSchreiben` from the window.
     void DateiDatenSammeln();

@@ -318,7 +318,7 @@ TEST(Datensicherung, what_nobody_should_unpack_is_refused) {
         {"folder that is not named", eine("Rechnungen 7/x.qk8"), fremd},
         {"no picture", eine("Bilder 2/x.desktop"), fremd},
         {"outside of all", eine("x.qk8"), fremd},
-        {"twice", zwei("Rechnungen 1/a.qk8", "Rechnungen 1/a.qk8"), keine},
+        {"twice", zwei("Rechnungen 1/a.qk8", "Rechnungen 1/a.qk8"), doppelt},
         {"twice but for the case", zwei("Rechnungen 1/ä.qk8", "Rechnungen 1/Ä.QK8"), doppelt},
         {"twice in numbers", zwei("Rechnungen 1/a.qk8", "Rechnungen 1/%61.qk8"), doppelt},
         {"file and folder", zwei("Rechnungen 1/a", "Rechnungen 1/a/b.qk8"), doppelt},

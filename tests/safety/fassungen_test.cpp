@@ -1,8 +1,8 @@
+#include "safety/belegauszug.hpp"
 #include "safety/entwurf.hpp"
 #include "safety/fassungsablage.hpp"
 #include "safety/fassungsname.hpp"
 #include "safety/fassungsvergleich.hpp"
-#include "safety/rechnungsauszug.hpp"
 #include "tests/pruefstand.hpp"
 #include "tests/stoerung.hpp"
 
@@ -159,7 +159,7 @@ TEST(Fassungen, HaltenKeinSpeichernAuf) {
         [](Netz& n, bool gelungen) {
             const std::string jetzt = n.ordner.lesen("x.qk8");
             const bool neu = jetzt.find(";neu;") != std::string::npos;
-            EXPECT_TRUE(RECHNUNGSAUSZUG(jetzt).lesbar && jetzt.ends_with("\r\n"));
+            EXPECT_TRUE(BELEGAUSZUG(jetzt).lesbar && jetzt.ends_with("\r\n"));
             EXPECT_TRUE(!gelungen || neu);
             const std::vector<std::string> frueher = n.inhalte("x.qk8");
             for (const std::string& fassung : frueher) {
@@ -188,7 +188,7 @@ TEST(Entwurf, IstGanzOderDerAlte) {
         },
         [](Netz& n, bool /*gelungen*/) {
             const std::string entwurf = n.ordner.lesen("Sicherung/entwurf.qk8");
-            EXPECT_TRUE(RECHNUNGSAUSZUG(entwurf).lesbar && entwurf.ends_with("\r\n"));
+            EXPECT_TRUE(BELEGAUSZUG(entwurf).lesbar && entwurf.ends_with("\r\n"));
             EXPECT_THAT(entwurf, HasSubstr(";alt;"));
             n.entwurf.Sichern();
             EXPECT_THAT(n.ordner.lesen("Sicherung/entwurf.qk8"), HasSubstr(";neu;"));

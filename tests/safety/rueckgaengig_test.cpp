@@ -11,7 +11,8 @@ namespace quittika {
 namespace {
 
 struct Probe : Pruefstand {
-    Standaufnahme aufnahme{form1, werte, zustand, eingabezeile, rechnung, summen, positionen, nummern, stand};
+    Standaufnahme aufnahme{form1,  werte,      zustand, eingabezeile, rechnung,
+                           summen, positionen, nummern, stand,        sperre};
     Activity alles; ///< never comes to rest: each deed below tells its end itself
     Rueckgaengig schritte{form1, zustand, aufnahme, alles};
 

@@ -6,7 +6,7 @@
 namespace quittika {
 
 /// What lists tell of an invoice, read from the bytes of its file.
-struct Rechnungsauszug {
+struct Belegauszug {
     bool lesbar = false;     ///< it is one
     std::string gespeichert; ///< date and time
     std::string datum;
@@ -15,6 +15,6 @@ struct Rechnungsauszug {
     std::string betrag;
 };
 
-Rechnungsauszug RECHNUNGSAUSZUG(std::string_view bytes);
+Belegauszug BELEGAUSZUG(std::string_view bytes);
 
 } // namespace quittika

@@ -1,4 +1,4 @@
-#include "safety/rechnungsauszug.hpp"
+#include "safety/belegauszug.hpp"
 
 #include "invoice/file/dateifelder.hpp"
 #include "platform/text.hpp"
@@ -14,8 +14,8 @@ constexpr int kBetrag = 54;
 
 } // namespace
 
-Rechnungsauszug RECHNUNGSAUSZUG(std::string_view bytes) {
-    Rechnungsauszug auszug;
+Belegauszug BELEGAUSZUG(std::string_view bytes) {
+    Belegauszug auszug;
     int nummer = 0;
     zeilen_durchgehen(bytes, [&](std::string_view zeile) {
         if (nummer == 0) {
