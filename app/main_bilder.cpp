@@ -140,7 +140,17 @@ const Aufnahme kAufnahmen[] = {
     {"umschlag", "Form2_Breiter_Brief", [](Form1& f) { f.m_druckenBRIEF.Click(); }},
     {"scanner", "Form_Etp_Barcode", [](Form1& f) { f.Cmd_Barcode.Click(); },
      [] { scannen("4006381333931"); }},
-    {"e-rechnung", "Form_ERechnung", [](Form1& f) { f.m_ERechnung.Click(); }},
+    {"e-rechnung", "Form_ERechnung", [](Form1& f) { f.m_ERechnung.Click(); },
+     [] {
+         tippen("Form_ERechnung", "Text_Verkaeufer_Name", "Tischlerei Hölzer");
+         tippen("Form_ERechnung", "Text_Verkaeufer_Strasse", "Sägeweg 7");
+         tippen("Form_ERechnung", "Text_Verkaeufer_PLZ", "50667");
+         tippen("Form_ERechnung", "Text_Verkaeufer_Ort", "Köln");
+         tippen("Form_ERechnung", "Text_Verkaeufer_USt_IdNr", "DE136695976");
+         tippen("Form_ERechnung", "Text_Verkaeufer_Telefon", "0221 4711");
+         tippen("Form_ERechnung", "Text_Zahlungstage", "14");
+         fenster("Form_ERechnung")->resize(820, 560);
+     }},
     {"programmeinstellungen", "frm_Programm", [](Form1& f) { f.m_Programmeinstellungen.Click(); }},
 };
 

@@ -36,7 +36,7 @@ constexpr const char* kTitel = "E-Rechnung";
 
 ERechnung::ERechnung(Form_ERechnung& form, Form1& form1, frm_einstellungen& einstellungen,
                      E_Rechnungsausgabe& ausgabe, const Angabenspeicher& speicher, Dialogs& dialogs,
-                     Shell& shell, std::function<void()> jetztberechnen_List)
+                     Shell& shell, std::function<void()> vor_der_ausgabe)
     : form_(form),
       form1_(form1),
       einstellungen_(einstellungen),
@@ -44,7 +44,7 @@ ERechnung::ERechnung(Form_ERechnung& form, Form1& form1, frm_einstellungen& eins
       speicher_(speicher),
       dialogs_(dialogs),
       shell_(shell),
-      jetztberechnen_List_(std::move(jetztberechnen_List)) {
+      vor_der_ausgabe_(std::move(vor_der_ausgabe)) {
     verdrahten();
 }
 
@@ -77,7 +77,6 @@ void ERechnung::verdrahten() {
 }
 
 void ERechnung::Form_Load() {
-    jetztberechnen_List_();
     {
         const Merker hier(fuellt_);
         GRUENDE_ANBIETEN(form_);
@@ -256,7 +255,7 @@ void ERechnung::Command_XRechnung_Click() {
 
 std::string ERechnung::speichern(const std::string& endung, const FileDialog& dialog,
                                  const std::function<std::string()>& bytes) {
-    jetztberechnen_List_();
+    vor_der_ausgabe_();
     auffrischen(); // the last look at the invoice may be half a second old
     try {
         FileDialog frage = dialog;
