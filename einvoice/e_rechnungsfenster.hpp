@@ -33,6 +33,7 @@ private:
     void pruefen();
     void zum_feld();
     bool merken();
+    bool noch_vollstaendig(const E_Rechnung& rechnung);
     void Command_OK_Click();
     void Command_ZUGFeRD_Click();
     void Command_XRechnung_Click();
