@@ -131,15 +131,6 @@ const Aufnahme kAufnahmen[] = {
          fenster("Form_Druckvorschau")->resize(660, 960);
          druecken("Form_Druckvorschau", "Command_Seite");
      }},
-    {"lieferschein", "Form_Lieferschein_opt",
-     [](Form1& f) {
-         f.Option_LIEFERSCHEIN.Value = true;
-         f.m_Rechnung_pdf_export.Click();
-     },
-     [] {}},
-    {"umschlag", "Form2_Breiter_Brief", [](Form1& f) { f.m_druckenBRIEF.Click(); }},
-    {"scanner", "Form_Etp_Barcode", [](Form1& f) { f.Cmd_Barcode.Click(); },
-     [] { scannen("4006381333931"); }},
     {"e-rechnung", "Form_ERechnung", [](Form1& f) { f.m_ERechnung.Click(); },
      [] {
          tippen("Form_ERechnung", "Text_Verkaeufer_Name", "Tischlerei Hölzer");
@@ -149,8 +140,17 @@ const Aufnahme kAufnahmen[] = {
          tippen("Form_ERechnung", "Text_Verkaeufer_USt_IdNr", "DE136695976");
          tippen("Form_ERechnung", "Text_Verkaeufer_Telefon", "0221 4711");
          tippen("Form_ERechnung", "Text_Zahlungstage", "14");
-         fenster("Form_ERechnung")->resize(820, 560);
+         fenster("Form_ERechnung")->resize(820, 620);
      }},
+    {"lieferschein", "Form_Lieferschein_opt",
+     [](Form1& f) {
+         f.Option_LIEFERSCHEIN.Value = true;
+         f.m_Rechnung_pdf_export.Click();
+     },
+     [] {}},
+    {"umschlag", "Form2_Breiter_Brief", [](Form1& f) { f.m_druckenBRIEF.Click(); }},
+    {"scanner", "Form_Etp_Barcode", [](Form1& f) { f.Cmd_Barcode.Click(); },
+     [] { scannen("4006381333931"); }},
     {"programmeinstellungen", "frm_Programm", [](Form1& f) { f.m_Programmeinstellungen.Click(); }},
 };
 
