@@ -155,6 +155,17 @@ const Aufnahme kAufnahmen[] = {
          fenster("Form_Druckvorschau")->resize(660, 960);
          druecken("Form_Druckvorschau", "Command_Seite");
      }},
+    {"e-rechnung", "Form_ERechnung", [](Form1& f) { f.m_ERechnung.Click(); },
+     [] {
+         tippen("Form_ERechnung", "Text_Verkaeufer_Name", "Tischlerei Hölzer");
+         tippen("Form_ERechnung", "Text_Verkaeufer_Strasse", "Sägeweg 7");
+         tippen("Form_ERechnung", "Text_Verkaeufer_PLZ", "50667");
+         tippen("Form_ERechnung", "Text_Verkaeufer_Ort", "Köln");
+         tippen("Form_ERechnung", "Text_Verkaeufer_USt_IdNr", "DE136695976");
+         tippen("Form_ERechnung", "Text_Verkaeufer_Telefon", "0221 4711");
+         tippen("Form_ERechnung", "Text_Zahlungstage", "14");
+         fenster("Form_ERechnung")->resize(820, 620);
+     }},
     {"lieferschein", "Form_Lieferschein_opt",
      [](Form1& f) {
          f.Option_LIEFERSCHEIN.Value = true;
@@ -164,7 +175,6 @@ const Aufnahme kAufnahmen[] = {
     {"umschlag", "Form2_Breiter_Brief", [](Form1& f) { f.m_druckenBRIEF.Click(); }},
     {"scanner", "Form_Etp_Barcode", [](Form1& f) { f.Cmd_Barcode.Click(); },
      [] { scannen("4006381333931"); }},
-    {"e-rechnung", "Form_ERechnung", [](Form1& f) { f.m_ERechnung.Click(); }},
     {"programmeinstellungen", "frm_Programm", [](Form1& f) { f.m_Programmeinstellungen.Click(); }},
     {"analyzer", "Form_Analyzer", [](Form1& f) { f.m_start_analyzer.Click(); }, [] { analysieren(0); }},
     {"diagramm", "Form_Analyzer", [](Form1& f) { f.m_start_analyzer.Click(); }, [] { analysieren(1); },

@@ -169,7 +169,7 @@ struct Programm::Teile {
                                              return std::make_unique<ERechnung>(
                                                  form, form1, einstellungen, e_rechnungsausgabe,
                                                  angabenspeicher, platform.dialogs, platform.shell,
-                                                 [this] { summen.jetztberechnen_List(); });
+                                                 [this] { VorDerAusgabe(); });
                                          }};
     Mailversand mailversand{form1,
                             einstellungen,

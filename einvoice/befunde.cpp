@@ -32,7 +32,9 @@ void aufnehmen(std::vector<Mangelbefund>& befunde, const Maengel& maengel, bool 
 }
 
 std::string anzahl(std::ptrdiff_t fehlend) {
-    return fehlend == 1 ? "fehlt noch eine Angabe" : "fehlen noch " + std::to_string(fehlend) + " Angaben";
+    return fehlend == 0   ? "Es ist alles da."
+           : fehlend == 1 ? "Es fehlt noch eine Angabe."
+                          : "Es fehlen noch " + std::to_string(fehlend) + " Angaben.";
 }
 
 } // namespace
@@ -65,22 +67,12 @@ std::vector<Mangelbefund> BEFUNDE(const Maengel& zugferd, const Maengel& xrechnu
 }
 
 std::string STAND(const std::vector<Mangelbefund>& befunde) {
-    const auto zugferd =
-        std::count_if(befunde.begin(), befunde.end(), [](const Mangelbefund& b) { return b.zugferd; });
-    const auto xrechnung =
-        std::count_if(befunde.begin(), befunde.end(), [](const Mangelbefund& b) { return b.xrechnung; });
-    if (zugferd == 0 && xrechnung == 0) {
-        return "Es ist alles da: Die Rechnung lässt sich als ZUGFeRD-PDF und als XRechnung speichern.";
-    }
-    if (zugferd == 0) {
-        return "Als ZUGFeRD-PDF lässt sich die Rechnung speichern, für eine XRechnung " + anzahl(xrechnung) +
-               ".";
-    }
-    if (xrechnung == 0) {
-        return "Als XRechnung lässt sich die Rechnung speichern, für ein ZUGFeRD-PDF " + anzahl(zugferd) +
-               ".";
-    }
-    return "Für ein ZUGFeRD-PDF " + anzahl(zugferd) + ", für eine XRechnung " + anzahl(xrechnung) + ".";
+    const auto fehlend = [&befunde](bool Mangelbefund::*format) {
+        return std::count_if(befunde.begin(), befunde.end(),
+                             [format](const Mangelbefund& b) { return b.*format; });
+    };
+    return "ZUGFeRD-PDF: " + anzahl(fehlend(&Mangelbefund::zugferd)) +
+           " XRechnung: " + anzahl(fehlend(&Mangelbefund::xrechnung));
 }
 
 } // namespace quittika

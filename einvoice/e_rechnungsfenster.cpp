@@ -36,7 +36,7 @@ constexpr const char* kTitel = "E-Rechnung";
 
 ERechnung::ERechnung(Form_ERechnung& form, Form1& form1, frm_einstellungen& einstellungen,
                      E_Rechnungsausgabe& ausgabe, const Angabenspeicher& speicher, Dialogs& dialogs,
-                     Shell& shell, std::function<void()> jetztberechnen_List)
+                     Shell& shell, std::function<void()> vor_der_ausgabe)
     : form_(form),
       form1_(form1),
       einstellungen_(einstellungen),
@@ -44,7 +44,7 @@ ERechnung::ERechnung(Form_ERechnung& form, Form1& form1, frm_einstellungen& eins
       speicher_(speicher),
       dialogs_(dialogs),
       shell_(shell),
-      jetztberechnen_List_(std::move(jetztberechnen_List)) {
+      vor_der_ausgabe_(std::move(vor_der_ausgabe)) {
     verdrahten();
 }
 
@@ -77,7 +77,6 @@ void ERechnung::verdrahten() {
 }
 
 void ERechnung::Form_Load() {
-    jetztberechnen_List_();
     {
         const Merker hier(fuellt_);
         GRUENDE_ANBIETEN(form_);
@@ -233,12 +232,14 @@ void ERechnung::Command_ZUGFeRD_Click() {
                           Buttons::Ok, Symbol::Exclamation});
         return;
     }
+    if (!noch_vollstaendig(zugferd_)) {
+        return;
+    }
     FileDialog dialog;
     dialog.filter = "PDF-Dateien (*.pdf)|*.pdf";
     dialog.title = "Als ZUGFeRD-PDF speichern";
-    const std::string pfad = speichern(".pdf", dialog, [this] {
-        return zugferd_.vollstaendig() ? ausgabe_.ZUGFERD_PDF(zugferd_.beleg) : std::string();
-    });
+    const std::string pfad =
+        speichern(".pdf", dialog, [this] { return ausgabe_.ZUGFERD_PDF(zugferd_.beleg); });
     if (!pfad.empty()) {
         OEFFNEN_ANBIETEN(pfad, pfad, dialogs_, shell_);
     }
@@ -246,18 +247,24 @@ void ERechnung::Command_ZUGFeRD_Click() {
 
 void ERechnung::Command_XRechnung_Click() {
     const Hinweiszeile::Befehl befehl(form1_.Hinweise);
+    if (!noch_vollstaendig(xrechnung_)) {
+        return;
+    }
     FileDialog dialog;
     dialog.filter = "XRechnung (*.xml)|*.xml";
     dialog.title = "Als XRechnung speichern";
-    speichern(".xml", dialog, [this] {
-        return xrechnung_.vollstaendig() ? E_Rechnungsausgabe::XRECHNUNG(xrechnung_.beleg) : std::string();
-    });
+    speichern(".xml", dialog, [this] { return E_Rechnungsausgabe::XRECHNUNG(xrechnung_.beleg); });
+}
+
+/// The last look at the invoice may be half a second old; what is missing now stands in the list.
+bool ERechnung::noch_vollstaendig(const E_Rechnung& rechnung) {
+    vor_der_ausgabe_();
+    auffrischen();
+    return rechnung.vollstaendig();
 }
 
 std::string ERechnung::speichern(const std::string& endung, const FileDialog& dialog,
                                  const std::function<std::string()>& bytes) {
-    jetztberechnen_List_();
-    auffrischen(); // the last look at the invoice may be half a second old
     try {
         FileDialog frage = dialog;
         frage.proposed_name = OHNE_ENDUNG(PDFNAME_VORSCHLAGEN(form1_, einstellungen_), ".pdf") + endung;
@@ -272,11 +279,7 @@ std::string ERechnung::speichern(const std::string& endung, const FileDialog& di
         if (!merken()) { // what is printed depends on it
             return {};
         }
-        const std::string inhalt = bytes();
-        if (inhalt.empty()) {
-            return {};
-        }
-        datei_ersetzen(pfad, inhalt);
+        datei_ersetzen(pfad, bytes());
         form_.Label_Stand.Caption = "Gespeichert: " + pfad;
         form1_.Hinweise.melden("Die E-Rechnung liegt hier: " + pfad);
         return pfad;

@@ -19,10 +19,10 @@ namespace quittika {
 /// fields until the user confirms them, with OK or by saving.
 class ERechnung {
 public:
-    /// `jetztberechnen_List` brings the result fields of the main window up to date.
+    /// `vor_der_ausgabe` brings the result fields of the main window up to date and may tell something.
     ERechnung(Form_ERechnung& form, Form1& form1, frm_einstellungen& einstellungen,
               E_Rechnungsausgabe& ausgabe, const Angabenspeicher& speicher, Dialogs& dialogs, Shell& shell,
-              std::function<void()> jetztberechnen_List);
+              std::function<void()> vor_der_ausgabe);
 
 private:
     void verdrahten();
@@ -33,6 +33,7 @@ private:
     void pruefen();
     void zum_feld();
     bool merken();
+    bool noch_vollstaendig(const E_Rechnung& rechnung);
     void Command_OK_Click();
     void Command_ZUGFeRD_Click();
     void Command_XRechnung_Click();
@@ -47,7 +48,7 @@ private:
     const Angabenspeicher& speicher_;
     Dialogs& dialogs_;
     Shell& shell_;
-    std::function<void()> jetztberechnen_List_;
+    std::function<void()> vor_der_ausgabe_;
     Belegquelle quelle_;
     E_Rechnung zugferd_;
     E_Rechnung xrechnung_;

@@ -62,8 +62,7 @@ struct Form_ERechnung : Form {
     TextBox Text_Bezug_Datum{Frame_Bezug, "Text_Bezug_Datum"};
 
     Label Label_Vorschlag{*this, "Label_Vorschlag",
-                          "Vorschläge aus Firmendaten und Anschrift sind eingetragen: Bitte prüfen, beim "
-                          "Speichern und mit OK merkt sie Quittika."};
+                          "Vorschläge sind eingetragen: bitte prüfen. Speichern und OK merken sie."};
     Label Label_Stand{*this, "Label_Stand"}; ///< what can be saved
     ListBox List_Maengel{*this, "List_Maengel"};
 

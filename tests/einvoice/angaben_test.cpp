@@ -142,8 +142,7 @@ TEST(GiroCode, SagtWasDieRechnungSagt) {
     EXPECT_LE(GIROCODE_TEXT(u).size(), 331U);
     const SquareGrid bild = QR_CODE(GIROCODE_TEXT(u));
     EXPECT_LE(bild.side, 69) << "version 13 at most";
-    EXPECT_TRUE(bild.is_dark(0, 0) && bild.is_dark(bild.side - 1, 0) &&
-                bild.is_dark(0, bild.side - 1));
+    EXPECT_TRUE(bild.is_dark(0, 0) && bild.is_dark(bild.side - 1, 0) && bild.is_dark(0, bild.side - 1));
     EXPECT_THROW(QR_CODE(std::string(5000, 'x')), Laufzeitfehler);
     m.form1.Text_rechnung.Text = "GUTSCHRIFT";
     EXPECT_NE(GIROCODE_FEHLER(UEBERWEISUNG(m.quelle(), MUSTERVERKAEUFER())), "") << "nobody pays it";

@@ -1,4 +1,5 @@
 #include "einvoice/cii.hpp"
+#include "einvoice/e_rechnungsausgabe.hpp"
 #include "einvoice/kennungen.hpp"
 #include "platform/text.hpp"
 #include "tests/einvoice/musterrechnung.hpp"
@@ -275,6 +276,15 @@ TEST(Kennungen, FormUndPruefziffern) {
     for (const auto& f : faelle) {
         EXPECT_EQ(f.fehler(f.text).empty(), f.gut) << f.text;
     }
+}
+
+TEST(Hindernis, SagtAufDeutschWoEsNichtPasst) {
+    const std::string text = E_RECHNUNGSHINDERNIS(Laufzeitfehler(
+        fehler::kUngueltigerAufruf, "line 40: Type does not match\nline 7: Error\nline 40: x\n"));
+    EXPECT_NE(text.find("(Zeile 7, 40 des XML)"), std::string::npos) << text;
+    EXPECT_EQ(text.find("Error"), std::string::npos) << text;
+    EXPECT_EQ(
+        E_RECHNUNGSHINDERNIS(Laufzeitfehler(fehler::kDatentraegerVoll)).find("Der Datenträger ist voll"), 0U);
 }
 
 } // namespace

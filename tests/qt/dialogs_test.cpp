@@ -276,6 +276,53 @@ TEST(ShellTest, TellsFilesFromAddresses) {
     EXPECT_EQ(fehlernummer([&] { shell.open(folder.filePath("fehlt.txt").toStdString()); }), 53);
 }
 
+/// A desktop whose mail program writes down what it is asked for, for as long as this lives.
+class MailDesktop {
+public:
+    explicit MailDesktop(const QByteArray& script) {
+        QFile program(folder_.filePath("xdg-email"));
+        if (!script.isEmpty() && program.open(QIODevice::WriteOnly)) {
+            program.write("#!/bin/sh\n" + script);
+            program.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+        }
+        qputenv("PATH", QFile::encodeName(folder_.path()));
+    }
+    MailDesktop(const MailDesktop&) = delete;
+    MailDesktop& operator=(const MailDesktop&) = delete;
+    ~MailDesktop() { qputenv("PATH", path_); }
+    QString path(const char* name) const { return folder_.filePath(name); }
+
+private:
+    QTemporaryDir folder_;
+    QByteArray path_ = qgetenv("PATH");
+};
+
+TEST(ShellTest, HandsAMessageToTheMailProgram) {
+    const MailMessage message{"eva@emsig.example", "Rechnung \"7\" für $HOME", "Guten Tag\n`id`\n",
+                              "/tmp/a b.pdf"};
+    const MailDesktop desktop("printf '%s|' \"$@\" > \"$(dirname \"$0\")/asked\" 2>&1 || exit 9\n");
+    qputenv("PATH", qgetenv("PATH") + ":/usr/bin:/bin"); // what the script needs
+    QtShell().mail(message);
+    QFile asked(desktop.path("asked"));
+    ASSERT_TRUE(asked.open(QIODevice::ReadOnly));
+    EXPECT_EQ(QString::fromUtf8(asked.readAll()),
+              "--utf8|--subject|Rechnung \"7\" für $HOME|--body|Guten Tag\n`id`\n|--attach|/tmp/a b.pdf|"
+              "eva@emsig.example|");
+}
+
+TEST(ShellTest, SaysWhereThereIsNoMailProgram) {
+    EXPECT_EQ(fehlernummer([] {
+                  const MailDesktop without("");
+                  QtShell().mail({"a@b.example", "", "", "a.pdf"});
+              }),
+              53);
+    EXPECT_EQ(fehlernummer([] {
+                  const MailDesktop failing("exit 3\n");
+                  QtShell().mail({"--option", "", "", "a.pdf"});
+              }),
+              53);
+}
+
 } // namespace
 } // namespace quittika::test
 
