@@ -71,9 +71,11 @@ struct Programm::Teile {
         platform.desktop.later([this] { WennDasFensterDaIst(); });
     }
     /// What was lost last time comes first, the program's other questions before the invoice that it was
-    /// started with.
+    /// started with, which is a step that can be taken back.
     void WennDasFensterDaIst() {
+        const Activity::Hold als_ganzes(platform.desktop.activity());
         wiederherstellung.Anbieten();
+        rueckgaengig.beginnen();
         form1.Hinweise.melden(SICHERUNGSERINNERUNG(verzeichnis, platform.clock.now()));
         updatecheck.Updatecheck_Start();
         if (!startrechnung.empty()) {

@@ -59,6 +59,7 @@ void Rueckgaengig::beginnen() {
     begonnen_ = true;
     verlauf_ = Verlauf<Schritt>(kSchritte);
     aufnahme_.nachfuehren(stand_);
+    stand_.kennung = ++letzte_kennung_; // an invoice that was never saved has not been saved as this one
     erfassen();
 }
 

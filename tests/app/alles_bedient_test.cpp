@@ -39,7 +39,7 @@ const std::map<std::string, Zeilen> kWege{
     {"Form_Helferlein_Bkg", {"click form1.CMD_FORM_HELFERLEIN_Bkg"}},
     {"Form_Notiz", {"click form1.Cmd_Notiz"}},
     {"Form_Fassungen",
-     {"set form1.Text_Kunde_1 Eva", "click form1.m_speichern_direkt", "click form1.m_Fassungen",
+     {"set form1.Text_Kunde_1 Eva", "click form1.m_speichern_kurz", "click form1.m_Fassungen",
       "select Form_Fassungen.List_Fassungen 0"}},
     {"Form_Datensicherung", {"click form1.m_datensicherung"}},
     {"Form_Rueckspielen",
