@@ -1,7 +1,5 @@
 #include "invoice/berechnung.hpp"
 
-#include "platform/laufzeitfehler.hpp"
-#include "platform/zahlen.hpp"
 #include "tests/pruefstand.hpp"
 
 #include <gtest/gtest.h>
@@ -11,63 +9,31 @@
 namespace quittika {
 namespace {
 
-struct Fall {
-    const char* name;
-    Rechenvorgabe vorgabe;
-    const char* rabatt;
-    const char* nach_rabatt;
-    const char* mwst;
-    const char* gesamt;
-};
-
-TEST(Berechnung, JederModusVonHandGerechnet) {
-    const Fall faelle[] = {
-        {"leer", {0, false, 0, Mwst_Modus::Ohne, 19, 0}, "-0,00", "0,00", "0,00", "0,00"},
-        {"ohne, Versand", {100, false, 0, Mwst_Modus::Ohne, 19, 5.9}, "-0,00", "100,00", "0,00", "105,90"},
-        {"plus", {100, false, 0, Mwst_Modus::Plus, 19, 0}, "-0,00", "100,00", "19,00", "119,00"},
-        {"plus, Rabatt, Versand",
-         {200, true, 10, Mwst_Modus::Plus, 19, 5},
-         "-20,00",
-         "180,00",
-         "34,20",
-         "219,20"},
-        {"minus", {119, false, 0, Mwst_Modus::Minus, 19, 0}, "-0,00", "119,00", "-19,00", "100,00"},
-        {"minus, Versand", {119, false, 0, Mwst_Modus::Minus, 19, 10}, "-0,00", "119,00", "-19,00", "110,00"},
-        {"inklusive", {107, false, 0, Mwst_Modus::Inklusive, 7, 0}, "-0,00", "107,00", "7,00", "107,00"},
-        {"Rabatt 0", {10, true, 0, Mwst_Modus::Ohne, 0, 0}, "-0,00", "10,00", "0,00", "10,00"},
-        {"Satz -100 plus", {10, false, 0, Mwst_Modus::Plus, -100, 0}, "-0,00", "10,00", "-10,00", "0,00"},
-        {"Gutschrift", {-50, false, 0, Mwst_Modus::Plus, 19, 0}, "-0,00", "-50,00", "-9,50", "-59,50"},
-    };
-    for (const Fall& f : faelle) {
-        SCOPED_TRACE(f.name);
-        const Rechenergebnis e = RECHNUNGSBETRAEGE(f.vorgabe);
-        EXPECT_EQ(format_zahl(e.Rabattbetrag, "-0.00"), f.rabatt);
-        EXPECT_EQ(format_zahl(e.Summe_nach_Rabatt, "0.00"), f.nach_rabatt);
-        EXPECT_EQ(format_zahl(e.MwSt_Betrag, "0.00"), f.mwst);
-        EXPECT_EQ(format_zahl(e.Gesamtbetrag, "0.00"), f.gesamt);
-    }
-}
-
-TEST(Berechnung, WasSichNichtBerechnenLaesstIstNull) {
+// The modes themselves are played by the script of the sums and, by chance, below.
+TEST(Berechnung, GrenzenVonHandGerechnet) {
     const struct {
+        const char* name;
         Rechenvorgabe vorgabe;
-        int nummer;
+        int fehler;
         Rechenergebnis ergebnis;
     } faelle[] = {
-        {{100, true, 10, Mwst_Modus::Minus, -100, 5}, 11, {10, 90, 0, 0}},
-        {{100, false, 0, Mwst_Modus::Inklusive, -100, 0}, 11, {0, 100, 0, 0}},
-        {{1e308, true, 1e308, Mwst_Modus::Ohne, 0, 0}, 6, {0, 0, 0, 0}},
-        {{1e308, false, 0, Mwst_Modus::Plus, 100, 0}, 6, {0, 1e308, 0, 0}},
-        {{1.7e308, false, 0, Mwst_Modus::Ohne, 0, 1.7e308}, 6, {0, 1.7e308, 0, 0}},
+        {"leer", {0, false, 0, Mwst_Modus::Ohne, 19, 0}, 0, {0, 0, 0, 0}},
+        {"Satz -100 plus", {10, false, 0, Mwst_Modus::Plus, -100, 0}, 0, {0, 10, -10, 0}},
+        {"Gutschrift", {-50, false, 0, Mwst_Modus::Plus, 19, 0}, 0, {0, -50, -9.5, -59.5}},
+        {"Satz -100 minus", {100, true, 10, Mwst_Modus::Minus, -100, 5}, 11, {10, 90, 0, 0}},
+        {"Satz -100 inklusive", {100, false, 0, Mwst_Modus::Inklusive, -100, 0}, 11, {0, 100, 0, 0}},
+        {"Rabatt zu groß", {1e308, true, 1e308, Mwst_Modus::Ohne, 0, 0}, 6, {0, 0, 0, 0}},
+        {"MwSt. zu groß", {1e308, false, 0, Mwst_Modus::Plus, 100, 0}, 6, {0, 1e308, 0, 0}},
+        {"Versand zu groß", {1.7e308, false, 0, Mwst_Modus::Ohne, 0, 1.7e308}, 6, {0, 1.7e308, 0, 0}},
     };
     for (const auto& f : faelle) {
-        SCOPED_TRACE(f.vorgabe.MwSt_Satz);
+        SCOPED_TRACE(f.name);
         const Rechenergebnis e = RECHNUNGSBETRAEGE(f.vorgabe);
-        EXPECT_EQ(e.fehler, f.nummer);
+        EXPECT_EQ(e.fehler, f.fehler);
         EXPECT_EQ(e.Rabattbetrag, f.ergebnis.Rabattbetrag);
         EXPECT_EQ(e.Summe_nach_Rabatt, f.ergebnis.Summe_nach_Rabatt);
-        EXPECT_EQ(e.MwSt_Betrag, 0);
-        EXPECT_EQ(e.Gesamtbetrag, 0);
+        EXPECT_EQ(e.MwSt_Betrag, f.ergebnis.MwSt_Betrag);
+        EXPECT_EQ(e.Gesamtbetrag, f.ergebnis.Gesamtbetrag);
     }
 }
 

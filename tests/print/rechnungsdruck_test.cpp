@@ -224,21 +224,6 @@ TEST(Druck, DreiNachkommastellenGeltenAuchFuerDenUebertrag) {
     EXPECT_EQ(papier.finden("Übertrag", 2)->text, "Übertrag:   2,125");
 }
 
-TEST(Druck, EineSeiteAlleinIstDieDesGanzenBelegs) {
-    Druckprobe p;
-    p.zeilen(60);
-    const Papier ganz = p.drucken();
-    ASSERT_EQ(ganz.seiten(), 3);
-    for (int nummer = 1; nummer <= 3; ++nummer) {
-        Papier allein;
-        Papiergeraet geraet(allein);
-        PrintSurface flaeche(geraet, p.schrift);
-        Blatt blatt{flaeche, {0, 0}};
-        p.druck.vorbereiten().SEITE_DRUCKEN(blatt, nummer);
-        EXPECT_EQ(allein.seite(1), ganz.seite(nummer));
-    }
-}
-
 TEST(Druck, LeereSeiteUndUebertragVonNull) {
     Druckprobe p;
     Papier papier = p.drucken();

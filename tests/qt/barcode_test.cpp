@@ -1,15 +1,8 @@
-#include "app/programm.hpp"
-#include "barcode/form_etp_barcode.hpp"
-#include "invoice/form1.hpp"
-#include "platform/qt/qt_platform.hpp"
-#include "tests/pruefstand.hpp"
+#include "platform/qt/widgets/contrast.hpp"
+#include "tests/qt/program_test.hpp"
 
-#include <gtest/gtest.h>
-
-#include <QApplication>
 #include <QLabel>
 #include <QMessageBox>
-#include <QTest>
 #include <QTimer>
 #include <QWindow>
 
@@ -20,7 +13,7 @@ constexpr int kCodes = 50;
 constexpr const char* kVorschau = "4003994155486";
 
 /// The program with a list of articles 1001 to 1050 and one without a price, 9999, and the barcode window.
-class Barcodetest : public ::testing::Test {
+class Barcodetest : public ProgramTest {
 protected:
     Barcodetest() {
         std::string liste = "Ohne Preis$\xA7$abc$\xA7$9999$\xA7$\r\n";
@@ -29,21 +22,13 @@ protected:
                 "Artikel " + std::to_string(i) + "$\xA7$2.50$\xA7$" + std::to_string(1000 + i) + "$\xA7$\r\n";
         }
         ordner.schreiben("Artikelliste.txt", liste);
-        programm.hauptfenster_zeigen();
         f().Cmd_Barcode.Click();
-        for (QWidget* offen : QApplication::topLevelWidgets()) {
-            fenster = offen->windowTitle() == "Barcode-Modus" ? offen : fenster;
-        }
+        zeigen("Form_Etp_Barcode");
         EXPECT_TRUE(QTest::qWaitFor([this] { return fenster != nullptr && fenster->isActiveWindow(); }));
     }
 
-    Form1& f() { return dynamic_cast<Form1&>(programm.hauptfenster()); }
-    std::string text(const char* name) {
-        return fenster->findChild<QLabel*>(QLatin1String(name))->text().toStdString();
-    }
-
     /// A key as the desktop reports it, for the window that has the keyboard then.
-    static void taste(char zeichen) {
+    static void gescannt(char zeichen) {
         const bool cr = zeichen == '\r';
         const bool lf = zeichen == '\n';
         const Qt::Key key = cr ? Qt::Key_Return : lf ? Qt::Key_J : static_cast<Qt::Key>(zeichen);
@@ -56,17 +41,12 @@ protected:
         QTimer scanner;
         QObject::connect(&scanner, &QTimer::timeout, [&] {
             if (naechstes < zeichen.size()) {
-                taste(zeichen[naechstes++]);
+                gescannt(zeichen[naechstes++]);
             }
         });
         scanner.start(0);
         EXPECT_TRUE(QTest::qWaitFor([&] { return naechstes == zeichen.size(); }, 20000));
     }
-
-    Probenordner ordner;
-    QtPlatform plattform;
-    Programm programm{plattform.platform(), ordner.ordner()};
-    QWidget* fenster = nullptr;
 };
 
 TEST_F(Barcodetest, CodesOhnePauseWerdenZeilenInIhrerReihenfolge) {
@@ -83,7 +63,7 @@ TEST_F(Barcodetest, CodesOhnePauseWerdenZeilenInIhrerReihenfolge) {
         auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
         if (box != nullptr && box->isActiveWindow()) { // before that it still waits for the scanner
             ++boxen;
-            taste('\r');
+            gescannt('\r');
             EXPECT_FALSE(box->isVisible());
         }
     });
@@ -94,33 +74,20 @@ TEST_F(Barcodetest, CodesOhnePauseWerdenZeilenInIhrerReihenfolge) {
     for (int i = 0; i < f().List_Leistung.ListCount(); ++i) {
         EXPECT_EQ(f().List_Leistung.List(i), "Artikel " + std::to_string(i + 1));
     }
-    EXPECT_EQ(text("Label_Summe"), "125,00 EUR");
+    EXPECT_EQ(feld<QLabel>("Label_Summe")->text(), "125,00 EUR");
     EXPECT_TRUE(fenster->isActiveWindow()) << "neither the main window nor the preview took the keyboard";
     EXPECT_EQ(fenster->focusWidget()->objectName(), "Text_Barcode");
 }
 
 TEST_F(Barcodetest, DerZeilenumbruchNachDerEingabetasteGehoertNichtInDieMenge) {
-    fenster->findChild<QAbstractButton*>("Check_set_Menge")->click();
+    feld<QAbstractButton>("Check_set_Menge")->click();
     scannen("3\r\n1001\r\n2\r\n1002\r\n");
     EXPECT_EQ(f().List_Menge.items(), (std::vector<std::string>{"3", "2"}));
     EXPECT_EQ(fenster->focusWidget()->objectName(), "Text_Menge");
 }
 
-/// How far a text stands out from its ground (1 to 21).
-double kontrast(const QColor& a, const QColor& b) {
-    const auto licht = [](const QColor& farbe) {
-        const auto linear = [](double teil) {
-            return teil <= 0.04045 ? teil / 12.92 : std::pow((teil + 0.055) / 1.055, 2.4);
-        };
-        return 0.2126 * linear(farbe.redF()) + 0.7152 * linear(farbe.greenF()) +
-               0.0722 * linear(farbe.blueF());
-    };
-    const double hell = std::max(licht(a), licht(b));
-    return (hell + 0.05) / (std::min(licht(a), licht(b)) + 0.05);
-}
-
 TEST_F(Barcodetest, JederStandIstLesbar) {
-    const QWidget& info = *fenster->findChild<QLabel*>("Label_Artikel_INFO");
+    const QWidget& info = *feld("Label_Artikel_INFO");
     for (const auto& [code, grund] : {std::pair("1001\r", 0x00FF00), std::pair("1\r", 0xFF0000),
                                       std::pair("BEFEHL1\r", 0xFFFF00), std::pair("", 0xFF8000)}) {
         scannen(code);
@@ -129,7 +96,8 @@ TEST_F(Barcodetest, JederStandIstLesbar) {
         }
         const QPalette farben = info.palette();
         EXPECT_EQ(farben.color(QPalette::Window).rgb() & 0xFFFFFF, static_cast<unsigned>(grund));
-        EXPECT_GE(kontrast(farben.color(QPalette::WindowText), farben.color(QPalette::Window)), 4.5) << code;
+        EXPECT_GE(theme::contrast(farben.color(QPalette::WindowText), farben.color(QPalette::Window)), 4.5)
+            << code;
     }
 }
 

@@ -327,23 +327,6 @@ TEST(Events, KeyCodesOfTheDesktop) {
     EXPECT_EQ(codes, "65 55 32 13 46 38 116 20 27 8 ");
 }
 
-TEST(Events, MouseInTwips) {
-    Bound bound;
-    std::string seen;
-    const auto note = [&](const char* what) {
-        return [&seen, what](const MouseEvent& e) {
-            seen += std::string(what) + std::to_string(static_cast<int>(e.button)) + "," +
-                    std::to_string(e.x) + "," + std::to_string(e.y) + " ";
-        };
-    };
-    bound.form.Picture.MouseDown = note("down");
-    bound.form.Picture.MouseUp = note("up");
-    QTest::mousePress(&bound.widget("Picture"), Qt::RightButton, {}, QPoint(2, 1));
-    QTest::mouseRelease(&bound.widget("Picture"), Qt::RightButton, {}, QPoint(3, 1));
-    EXPECT_EQ(seen, "down2,30,15 up2,45,15 ");
-    EXPECT_EQ(bound.form.take_log(), "") << "the right button clicks nothing";
-}
-
 TEST(Pictures, LeaveTheirPaperOnADarkDesktop) {
     const DesktopLook dark(9, dark_palette());
     QTemporaryDir folder;

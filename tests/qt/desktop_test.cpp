@@ -32,26 +32,12 @@ protected:
     QObject context;
 };
 
-TEST_F(DesktopTest, ModalWindowKeepsTheCallerUntilItIsHidden) {
-    form1.Show();
-    std::string order;
-    options.CMD_weiter.Click = [&] { options.Hide(); };
-    when_modal([&] {
-        order += "open ";
-        EXPECT_EQ(QApplication::activeModalWidget(), &options_window());
-        EXPECT_EQ(options_window().parentWidget(), desktop.window(form1));
-        QTest::mouseClick(options_window().findChild<QWidget*>("CMD_weiter"), Qt::LeftButton);
-    });
-    options.Show(Modality::Modal);
-    order += "back";
-    EXPECT_EQ(order, "open back");
-    EXPECT_FALSE(options_window().isVisible());
-}
-
 TEST_F(DesktopTest, FrameAndEscapeAskTheForm) {
+    form1.Show();
     int asked = 0;
     options.QueryUnload = [&](bool& cancel) { cancel = ++asked == 1; };
     when_modal([&] {
+        EXPECT_EQ(options_window().parentWidget(), desktop.window(form1));
         options_window().close();
         EXPECT_TRUE(options_window().isVisible()) << "the form did not want to";
         QTest::keyClick(&options_window(), Qt::Key_Escape);
@@ -86,34 +72,10 @@ TEST_F(DesktopTest, FormGoesAndItsChildWindowsStay) {
     EXPECT_EQ(other.window(child)->findChild<QAbstractButton*>("CMD_weiter")->text(), "noch da");
 }
 
-TEST_F(DesktopTest, CompanionBelongsToTheMainWindowAndComesUpWithoutTheFocus) {
-    struct Companion : Form {
-        Companion() : Form("Form_Lieferschein_opt", "", {.width = 3000, .height = 3000, .companion = true}) {}
-        CommandButton CMD_weiter{*this, "CMD_weiter"};
-    } companion;
-    QtDesktop other;
-    Form1 main;
-    other.adopt(main);
-    other.adopt(companion);
-    main.Show();
-    companion.Show();
-    const QWidget& window = *other.window(companion);
-    EXPECT_EQ(window.parentWidget(), other.window(main));
-    EXPECT_EQ(window.windowType(), Qt::Dialog) << "a tool window takes the main window's keys";
-    EXPECT_FALSE(window.windowFlags().testFlag(Qt::WindowMinimizeButtonHint));
-    EXPECT_TRUE(QTest::qWaitFor([&] { return window.isActiveWindow(); }));
-    main.Show();
-    EXPECT_TRUE(QTest::qWaitFor([&] { return other.window(main)->isActiveWindow(); }));
-    companion.ZOrder();
-    QTest::qWait(20);
-    EXPECT_TRUE(other.window(main)->isActiveWindow());
-    companion.CMD_weiter.SetFocus();
-    EXPECT_TRUE(QTest::qWaitFor([&] { return window.isActiveWindow(); }));
-}
-
-TEST_F(DesktopTest, CompanionsDoNotTakeTurnsInFrontOfEachOther) {
+TEST_F(DesktopTest, CompanionsComeUpWithoutTheFocusAndDoNotTakeTurns) {
     struct Companion : Form {
         Companion() : Form("Form_Lieferschein_opt", "", {.companion = true}) {}
+        CommandButton CMD_weiter{*this, "CMD_weiter"};
     } first;
     Companion second;
     struct Raised : QObject {
@@ -123,13 +85,22 @@ TEST_F(DesktopTest, CompanionsDoNotTakeTurnsInFrontOfEachOther) {
         }
         int times = 0;
     } raised;
+    const auto becomes_active = [this](Form& form) {
+        return QTest::qWaitFor([&] { return desktop.window(form)->isActiveWindow(); });
+    };
     form1.Show();
     for (Companion* companion : {&first, &second}) {
         desktop.adopt(*companion);
         companion->Show();
-        ASSERT_TRUE(QTest::qWaitFor([&] { return desktop.window(*companion)->isActiveWindow(); }));
+        ASSERT_TRUE(becomes_active(*companion));
         desktop.window(*companion)->installEventFilter(&raised);
     }
+    const QWidget& window = *desktop.window(first);
+    EXPECT_EQ(window.parentWidget(), desktop.window(form1));
+    EXPECT_EQ(window.windowType(), Qt::Dialog) << "a tool window takes the main window's keys";
+    EXPECT_FALSE(window.windowFlags().testFlag(Qt::WindowMinimizeButtonHint));
+    form1.Show();
+    EXPECT_TRUE(becomes_active(form1));
     raised.times = 0;
     first.ZOrder();
     EXPECT_EQ(raised.times, 0);
@@ -138,24 +109,24 @@ TEST_F(DesktopTest, CompanionsDoNotTakeTurnsInFrontOfEachOther) {
     second.Hide();
     first.ZOrder();
     EXPECT_EQ(raised.times, 2);
+    QTest::qWait(20);
+    EXPECT_TRUE(desktop.window(form1)->isActiveWindow());
+    first.CMD_weiter.SetFocus();
+    EXPECT_TRUE(becomes_active(first));
 }
 
-TEST_F(DesktopTest, PlaceFlowsBothWays) {
+TEST_F(DesktopTest, PlaceAndFocusAreTakenOverFromBeforeAndAfterwards) {
+    form1.Text_Kunde_3.SetFocus();
     form1.Left = 1500;
     form1.Top = 750;
     form1.Show();
+    EXPECT_EQ(desktop.window(form1)->focusWidget()->objectName(), "Text_Kunde_3");
     EXPECT_EQ(desktop.window(form1)->pos(), QPoint(100, 50));
     desktop.window(form1)->resize(1300, 840);
     EXPECT_EQ(form1.Width(), 19500);
     EXPECT_EQ(form1.Height(), 12600);
     form1.Left = -900000;
     EXPECT_GE(desktop.window(form1)->x(), 0) << "where nobody could reach it";
-}
-
-TEST_F(DesktopTest, FocusAskedForBeforeTheWindowIsThere) {
-    form1.Text_Kunde_3.SetFocus();
-    form1.Show();
-    EXPECT_EQ(desktop.window(form1)->focusWidget()->objectName(), "Text_Kunde_3");
 }
 
 TEST_F(DesktopTest, TitleMarksUnsavedChanges) {
@@ -204,9 +175,9 @@ TEST_F(DesktopTest, TimersTickOnlyWhileTheirFormIsLoaded) {
     form1.Show();
     EXPECT_TRUE(QTest::qWaitFor([&] { return ticks >= 2; }));
     form1.Timer_blink.Enabled = false;
-    const int then = ticks;
+    ticks = 0;
     QTest::qWait(30);
-    EXPECT_EQ(ticks, then);
+    EXPECT_EQ(ticks, 0);
 }
 
 TEST_F(DesktopTest, EscapedErrorIsShownAndTheProgramGoesOn) {
@@ -226,48 +197,31 @@ TEST_F(DesktopTest, EscapedErrorIsShownAndTheProgramGoesOn) {
     EXPECT_TRUE(text.contains(fehlertext(fehler::kUeberlauf))) << text.toStdString();
 }
 
-TEST_F(DesktopTest, EndingAsksNoWindowAgain) {
-    int asked = 0;
+TEST_F(DesktopTest, TheEndReachesThroughAModalWindowAndAsksNobody) {
+    std::string order;
     form1.QueryUnload = [&](bool& cancel) {
-        ++asked;
+        order += "asked ";
         cancel = true;
     };
     EXPECT_EQ(desktop.run([&] {
-        form1.Show();
-        desktop.later([&] { desktop.end(); });
-    }),
-              0);
-    EXPECT_EQ(asked, 0);
-}
-
-TEST_F(DesktopTest, EndReachesThroughAModalWindow) {
-    std::string order;
-    desktop.run([&] {
         form1.Show();
         desktop.later([&] {
             options.Show(Modality::Modal);
             order += "back ";
         });
         when_modal([&] { desktop.end(); });
-    });
-    EXPECT_EQ(order, "back ");
-}
-
-TEST_F(DesktopTest, LoopEndsWithTheProgramOrItsLastWindow) {
-    EXPECT_EQ(desktop.run([&] { desktop.end(); }), 0) << "ended before it began";
-    QtDesktop other;
-    Form1 form;
-    other.adopt(form);
-    bool late = false;
-    EXPECT_EQ(other.run([&] {
-        form.Show();
-        other.later([&] {
-            late = true;
-            other.window(form)->close();
-        });
     }),
               0);
-    EXPECT_TRUE(late);
+    EXPECT_EQ(order, "back ");
+    EXPECT_EQ(desktop.run([&] { desktop.end(); }), 0) << "ended before it began";
+}
+
+TEST_F(DesktopTest, TheLastWindowEndsTheLoop) {
+    EXPECT_EQ(desktop.run([&] {
+        form1.Show();
+        desktop.later([&] { desktop.window(form1)->close(); });
+    }),
+              0);
 }
 
 } // namespace

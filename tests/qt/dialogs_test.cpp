@@ -129,17 +129,6 @@ TEST_F(DialogsTest, SavingProposesANameAddsTheEndingAndRemembersTheFolder) {
         << "where no filter has one, that of the name proposed";
 }
 
-TEST_F(DialogsTest, TheProposedNameGivesTheEndingWhereTheFilterHasNone) {
-    QTemporaryDir folder;
-    on_dialog<QFileDialog>([&](QFileDialog& window) {
-        window.setDirectory(folder.path());
-        window.selectFile("Laden");
-        QMetaObject::invokeMethod(&window, "accept");
-    });
-    EXPECT_EQ(dialogs.save_file({"Ziel...  |", "Export.xpt", ""}),
-              folder.filePath("Laden.xpt").toStdString());
-}
-
 TEST_F(DialogsTest, OpeningTakesANewNameWhereItMay) {
     QTemporaryDir folder;
     const auto choose = [&](bool must_exist) {

@@ -1,48 +1,26 @@
-#include "app/programm.hpp"
-#include "invoice/form1.hpp"
-#include "platform/qt/qt_platform.hpp"
-#include "tests/pruefstand.hpp"
-
-#include <gtest/gtest.h>
+#include "tests/qt/program_test.hpp"
 
 #include <QAbstractButton>
 #include <QAbstractSlider>
-#include <QApplication>
 #include <QLabel>
-#include <QTest>
 #include <QWheelEvent>
 
 namespace quittika::test {
-
 namespace {
 
 /// The preview of a document of three pages in its real window.
-class Vorschautest : public ::testing::Test {
+class Vorschautest : public ProgramTest {
 protected:
     Vorschautest() {
-        programm.hauptfenster_zeigen();
         for (int i = 0; i < 60; ++i) {
-            f().Text_Menge.Text = "1";
-            f().Text_leistung.Text = "Posten " + std::to_string(i);
-            f().Text_preis.Text = "1,99";
-            f().Cmd_Add_To_list.Click();
+            zeile("1", "Posten " + std::to_string(i), "1,99");
         }
         f().m_Vorschau.Click();
-        for (QWidget* offen : QApplication::topLevelWidgets()) {
-            fenster = offen->windowTitle() == "Druckvorschau" ? offen : fenster;
-        }
-        QApplication::setActiveWindow(fenster);
+        zeigen("Form_Druckvorschau");
         QTest::qWait(50);
     }
 
-    Form1& f() { return dynamic_cast<Form1&>(programm.hauptfenster()); }
-    template <class W = QWidget> W* feld(const char* name) {
-        return fenster->findChild<W*>(QLatin1String(name));
-    }
     std::string text(const char* name) { return feld<QLabel>(name)->text().toStdString(); }
-    void taste(Qt::Key key, Qt::KeyboardModifiers held = {}) {
-        QTest::keyClick(QApplication::focusWidget(), key, held);
-    }
     void rad(int turn, Qt::KeyboardModifiers held = {}) {
         QWidget* blatt = feld("Frame_Blatt"); // where a real wheel over the page ends up
         const QPoint mitte = blatt->rect().center();
@@ -50,11 +28,6 @@ protected:
                             Qt::NoScrollPhase, false);
         QApplication::sendEvent(blatt, &gedreht);
     }
-
-    Probenordner ordner;
-    QtPlatform plattform;
-    Programm programm{plattform.platform(), ordner.ordner()};
-    QWidget* fenster = nullptr;
 };
 
 TEST_F(Vorschautest, TastenUndRadBlaetternUndRollen) {
@@ -113,5 +86,4 @@ TEST_F(Vorschautest, DieSeiteFolgtDemFensterUndDemBeleg) {
 }
 
 } // namespace
-
 } // namespace quittika::test

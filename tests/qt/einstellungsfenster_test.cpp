@@ -1,10 +1,5 @@
-#include "app/programm.hpp"
-#include "invoice/form1.hpp"
-#include "platform/qt/qt_platform.hpp"
-#include "tests/pruefstand.hpp"
 #include "tests/qt/desktop_look.hpp"
-
-#include <gtest/gtest.h>
+#include "tests/qt/program_test.hpp"
 
 #include <QtWidgets>
 
@@ -15,40 +10,14 @@ namespace quittika::test {
 namespace {
 
 /// The invoice settings in their real window.
-class Einstellungsfenstertest : public ::testing::Test {
+class Einstellungsfenstertest : public ProgramTest {
 protected:
-    Einstellungsfenstertest() {
-        programm.hauptfenster_zeigen();
-        dynamic_cast<Form1&>(programm.hauptfenster()).m_Rechnungsdaten.Click();
-        for (QWidget* offen : QApplication::topLevelWidgets()) {
-            fenster = offen->objectName() == "frm_einstellungen" ? offen : fenster;
-        }
-        QApplication::setActiveWindow(fenster);
+    Einstellungsfenstertest() { oeffnen(); }
+    void oeffnen() {
+        f().m_Rechnungsdaten.Click();
+        zeigen("frm_einstellungen");
         QTest::qWait(50);
     }
-
-    template <class W = QWidget> W* feld(const char* name) {
-        return fenster->findChild<W*>(QLatin1String(name));
-    }
-    static void taste(Qt::Key key, Qt::KeyboardModifiers held = {}) {
-        QTest::keyClick(QApplication::focusWidget(), key, held);
-    }
-    /// Answers the box that comes up, and notes its text.
-    void antworten(QMessageBox::StandardButton knopf) {
-        QTimer::singleShot(100, qApp, [this, knopf] {
-            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-            frage = box == nullptr ? QString() : box->text();
-            if (box != nullptr) {
-                box->button(knopf)->click();
-            }
-        });
-    }
-
-    Probenordner ordner;
-    QtPlatform plattform;
-    Programm programm{plattform.platform(), ordner.ordner()};
-    QWidget* fenster = nullptr;
-    QString frage;
 };
 
 TEST_F(Einstellungsfenstertest, DieTastaturErreichtJedesFeldJederSeite) {
@@ -122,13 +91,29 @@ TEST_F(Einstellungsfenstertest, StrgEingabeUebernimmtUndEscFragt) {
     EXPECT_TRUE(QTest::qWaitFor([this] { return !fenster->isVisible(); })) << "the button is seen going down";
     EXPECT_NE(ordner.lesen("prog_n.cfg").find("Neu"), std::string::npos);
 
-    dynamic_cast<Form1&>(programm.hauptfenster()).m_Rechnungsdaten.Click();
-    QApplication::setActiveWindow(fenster);
+    oeffnen();
     feld<QLineEdit>("Text_firma_1")->setText("Verworfen");
     antworten(QMessageBox::Yes);
     fenster->close();
     EXPECT_FALSE(fenster->isVisible());
     EXPECT_EQ(feld<QLineEdit>("Text_firma_1")->text(), text);
+}
+
+TEST_F(Einstellungsfenstertest, DasMusterFuelltSeinenRahmenUndFolgtDemTippenNachEinerPause) {
+    const auto* rahmen = feld("Frame_Muster");
+    auto* bild = feld("Picture_Muster");
+    for (const QSize groesse : {QSize(1024, 700), QSize(1600, 720), QSize(1100, 1000)}) {
+        fenster->resize(groesse);
+        QApplication::processEvents();
+        EXPECT_TRUE(rahmen->rect().contains(bild->geometry()));
+        EXPECT_NEAR(bild->height() * 210.0 / 297, bild->width(), 2);
+        EXPECT_GT(bild->width() + 25.0, std::min(rahmen->width() + 0.0, rahmen->height() * 210.0 / 297));
+    }
+
+    const QImage vorher = bild->grab().toImage();
+    QTest::keyClicks(feld("Text_firma_1"), "Tischlerei");
+    EXPECT_EQ(bild->grab().toImage(), vorher) << "typing goes first";
+    EXPECT_TRUE(QTest::qWaitFor([&] { return bild->grab().toImage() != vorher; }, 2000));
 }
 
 } // namespace

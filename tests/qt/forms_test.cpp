@@ -1,6 +1,5 @@
 #include "platform/qt/binding.hpp"
 #include "platform/qt/qt_desktop.hpp"
-#include "platform/qt/window_picture.hpp"
 #include "platform/qt/window_table.hpp"
 #include "tests/qt/form_table.hpp"
 
@@ -23,17 +22,6 @@ TEST_P(DesignTest, EachControlHasItsWidgetAndEachWidgetItsControl) {
     const std::unique_ptr<QWidget> window = build_window(form->name());
     ASSERT_NE(window, nullptr);
     EXPECT_EQ(check_binding(*form, *window), std::vector<std::string>{});
-}
-
-TEST_P(DesignTest, ShowsAPicture) {
-    QtDesktop desktop;
-    desktop.adopt(*form);
-    const QImage picture = window_picture(*form, 2.0);
-    ASSERT_FALSE(picture.isNull());
-    EXPECT_EQ(picture.width(), 2 * desktop.window(*form)->width());
-    QImage empty = picture;
-    empty.fill(picture.pixel(0, 0));
-    EXPECT_NE(picture, empty);
 }
 
 TEST_P(DesignTest, F1AsksForHelpWhereverTheFocusIs) {

@@ -178,17 +178,6 @@ TEST_F(PictureTest, ColoursAndTurnsAreSeen) {
     EXPECT_GT(upright.pixelColor(19, 0).blue(), upright.pixelColor(0, 0).blue()) << "the corner moved right";
 }
 
-TEST_F(PictureTest, ControlsKeepTheirPictureWhereANewOneFails) {
-    Bound bound;
-    Image& image = bound.form.Picture;
-    const std::string logo = file("logo.png", encoded("png"));
-    pictures.load(image, logo);
-    EXPECT_THROW(pictures.load(image, file("kaputt.png", encoded("png").chopped(9))), Laufzeitfehler);
-    EXPECT_EQ(image.Picture(), logo);
-    pictures.load(image, "");
-    EXPECT_EQ(image.Picture(), "");
-}
-
 TEST_F(PictureTest, KeepTheirProportionsOrAreStretchedAndMissingOnesAreEmpty) {
     const std::string red = file("Löwe #1 %20.bmp", encoded("bmp"));
     Bound bound;

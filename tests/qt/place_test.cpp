@@ -126,7 +126,7 @@ TEST_F(Places, FrameAsBigAsItsContentStandsWithItsBottomWhereItIsPut) {
 
 TEST_F(Places, WhatIsNotTheProgramsToSetIsRefused) {
     const std::function<void()> refused[] = {
-        [&] { form.Sheet.Width = 1; },  [&] { form.Choice.Height = 1; },  [&] { form.Result.Left = 1; },
+        [&] { form.Sheet.Width = 1; },  [&] { form.Choice.Height = 1; },  [&] { form.Movable.Left = 1; },
         [&] { form.Block.Width = -1; }, [&] { form.Log.Visible = true; },
     };
     for (const auto& set : refused) {

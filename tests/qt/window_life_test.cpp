@@ -23,7 +23,6 @@ namespace {
 struct Note : Form_Lieferschein_opt {
     CommandButton& Button = CMD_weiter;
     CheckBox& Tick = Check_LIEFERSCH_PREISE;
-    Timer Clock{*this, "Clock", 1, false};
 };
 
 /// Works on a note; what a test does in its handlers comes from outside.
@@ -157,24 +156,6 @@ TEST_F(WindowLife, HandlersWaitingForAModalWindowKeepTheirs) {
     click(first.Button);
     settle();
     EXPECT_EQ(back, 1);
-    EXPECT_EQ(count, 0);
-}
-
-TEST_F(WindowLife, TimerClosesTheWindowOfAWaitingHandler) {
-    desktop.adopt(modal);
-    wire = [&](Note& form, NoteModule& module) {
-        form.Clock.Tick = [&] { form.Close(); };
-        form.Button.Click = [&] {
-            form.Clock.Enabled = true;
-            modal.Show(Modality::Modal);
-            module.work();
-        };
-    };
-    Note& first = opened();
-    while_modal([&] { EXPECT_TRUE(QTest::qWaitFor([&] { return !first.loaded(); })); });
-    while_modal([&] { modal.Hide(); });
-    click(first.Button);
-    settle();
     EXPECT_EQ(count, 0);
 }
 

@@ -1,11 +1,6 @@
-#include "app/programm.hpp"
 #include "designer/design.hpp"
-#include "invoice/form1.hpp"
-#include "platform/qt/qt_platform.hpp"
 #include "platform/schluesselzeilen.hpp"
-#include "tests/pruefstand.hpp"
-
-#include <gtest/gtest.h>
+#include "tests/qt/program_test.hpp"
 
 #include "tests/qt/mouse/mouse.hpp"
 
@@ -13,15 +8,6 @@
 
 namespace quittika::test {
 namespace {
-
-QWidget* open_window(const char* name) {
-    for (QWidget* window : QApplication::topLevelWidgets()) {
-        if (window->objectName() == QLatin1String(name)) {
-            return window;
-        }
-    }
-    return nullptr;
-}
 
 /// A drag in 20 steps, by a way in pixels of the screen, with the button held all the time.
 void drag(const QPointF& from, const QPointF& pixels) {
@@ -49,34 +35,28 @@ void keys_of_the_size_frame(QWidget& window) {
     }
 }
 
-TEST(DesignerMouse, BlocksStandWhereTheyWereDropped) {
-    const Probenordner folder;
-    const Design standard = DESIGN_STANDARD(Programmverzeichnis(folder.ordner()));
-    folder.schreiben("design.dsg", DESIGN_SCHREIBEN(standard).bytes);
-    QtPlatform platform;
-    Programm program(platform.platform(), folder.ordner());
-    program.hauptfenster_zeigen();
-    dynamic_cast<Form1&>(program.hauptfenster()).m_startdesigner.Click();
-    QWidget* window = open_window("FORM_DESIGNER");
-    ASSERT_NE(window, nullptr);
-    ASSERT_TRUE(QTest::qWaitForWindowActive(window));
+using DesignerMouse = ProgramTest;
+
+TEST_F(DesignerMouse, BlocksStandWhereTheyWereDropped) {
+    const Design standard = DESIGN_STANDARD(Programmverzeichnis(ordner.ordner()));
+    ordner.schreiben("design.dsg", DESIGN_SCHREIBEN(standard).bytes);
+    f().m_startdesigner.Click();
+    ASSERT_NE(zeigen("FORM_DESIGNER"), nullptr);
+    ASSERT_TRUE(QTest::qWaitForWindowActive(fenster));
     const auto centre = [&](const char* name) {
-        const auto* block = window->findChild<QWidget*>(QLatin1String(name));
-        return block->mapToGlobal(QPointF(block->rect().center()));
+        return feld(name)->mapToGlobal(QPointF(feld(name)->rect().center()));
     };
-    const double mm_per_pixel = 210 / (window->findChild<QWidget*>(QStringLiteral("Frame_A4"))->width() *
-                                       qGuiApp->devicePixelRatio());
+    const double mm_per_pixel = 210 / (feld("Frame_A4")->width() * qGuiApp->devicePixelRatio());
     drag(centre("Image_KDNR"), {-161, 73});
     drag(centre("Image_LOGO"), {-37, -11});
     drag(centre("Image_LISTE"), {55, -43});
-    keys_of_the_size_frame(*window);
-    auto* save = window->findChild<QPushButton*>(QStringLiteral("CMD_SPEICHERN"));
-    Mouse().to(save->mapToGlobal(QPointF(save->rect().center()))).click().go();
-    ASSERT_TRUE(QTest::qWaitFor([] { return open_window("FORM_DESIGNER") == nullptr; }));
+    keys_of_the_size_frame(*fenster);
+    Mouse().to(centre("CMD_SPEICHERN")).click().go();
+    ASSERT_TRUE(QTest::qWaitFor([this] { return zeigen("FORM_DESIGNER") == nullptr; }));
 
     std::map<std::string, double> saved;
     SCHLUESSELZEILEN_DURCHGEHEN(
-        folder.lesen("design.dsg"), [&](const std::string& key, const std::string& text) {
+        ordner.lesen("design.dsg"), [&](const std::string& key, const std::string& text) {
             saved[key] = QString::fromStdString(text).replace(QLatin1Char(','), QLatin1Char('.')).toDouble();
             return true;
         });

@@ -1,7 +1,6 @@
 #include "platform/forms/twips.hpp"
 #include "platform/qt/application.hpp"
 #include "platform/qt/qt_desktop.hpp"
-#include "platform/qt/qt_progress.hpp"
 #include "tests/workbench.hpp"
 
 #include <gtest/gtest.h>
@@ -31,16 +30,6 @@ protected:
         const QTabBar& bar = *part<QTabWidget>(bench.form(), "Tabs").tabBar();
         return bar.mapToGlobal(QPointF(bar.tabRect(index).center()));
     }
-    QPointF row(int index) {
-        const auto& list = part<QListView>(*bench.articles(), "List");
-        return list.viewport()->mapToGlobal(QPointF(list.visualRect(list.model()->index(index, 0)).center()));
-    }
-    void open_articles() {
-        Mouse().to(tab(1)).click().to(centre("Open")).click().go();
-        ASSERT_NE(bench.articles(), nullptr);
-        ASSERT_TRUE(QTest::qWaitForWindowExposed(desktop.window(*bench.articles())));
-        bench.form().Log.Clear();
-    }
     std::string log() {
         std::string all;
         for (const std::string& line : bench.form().Log.items()) {
@@ -55,8 +44,7 @@ protected:
     }
 
     QtDesktop desktop{workbench_window};
-    QtProgress progress{desktop};
-    Workbench bench{desktop, progress};
+    Workbench bench{desktop};
 };
 
 TEST_F(RealMouse, MovesAPictureInItsFrameAndBeyondOnceThatIsAllowed) {
@@ -88,44 +76,19 @@ TEST_F(RealMouse, MovesAPictureInItsFrameAndBeyondOnceThatIsAllowed) {
     EXPECT_EQ(window.grab().toImage().pixelColor(shown), QColor(Qt::red));
 }
 
-TEST_F(RealMouse, DragsAnArticleToAFieldAndTheListCloses) {
-    open_articles();
-    Mouse().to(centre("Service")).click().go();
-    expect_log("");
-    EXPECT_EQ(bench.form().Service.Text(), "") << "a heading stays";
-    bench.form().Log.Clear();
-    Mouse().to(row(1)).down().to(centre("Remark")).to(centre("Remark") + QPointF(2, 0)).up().go();
-    expect_log("gewählt Nagel 4 mm|");
-    EXPECT_EQ(bench.form().Remark.Text(), "Nagel 4 mm");
-    Mouse().to(row(2)).down().to(centre("Service")).to(centre("Service") + QPointF(2, 0)).up().go();
-    expect_log("gewählt Nagel 6 mm|genommen (Nägel)|Artikel zerstört|");
-    EXPECT_EQ(bench.form().Service.Text(), "Nagel 6 mm");
-    EXPECT_EQ(bench.articles(), nullptr);
-}
-
-TEST_F(RealMouse, AnUnsteadyHandClicksADoubleClickTakesAndAButtonCloses) {
-    open_articles();
-    Mouse().to(row(1)).down().to(row(1) + QPointF(2, 1)).up().go();
-    expect_log("gewählt Nagel 4 mm|");
-    Mouse().to(row(2)).click().click().go();
-    expect_log("gewählt Nagel 6 mm|genommen (Nägel)|Artikel zerstört|");
-    EXPECT_EQ(bench.form().Service.Text(), "Nagel 6 mm");
-    open_articles();
-    Mouse().to(part(*bench.articles(), "Done").mapToGlobal(QPointF(20, 10))).click().go();
-    expect_log("Artikel zerstört|");
-}
-
 TEST_F(RealMouse, TurnsPagesAndEndsTheEntry) {
     TextBox& field = bench.form().Service;
     field.GotFocus = [this] { bench.form().Log.AddItem("Feld betreten"); };
     field.SetFocus();
     expect_log(""); // nobody sees it
-    Mouse().to(tab(1)).click().to(centre("Service")).click().to(tab(2)).click().to(tab(0)).click().go();
-    expect_log("Blatt 1|Feld betreten|Feld verlassen|Blatt 2|Blatt 0|");
+    Mouse().to(tab(1)).click().go();
+    Mouse().to(centre("Service")).click().to(tab(0)).click().go();
+    expect_log("Blatt 1|Feld betreten|Feld verlassen|Blatt 0|");
 }
 
 TEST_F(RealMouse, EachValueOfASliderComesOnce) {
-    Mouse().to(tab(1)).click().to(place("Red", {200, 12})).wheel_up().go();
+    Mouse().to(tab(1)).click().go();
+    Mouse().to(place("Red", {200, 12})).wheel_up().go();
     EXPECT_EQ(bench.form().Red.Value(), 0) << "passed by";
     bench.form().Log.Clear();
     std::vector<int> values;

@@ -7,7 +7,7 @@
 
 namespace quittika::test {
 
-/// The window of one of the forms of workbench.hpp.
+/// The window of workbench.hpp.
 std::unique_ptr<QWidget> workbench_window(std::string_view form);
 
 } // namespace quittika::test
