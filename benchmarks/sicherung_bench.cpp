@@ -11,17 +11,35 @@
 namespace quittika {
 namespace {
 
+/// A folder on a disk: the sample folders lie in memory, where a save costs nothing that it costs a user.
+class Plattenordner {
+public:
+    Plattenordner() : ordner_("/var/tmp/quittika-XXXXXX") { ordner_ = mkdtemp(ordner_.data()); }
+    Plattenordner(const Plattenordner&) = delete;
+    Plattenordner& operator=(const Plattenordner&) = delete;
+    ~Plattenordner() {
+        std::error_code egal;
+        std::filesystem::remove_all(ordner_, egal);
+    }
+    const std::string& ordner() const { return ordner_; }
+
+private:
+    std::string ordner_;
+};
+
 /// Saving an invoice of 100 rows to its file; each version is another, and as many are there as ever stay.
 void speichern(benchmark::State& state, bool fassungen) {
+    const Plattenordner platte;
+    const Programmverzeichnis verzeichnis(platte.ordner());
     Pruefstand p;
     std::optional<Fassungsablage> ablage;
     if (fassungen) {
-        ablage.emplace(p.verzeichnis, p.uhr, p.form1.Hinweise);
+        ablage.emplace(verzeichnis, p.uhr, p.form1.Hinweise);
     }
     for (int i = 0; i < 100; ++i) {
         p.zeile("1", "Posten", "1,99");
     }
-    p.speichern("a.qk8");
+    p.speichern(platte.ordner() + "/a.qk8");
     int saetze = 0;
     const auto sichern = [&] {
         p.uhr.zeit = zeitpunkt_aus(sekunden_aus(p.uhr.zeit) + 1);
