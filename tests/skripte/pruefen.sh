@@ -5,6 +5,7 @@
 #   #? form1 A B L*       the values of these controls of the form and the items of a list, in one line of answer
 #   #/ Seite|betrag       those lines of the recorded pages that match
 #   #+ 2|Stuhl|12,5       adds a row of this quantity, text and price
+#   #< form1 A=text | B=x sets these controls of the form
 #   #! form1.m_neu yes 2 @a.qk8   clicks (a form: closes) while answers wait: of boxes, a number of copies, at the end a
 #                         file of the folder
 #   #> Form.Bild 9 9 50 -5   drags with the mouse from the first place over the others
@@ -75,6 +76,16 @@ add_row() {
     send "click form1.Cmd_Add_To_list"
 }
 
+# Sets controls of a form: names and values, parted by " | ".
+set_values() {
+    local form=${1%% *} rest="${1#* } | " pair
+    while [ -n "$rest" ]; do
+        pair=${rest%%' | '*}
+        rest=${rest#*' | '}
+        send "set $form.${pair%%=*} ${pair#*=}"
+    done
+}
+
 # Clicks a control or closes a form while the answers behind it wait.
 click_with() {
     local -a words
@@ -120,6 +131,7 @@ play() {
         pages) pages . >"$work/answer" ;;
         '#/ '*) pages "${line#'#/ '}" >"$work/answer" ;;
         '#+ '*) add_row "${line#'#+ '}" >"$work/answer" ;;
+        '#< '*) set_values "${line#'#< '}" >"$work/answer" ;;
         '#! '*) click_with "${line#'#! '}" >"$work/answer" ;;
         '#> '*)
             read -ra names <<<"${line#'#> '}"
