@@ -2,22 +2,16 @@
 #include "analyzer/zusammenfassung.hpp"
 #include "platform/laufzeitfehler.hpp"
 #include "platform/text.hpp"
+#include "tests/fuzz/verlangen.hpp"
 
 #include <algorithm>
 #include <cstdint>
-#include <cstdlib>
 #include <optional>
 #include <string>
 #include <vector>
 
 namespace quittika {
 namespace {
-
-void verlangen(bool erfuellt) {
-    if (!erfuellt) {
-        std::abort();
-    }
-}
 
 std::optional<Rechnungsauszug> auszug(std::string_view bytes) {
     try {

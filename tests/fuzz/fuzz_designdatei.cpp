@@ -1,10 +1,10 @@
 #include "designer/designseite.hpp"
 #include "print/eigenes_layout.hpp"
+#include "tests/fuzz/verlangen.hpp"
 #include "tests/print/druckprobe.hpp"
 
 #include <cmath>
 #include <cstdint>
-#include <cstdlib>
 #include <cstring>
 #include <variant>
 
@@ -20,12 +20,6 @@ std::string veraendert(std::string_view bytes) {
     }
     anfang = text.find(':', anfang) + 1;
     return text.replace(anfang, text.find(';', anfang) - anfang, bytes.substr(bytes.empty() ? 0 : 1));
-}
-
-void verlangen(bool erfuellt) {
-    if (!erfuellt) {
-        std::abort();
-    }
 }
 
 /// What the designer writes of blocks dragged to any places, fractions included, is read back as the nearest

@@ -1,17 +1,11 @@
 #include "platform/text.hpp"
 #include "tests/einstellungsstand.hpp"
+#include "tests/fuzz/verlangen.hpp"
 
 #include <cstdint>
-#include <cstdlib>
 
 namespace quittika {
 namespace {
-
-void verlangen(bool erfuellt) {
-    if (!erfuellt) {
-        std::abort();
-    }
-}
 
 /// A file as the program writes it, what one line says replaced, as the first byte and the others say.
 std::string veraendert(std::vector<std::string> texte, std::string_view bytes, const char* trenner) {

@@ -5,20 +5,14 @@
 #include "einvoice/pflichtangaben.hpp"
 #include "platform/text.hpp"
 #include "platform/textdatei.hpp"
+#include "tests/fuzz/verlangen.hpp"
 #include "tests/pruefstand.hpp"
 
 #include <algorithm>
 #include <cstdint>
-#include <cstdlib>
 
 namespace quittika {
 namespace {
-
-void verlangen(bool erfuellt) {
-    if (!erfuellt) {
-        std::abort();
-    }
-}
 
 /// Texts for the fields of an invoice, taken from the lines one by one.
 class Textquelle {

@@ -1,20 +1,14 @@
 #include "invoice/notiztext.hpp"
 #include "platform/text.hpp"
+#include "tests/fuzz/verlangen.hpp"
 #include "tests/vorlagenmodell.hpp"
 #include "tools/helferlein.hpp"
 
 #include <algorithm>
 #include <cstdint>
-#include <cstdlib>
 
 namespace quittika {
 namespace {
-
-void verlangen(bool erfuellt) {
-    if (!erfuellt) {
-        std::abort();
-    }
-}
 
 void notiz_pruefen(const std::string& text) {
     const std::string abgelegt = NOTIZ_ABLEGEN(text);

@@ -1,8 +1,8 @@
 #include "platform/zahlen.hpp"
+#include "tests/fuzz/verlangen.hpp"
 #include "tests/pruefstand.hpp"
 
 #include <cstdint>
-#include <cstdlib>
 
 /// Whatever bytes a file holds: it is read, the totals are calculated, and the lists stay in step.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t anzahl) {
@@ -15,12 +15,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t anz
     p.rechnung.DarstellungAufbauen();
     p.schreiber.DateiDatenSammeln();
     for (const ListBox* liste : p.form1.Positionslisten()) {
-        if (liste->ListCount() != p.form1.List_DARSTELLUNG.ListCount()) {
-            std::abort();
-        }
+        verlangen(liste->ListCount() == p.form1.List_DARSTELLUNG.ListCount());
     }
-    if (!ist_numerisch(p.form1.Text_gesamtbetrag.Text())) {
-        std::abort();
-    }
+    verlangen(ist_numerisch(p.form1.Text_gesamtbetrag.Text()));
     return 0;
 }

@@ -1,20 +1,14 @@
 #include "platform/laufzeitfehler.hpp"
 #include "platform/textdatei.hpp"
 #include "safety/sicherungsinhalt.hpp"
+#include "tests/fuzz/verlangen.hpp"
 #include "tests/pruefstand.hpp"
 #include "tests/safety/zipbau.hpp"
 
 #include <cstdint>
-#include <cstdlib>
 
 namespace quittika {
 namespace {
-
-void verlangen(bool erfuellt) {
-    if (!erfuellt) {
-        std::abort();
-    }
-}
 
 /// Whatever is taken stays in its folder and within its size.
 void sicherung_pruefen(const std::string& bytes) {

@@ -1,18 +1,12 @@
 #include "platform/textdatei.hpp"
 #include "tests/artikelmodell.hpp"
+#include "tests/fuzz/verlangen.hpp"
 #include "tests/pruefstand.hpp"
 
 #include <cstdint>
-#include <cstdlib>
 
 namespace quittika {
 namespace {
-
-void verlangen(bool erfuellt) {
-    if (!erfuellt) {
-        std::abort();
-    }
-}
 
 void artikel_pruefen(const std::string& bytes) {
     static const Probenordner ordner;

@@ -5,6 +5,10 @@
 #   #? form1 A B L*       the values of these controls of the form and the items of a list, in one line of answer
 #   #/ Seite|betrag       those lines of the recorded pages that match
 #   #+ 2|Stuhl|12,5       adds a row of this quantity, text and price
+#   #< form1 A=text | B=x sets these controls of the form
+#   #! form1.m_neu yes 2 @a.qk8   clicks (a form: closes) while answers wait: of boxes, a number of copies, at the end a
+#                         file of the folder
+#   #> Form.Bild 9 9 50 -5   drags with the mouse from the first place over the others
 #   #= 0,00               what the command above it answers, the closing "ok" left out
 # With NEU=1 in the environment the answers are written into the script instead of compared.
 set -u
@@ -72,6 +76,47 @@ add_row() {
     send "click form1.Cmd_Add_To_list"
 }
 
+# Sets controls of a form: names and values, parted by " | ".
+set_values() {
+    local form=${1%% *} rest="${1#* } | " pair
+    while [ -n "$rest" ]; do
+        pair=${rest%%' | '*}
+        rest=${rest#*' | '}
+        send "set $form.${pair%%=*} ${pair#*=}"
+    done
+}
+
+# Clicks a control or closes a form while the answers behind it wait.
+click_with() {
+    local -a words
+    local word
+    case $1 in *' @'*) send "file $folder/${1#* @}" ;; esac
+    read -ra words <<<"${1%% @*}"
+    for word in "${words[@]:1}"; do
+        case $word in
+        [0-9]*) send "printer $word" ;;
+        *) send "answer $word" ;;
+        esac
+    done
+    case ${words[0]} in
+    *.*) send "click ${words[0]}" ;;
+    *) send "close ${words[0]}" ;;
+    esac
+}
+
+# Drags from the first place over the others. The button goes up where it began: the control has moved along.
+drag() {
+    local control=$1 x=$2 y=$3
+    shift 3
+    send "mouse $control move 0 $x $y"
+    send "mouse $control down 1 $x $y"
+    for (( ; $# >= 2; )); do
+        send "mouse $control move 1 $1 $2"
+        shift 2
+    done
+    send "mouse $control up 1 $x $y"
+}
+
 play() {
     local line
     local -a names
@@ -86,6 +131,12 @@ play() {
         pages) pages . >"$work/answer" ;;
         '#/ '*) pages "${line#'#/ '}" >"$work/answer" ;;
         '#+ '*) add_row "${line#'#+ '}" >"$work/answer" ;;
+        '#< '*) set_values "${line#'#< '}" >"$work/answer" ;;
+        '#! '*) click_with "${line#'#! '}" >"$work/answer" ;;
+        '#> '*)
+            read -ra names <<<"${line#'#> '}"
+            drag "${names[@]}" >"$work/answer"
+            ;;
         '' | '#'*) : >"$work/answer" ;;
         *) send "$line" >"$work/answer" ;;
         esac

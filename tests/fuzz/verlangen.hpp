@@ -1,0 +1,13 @@
+#pragma once
+
+#include <cstdlib>
+
+namespace quittika {
+
+inline void verlangen(bool erfuellt) {
+    if (!erfuellt) {
+        std::abort();
+    }
+}
+
+} // namespace quittika
