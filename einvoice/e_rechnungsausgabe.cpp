@@ -6,12 +6,34 @@
 #include "print/belegausgabe.hpp"
 #include "print/dokumentnamen.hpp"
 
+#include <charconv>
 #include <memory>
-#include <regex>
 #include <set>
+#include <string_view>
 #include <utility>
 
 namespace quittika {
+
+namespace {
+
+/// The numbers behind the word "line" in what the schema check reports.
+std::set<int> zeilen_in(std::string_view meldungen) {
+    constexpr std::string_view kWort = "line ";
+    std::set<int> zeilen;
+    for (std::size_t fund = meldungen.find(kWort); fund != std::string_view::npos;
+         fund = meldungen.find(kWort, fund)) {
+        fund += kWort.size();
+        int zeile = 0;
+        const auto gelesen =
+            std::from_chars(meldungen.data() + fund, meldungen.data() + meldungen.size(), zeile);
+        if (gelesen.ec == std::errc{}) {
+            zeilen.insert(zeile);
+        }
+    }
+    return zeilen;
+}
+
+} // namespace
 
 E_Rechnungsausgabe::E_Rechnungsausgabe(Form1& form1, const frm_einstellungen& einstellungen,
                                        const PROGRAMMEINSTELLUNG& werte, const Angabenspeicher& speicher,
@@ -71,14 +93,8 @@ std::string E_RECHNUNGSHINDERNIS(const Laufzeitfehler& fehler) {
         return fehler.nummer() == fehler::kDrucker && !fehler.ort().empty() ? fehler.ort()
                                                                             : SPEICHERHINDERNIS(fehler);
     }
-    static const std::regex stelle("line (\\d+)");
-    std::set<int> zeilen;
-    const std::string& ort = fehler.ort();
-    for (std::sregex_iterator fund(ort.begin(), ort.end(), stelle), ende; fund != ende; ++fund) {
-        zeilen.insert(std::stoi((*fund)[1].str().substr(0, 9)));
-    }
     std::string text;
-    for (const int zeile : zeilen) {
+    for (const int zeile : zeilen_in(fehler.ort())) {
         text += (text.empty() ? " (Zeile " : ", ") + std::to_string(zeile);
     }
     return "Die Rechnung passt so nicht in das Format der E-Rechnung" + text +
