@@ -2,7 +2,6 @@
 
 #include "einvoice/erkennung.hpp"
 #include "invoice/belegtexte.hpp"
-#include "invoice/file/hindernis.hpp"
 #include "platform/datei.hpp"
 #include "platform/dateiname.hpp"
 #include "print/ausgabedatei.hpp"
@@ -63,10 +62,7 @@ std::optional<Mailversand::Grundlage> Mailversand::lesen() const {
     try {
         return Grundlage{ausgabe_.BESTAETIGTE_RECHNUNG(E_Format::ZUGFeRD), MAILVORLAGE_LESEN(verzeichnis_)};
     } catch (const Laufzeitfehler& fehler) {
-        dialogs_.message(
-            {"Ihre Angaben zur E-Rechnung oder die Vorlage der E-Mail lassen sich nicht lesen. " +
-                 OEFFNUNGSHINDERNIS(fehler),
-             kTitel, Buttons::Ok, Symbol::Exclamation});
+        dialogs_.message({ANGABENHINDERNIS(fehler), kTitel, Buttons::Ok, Symbol::Exclamation});
         return std::nullopt;
     }
 }

@@ -247,6 +247,14 @@ TEST(Cii, DasSchemaNimmtNichtsWasDasProgrammNichtSchreibt) {
     EXPECT_THROW(CII_XML(Rechnungsbeleg{}, E_Format::ZUGFeRD), Laufzeitfehler);
 }
 
+TEST(Cii, InnergemeinschaftlicherVersandNenntDasZiel) {
+    Rechnungsbeleg beleg = probe().rechnung(E_Format::ZUGFeRD).beleg;
+    EXPECT_EQ(CII_XML(beleg, E_Format::ZUGFeRD).find("ShipToTradeParty"), std::string::npos);
+    beleg.steuern.push_back(
+        {{"K", {}}, {500}, {}, "steuerfrei", "VATEX-EU-IC"}); // behind that of the positions
+    EXPECT_THAT(CII_XML(beleg, E_Format::ZUGFeRD), HasSubstr("<ram:ShipToTradeParty>"));
+}
+
 TEST(Kennungen, FormUndPruefziffern) {
     const struct {
         std::string (*fehler)(std::string_view);
