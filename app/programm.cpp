@@ -96,10 +96,11 @@ struct Programm::Teile {
         pflichtpruefung.ERSTEN_PUNKT_NENNEN();
     }
     /// The code that is printed with the invoice in hand. Without the user's data there is none.
-    std::optional<SquareGrid> Girocode() const {
+    std::optional<SquareGrid> Girocode() {
         try {
             return GIROCODE(BELEGQUELLE(form1, einstellungen, werte), angabenspeicher.verkaeufer());
-        } catch (const Laufzeitfehler&) {
+        } catch (const Laufzeitfehler& fehler) {
+            form1.Hinweise.melden(ANGABENHINDERNIS(fehler));
             return std::nullopt;
         }
     }

@@ -73,6 +73,11 @@ private:
         if (b_.art != Belegart::Rechnung && !b_.bezug_datum) {
             hinweis("Text_Bezug_Datum", "Das Datum der ursprünglichen Rechnung fehlt.");
         }
+        if (b_.art == Belegart::Gutschrift && b_.summen.zahlbetrag < Cent{}) {
+            hinweis("Combo_Belegart",
+                    "Der Betrag ist negativ. Eine Gutschrift darüber wäre eine Forderung: Gemeint ist wohl "
+                    "die Rechnungskorrektur (384).");
+        }
         if (!b_.lieferdatum && !hat_kategorie("K")) {
             hinweis("Check_LIEFERDATUM", "Das Lieferdatum fehlt.");
         }

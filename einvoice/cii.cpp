@@ -8,6 +8,7 @@
 #include <libxml/relaxng.h>
 #include <libxml/tree.h>
 
+#include <algorithm>
 #include <cstdio>
 #include <memory>
 
@@ -215,7 +216,9 @@ private:
     }
 
     void lieferung(const Element& e) const {
-        const bool innergemeinschaftlich = !b_.steuern.empty() && b_.steuern.front().steuer.kategorie == "K";
+        const bool innergemeinschaftlich =
+            std::any_of(b_.steuern.begin(), b_.steuern.end(),
+                        [](const Steuergruppe& gruppe) { return gruppe.steuer.kategorie == "K"; });
         if (innergemeinschaftlich) { // the country that the goods went to must be named
             const Kaeufer& k = b_.kaeufer;
             anschrift(e.kind("ShipToTradeParty"), {k.PLZ, k.Strasse, k.Zusatz, k.Ort, k.Land});

@@ -88,6 +88,11 @@ std::string E_Rechnungsausgabe::XRECHNUNG(const Rechnungsbeleg& beleg) {
     return CII_XML(beleg, E_Format::XRechnung);
 }
 
+std::string ANGABENHINDERNIS(const Laufzeitfehler& fehler) {
+    return "Diese Datei lässt sich nicht lesen: " + fehler.ort() +
+           " Bitte ihre Rechte prüfen oder sie umbenennen.";
+}
+
 std::string E_RECHNUNGSHINDERNIS(const Laufzeitfehler& fehler) {
     if (fehler.nummer() != fehler::kUngueltigerAufruf) {
         return fehler.nummer() == fehler::kDrucker && !fehler.ort().empty() ? fehler.ort()

@@ -46,6 +46,9 @@ private:
     std::string bezug_von_; ///< `kennzeichen` of the invoice that it is of
 };
 
+/// That a file with what the user confirmed cannot be read, and which one, in German.
+std::string ANGABENHINDERNIS(const Laufzeitfehler& fehler);
+
 /// Why no electronic invoice came about, in German.
 std::string E_RECHNUNGSHINDERNIS(const Laufzeitfehler& fehler);
 

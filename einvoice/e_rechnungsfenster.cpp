@@ -93,7 +93,7 @@ void ERechnung::angaben_zeigen() {
     try {
         bekannt = speicher_.verkaeufer();
     } catch (const Laufzeitfehler& fehler) {
-        form1_.Hinweise.melden(OEFFNUNGSHINDERNIS(fehler));
+        form1_.Hinweise.melden(ANGABENHINDERNIS(fehler));
     }
     const Verkaeufer verkaeufer = ERGAENZT(bekannt, VERKAEUFER_VORSCHLAG(quelle_), VERKAEUFERANGABEN());
     VERKAEUFER_ZEIGEN(form_, verkaeufer);
@@ -109,7 +109,7 @@ bool ERechnung::kaeufer_zeigen() {
     try {
         bekannt = speicher_.kaeufer(KUNDENSCHLUESSEL(quelle_)).value_or(Kaeufer{});
     } catch (const Laufzeitfehler& fehler) {
-        form1_.Hinweise.melden(OEFFNUNGSHINDERNIS(fehler));
+        form1_.Hinweise.melden(ANGABENHINDERNIS(fehler));
     }
     const Kaeufer kaeufer = ERGAENZT(bekannt, KAEUFER_VORSCHLAG(quelle_), KAEUFERANGABEN());
     KAEUFER_ZEIGEN(form_, kaeufer);
@@ -208,8 +208,9 @@ bool ERechnung::merken() {
                                    " Zeichen nicht: Sie stehen dort als das ähnlichste.");
         }
     } catch (const Laufzeitfehler& fehler) {
-        dialogs_.message({"Die Angaben konnten nicht gemerkt werden. " + SPEICHERHINDERNIS(fehler), kTitel,
-                          Buttons::Ok, Symbol::Exclamation});
+        dialogs_.message(
+            {"Die Angaben konnten nicht gemerkt werden: " + fehler.ort() + "\r\n" + SPEICHERHINDERNIS(fehler),
+             kTitel, Buttons::Ok, Symbol::Exclamation});
         return false;
     }
     ausgabe_.BEZUG_MERKEN(BEZUG_LESEN(form_));

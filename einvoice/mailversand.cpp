@@ -42,15 +42,28 @@ void Mailversand::m_Mail_Click() {
         return;
     }
     vor_der_ausgabe_();
+    const std::optional<Grundlage> grundlage = lesen();
+    if (!grundlage) {
+        return;
+    }
     try {
-        const E_Rechnung rechnung = ausgabe_.BESTAETIGTE_RECHNUNG(E_Format::ZUGFeRD);
         const std::string pfad = anhang();
-        anhang_schreiben(pfad, rechnung);
-        uebergeben(mail(rechnung), pfad);
+        anhang_schreiben(pfad, grundlage->rechnung);
+        uebergeben(mail(*grundlage), pfad);
     } catch (const Laufzeitfehler& fehler) {
         if (fehler.nummer() != fehler::kDialogAbgebrochen) {
             dialogs_.message({E_RECHNUNGSHINDERNIS(fehler), kTitel, Buttons::Ok, Symbol::Exclamation});
         }
+    }
+}
+
+/// Nothing where a file cannot be read; a box says why.
+std::optional<Mailversand::Grundlage> Mailversand::lesen() const {
+    try {
+        return Grundlage{ausgabe_.BESTAETIGTE_RECHNUNG(E_Format::ZUGFeRD), MAILVORLAGE_LESEN(verzeichnis_)};
+    } catch (const Laufzeitfehler& fehler) {
+        dialogs_.message({ANGABENHINDERNIS(fehler), kTitel, Buttons::Ok, Symbol::Exclamation});
+        return std::nullopt;
     }
 }
 
@@ -76,9 +89,9 @@ void Mailversand::anhang_schreiben(const std::string& pfad, const E_Rechnung& re
     }
 }
 
-Mail Mailversand::mail(const E_Rechnung& rechnung) const {
+Mail Mailversand::mail(const Grundlage& grundlage) const {
     const Belegquelle quelle = ausgabe_.quelle();
-    const Rechnungsbeleg& beleg = rechnung.beleg;
+    const Rechnungsbeleg& beleg = grundlage.rechnung.beleg;
     const std::string an =
         beleg.kaeufer.E_Mail.empty() ? KAEUFER_VORSCHLAG(quelle).E_Mail : beleg.kaeufer.E_Mail;
     const std::string firma = beleg.verkaeufer.Name.empty() ? quelle.Firma[0] : beleg.verkaeufer.Name;
@@ -89,7 +102,7 @@ Mail Mailversand::mail(const E_Rechnung& rechnung) const {
                           beleg.zahlung.faellig ? datum_text(*beleg.zahlung.faellig) : std::string(),
                           quelle.Kunde[0],
                           firma};
-    return MAIL_AUFSETZEN(MAILVORLAGE_LESEN(verzeichnis_), werte, an);
+    return MAIL_AUFSETZEN(grundlage.vorlage, werte, an);
 }
 
 void Mailversand::uebergeben(const Mail& mail, const std::string& pfad) {

@@ -9,7 +9,9 @@
 #include "print/pdfausgabe.hpp"
 
 #include <functional>
+#include <optional>
 #include <string>
+#include <vector>
 
 namespace quittika {
 
@@ -27,9 +29,15 @@ public:
     void m_Mail_Click();
 
 private:
+    /// What a mail is made of.
+    struct Grundlage {
+        E_Rechnung rechnung;
+        std::vector<std::string> vorlage;
+    };
+    std::optional<Grundlage> lesen() const;
     std::string anhang() const;
     void anhang_schreiben(const std::string& pfad, const E_Rechnung& rechnung);
-    Mail mail(const E_Rechnung& rechnung) const;
+    Mail mail(const Grundlage& grundlage) const;
     void uebergeben(const Mail& mail, const std::string& pfad);
 
     Form1& form1_;

@@ -75,10 +75,12 @@ private:
     }
 
     void kennungen_ordnen() {
-        b_.verkaeufer.USt_IdNr = KENNUNG(b_.verkaeufer.USt_IdNr);
         b_.verkaeufer.IBAN = IBAN_NUMMER(b_.verkaeufer.IBAN);
-        b_.verkaeufer.BIC = KENNUNG(b_.verkaeufer.BIC);
-        b_.kaeufer.USt_IdNr = KENNUNG(b_.kaeufer.USt_IdNr);
+        for (std::string* const nummer :
+             {&b_.verkaeufer.USt_IdNr, &b_.verkaeufer.BIC, &b_.kaeufer.USt_IdNr}) {
+            const std::string rein = KENNUNG(*nummer);
+            *nummer = rein.empty() ? *nummer : rein; // what is no number at all is wrong, not missing
+        }
         for (std::string* const land : {&b_.verkaeufer.Land, &b_.kaeufer.Land}) {
             const std::string code = LANDESCODE(*land);
             *land = code.empty() ? *land : code;

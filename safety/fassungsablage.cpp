@@ -17,9 +17,9 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr std::array<std::string_view, 6> kProgrammdateien{"Kundenliste.txt", "Artikelliste.txt",
-                                                           "prog_n.cfg",      "design.dsg",
-                                                           "e_rechnung.cfg",  "e_rechnung_kunden.txt"};
+constexpr std::array<std::string_view, 7> kProgrammdateien{
+    "Kundenliste.txt", "Artikelliste.txt",      "prog_n.cfg",        "design.dsg",
+    "e_rechnung.cfg",  "e_rechnung_kunden.txt", "e_mail_vorlage.txt"};
 constexpr const char* kEntwuerfe = "Ungespeicherte Rechnungen";
 constexpr const char* kHerkunft = "Herkunft.txt"; ///< in each folder: the path of the file that it belongs to
 constexpr const char* kNamensmuster = "*-*-* *-*-*-* *";

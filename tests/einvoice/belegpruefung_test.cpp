@@ -80,6 +80,7 @@ TEST(Belegpruefung, JedesFehlendePflichtfeldWirdGenannt) {
         {"Text_Datum ", false, [](Probe& p) { p.quelle.Datum = "31.2.2026"; }},
         {"Text_Verkaeufer_USt_IdNr ", false, [](Probe& p) { p.verkaeufer.USt_IdNr = "DE136695975"; }},
         {"Text_Kaeufer_USt_IdNr ", false, [](Probe& p) { p.kaeufer.USt_IdNr = "AT12345678"; }},
+        {"Text_Kaeufer_USt_IdNr ", false, [](Probe& p) { p.kaeufer.USt_IdNr = "???"; }},
         {"Text_Verkaeufer_IBAN ", false, [](Probe& p) { p.verkaeufer.IBAN = "DE02120300000000202052"; }},
         {"Text_Verkaeufer_BIC ", false, [](Probe& p) { p.verkaeufer.BIC = "BYLADEM10"; }},
         {"Text_Kaeufer_Leitweg_ID ", false,
@@ -244,6 +245,14 @@ TEST(Cii, DasSchemaNimmtNichtsWasDasProgrammNichtSchreibt) {
         EXPECT_NE(CII_SCHEMAFEHLER(ersetzen(xml, f.von, f.durch)), "") << f.von;
     }
     EXPECT_THROW(CII_XML(Rechnungsbeleg{}, E_Format::ZUGFeRD), Laufzeitfehler);
+}
+
+TEST(Cii, InnergemeinschaftlicherVersandNenntDasZiel) {
+    Rechnungsbeleg beleg = probe().rechnung(E_Format::ZUGFeRD).beleg;
+    EXPECT_EQ(CII_XML(beleg, E_Format::ZUGFeRD).find("ShipToTradeParty"), std::string::npos);
+    beleg.steuern.push_back(
+        {{"K", {}}, {500}, {}, "steuerfrei", "VATEX-EU-IC"}); // behind that of the positions
+    EXPECT_THAT(CII_XML(beleg, E_Format::ZUGFeRD), HasSubstr("<ram:ShipToTradeParty>"));
 }
 
 TEST(Kennungen, FormUndPruefziffern) {
