@@ -39,7 +39,6 @@ constexpr std::array kRegeln{
     Namensregel{"E_RECHNUNG_KUNDEN.TXT", "", Programmgruppe::Kunden},
     Namensregel{"KUNDENLISTE.TXT", "", Programmgruppe::Kunden},
     Namensregel{"BACKUP_KUNDENLISTE.TXT", "", Programmgruppe::Kunden},
-    Namensregel{"E_RECHNUNG_KUNDEN.TXT", "", Programmgruppe::Kunden},
     Namensregel{"ARTIKELLISTE.TXT", "", Programmgruppe::Artikel},
     Namensregel{"BACKUP_ARTIKELLISTE.TXT", "", Programmgruppe::Artikel},
     Namensregel{"", ".DSG", Programmgruppe::Design},
