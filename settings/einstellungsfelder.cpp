@@ -1,11 +1,11 @@
 #include "settings/einstellungsfelder.hpp"
 
 #include "invoice/programmname.hpp"
-#include "platform/laufzeitfehler.hpp"
 #include "settings/druckfarben.hpp"
 #include "settings/einstellungsanzeige.hpp"
 #include "settings/feldhinweise.hpp"
 #include "settings/schriftgroessen.hpp"
+#include "settings/wahldialog.hpp"
 
 #include <cstddef>
 #include <utility>
@@ -15,17 +15,6 @@ namespace quittika {
 namespace {
 
 constexpr int kEingabetaste = 13;
-
-/// What the dialog answers; a cancelled one changes nothing.
-template <class Dialog, class Nehmen> void waehlen(Dialog dialog, Nehmen nehmen) {
-    try {
-        nehmen(dialog());
-    } catch (const Laufzeitfehler& fehler) {
-        if (fehler.nummer() != fehler::kDialogAbgebrochen) {
-            throw;
-        }
-    }
-}
 
 } // namespace
 
@@ -136,8 +125,10 @@ void Einstellungsfelder::schrift_verdrahten() {
 
 /// The sliders do not follow: what is printed is the sample.
 void Einstellungsfelder::FARBE_WAEHLEN(frm_einstellungen::Farbzeile& zeile) {
-    waehlen([&] { return dialogs_.choose_color(zeile.Muster.BackColor()); },
-            [&](Color farbe) { FARBE_SETZEN(zeile, farbe); });
+    const auto dialog = [&] { return dialogs_.choose_color(zeile.Muster.BackColor()); };
+    if (const auto farbe = WAHL(dialogs_, "Die Farbe", dialog)) {
+        FARBE_SETZEN(zeile, *farbe);
+    }
 }
 
 void Einstellungsfelder::FARBE_SETZEN(frm_einstellungen::Farbzeile& zeile, Color farbe) {
@@ -146,8 +137,10 @@ void Einstellungsfelder::FARBE_SETZEN(frm_einstellungen::Farbzeile& zeile, Color
 }
 
 void Einstellungsfelder::Command_DRUCKERSCHRIFT_Click() {
-    waehlen([&] { return dialogs_.choose_font(werte_.DRUCKERSCHRIFT); },
-            [&](const std::string& name) { DRUCKERSCHRIFT_SETZEN(name); });
+    const auto dialog = [&] { return dialogs_.choose_font(werte_.DRUCKERSCHRIFT); };
+    if (const auto name = WAHL(dialogs_, "Die Schrift", dialog)) {
+        DRUCKERSCHRIFT_SETZEN(*name);
+    }
 }
 
 void Einstellungsfelder::DRUCKERSCHRIFT_SETZEN(const std::string& name) {

@@ -3,6 +3,7 @@
 #include "invoice/rechnung.hpp"
 #include "platform/datei.hpp"
 #include "platform/laufzeitfehler.hpp"
+#include "settings/wahldialog.hpp"
 
 #include <string>
 
@@ -84,17 +85,10 @@ void Programmfenster::Command_nichtuebernehmen_Click() {
 }
 
 void Programmfenster::FARBE_WAEHLEN(Color& farbe) {
-    try {
-        farbe = dialogs_.choose_color(farbe);
-    } catch (const Laufzeitfehler& fehler) {
-        if (fehler.nummer() != fehler::kDialogAbgebrochen) {
-            dialogs_.message({"Die Farbe ließ sich nicht wählen. Fehlernr.: " +
-                                  std::to_string(fehler.nummer()) + "\r\n" + fehlertext(fehler.nummer()),
-                              "Achtung!", Buttons::Ok, Symbol::Exclamation});
-        }
-        return;
+    if (const auto gewaehlt = WAHL(dialogs_, "Die Farbe", [&] { return dialogs_.choose_color(farbe); })) {
+        farbe = *gewaehlt;
+        stil_.Option_stil_Click();
     }
-    stil_.Option_stil_Click();
 }
 
 void Programmfenster::Command_delreg_Click() {

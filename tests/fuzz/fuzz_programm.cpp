@@ -37,7 +37,8 @@ bool nur_abgelehnt(const std::string& antwort) {
 /// What the file of the invoice in hand holds, read by a program of its own, against that invoice.
 std::string Lesebefund(Form1& f, const std::string& ordner) {
     const std::string pfad = f.Label_Pfad.Caption();
-    Zeilen zeilen{"click form1.m_oeffnen", "file " + pfad, "start " + ordner + "/leser 2008-03-05T10:20:30"};
+    Zeilen zeilen{"click form1.m_oeffnen", "answer yes", // the other program has it open: to read it only
+                  "file " + pfad, "start " + ordner + "/leser 2008-03-05T10:20:30"};
     std::string befund;
     Programmlauf leser;
     leser.eingabe.naechste = [&](std::string& zeile) {
