@@ -1,5 +1,7 @@
 #include "print/einstellungsmuster.hpp"
 
+#include "platform/gesetzt.hpp"
+
 #include <algorithm>
 #include <utility>
 
@@ -11,19 +13,6 @@ constexpr int kPause = 200;    ///< ms without a change until the page is drawn
 constexpr int kNaechstes = 10; ///< ms from one small page to the next: keys and clicks come between
 constexpr Paper kA4;
 constexpr int kRand = twips(10); ///< of the ground around the page
-
-/// Sets a flag for its lifetime.
-class Arbeit {
-public:
-    explicit Arbeit(bool& schalter) : schalter_(schalter), vorher_(std::exchange(schalter, true)) {}
-    Arbeit(const Arbeit&) = delete;
-    Arbeit& operator=(const Arbeit&) = delete;
-    ~Arbeit() { schalter_ = vorher_; }
-
-private:
-    bool& schalter_;
-    bool vorher_;
-};
 
 } // namespace
 
@@ -79,14 +68,14 @@ void Einstellungsmuster::veralten() {
 
 /// Begins to wait anew.
 void Einstellungsmuster::warten(int ms) {
-    const Arbeit eigene(bei_der_arbeit_);
+    const Gesetzt eigene(bei_der_arbeit_);
     einstellungen_.Timer_Muster.Enabled = false;
     einstellungen_.Timer_Muster.Interval = ms;
     einstellungen_.Timer_Muster.Enabled = true;
 }
 
 void Einstellungsmuster::Timer_Muster_Timer() {
-    const Arbeit eigene(bei_der_arbeit_);
+    const Gesetzt eigene(bei_der_arbeit_);
     einstellungen_.Timer_Muster.Enabled = false;
     if (!einstellungen_.shown()) {
         return;
@@ -102,7 +91,7 @@ void Einstellungsmuster::Timer_Muster_Timer() {
 }
 
 void Einstellungsmuster::MUSTER_ZEICHNEN() {
-    const Arbeit eigene(bei_der_arbeit_);
+    const Gesetzt eigene(bei_der_arbeit_);
     veraltet_ = false;
     beleg_->AUFNEHMEN();
     const std::string hinweis = beleg_->ZEICHNEN(einstellungen_.Picture_Muster);
@@ -119,7 +108,7 @@ void Einstellungsmuster::LAYOUTBILD_ZEICHNEN() {
 
 /// The page fills its frame as far as its proportions allow, with a margin.
 void Einstellungsmuster::anordnen() {
-    const Arbeit eigene(bei_der_arbeit_);
+    const Gesetzt eigene(bei_der_arbeit_);
     const Frame& raum = einstellungen_.Frame_Muster;
     const int breite = std::max(0, raum.Width() - 2 * kRand);
     const int hoehe = std::max(0, raum.Height() - 2 * kRand);

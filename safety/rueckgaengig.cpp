@@ -1,5 +1,7 @@
 #include "safety/rueckgaengig.hpp"
 
+#include "platform/gesetzt.hpp"
+
 #include <algorithm>
 #include <string>
 #include <utility>
@@ -10,18 +12,6 @@ namespace {
 
 constexpr const char* kRueckgaengig = "&Rückgängig";
 constexpr const char* kWiederholen = "&Wiederholen";
-
-class Arbeit {
-public:
-    explicit Arbeit(bool& schalter) : schalter_(schalter), vorher_(std::exchange(schalter, true)) {}
-    Arbeit(const Arbeit&) = delete;
-    Arbeit& operator=(const Arbeit&) = delete;
-    ~Arbeit() { schalter_ = vorher_; }
-
-private:
-    bool& schalter_;
-    bool vorher_;
-};
 
 void eintrag_zeigen(Menu& eintrag, const char* text, const char* schritt) {
     eintrag.Caption = schritt == nullptr ? std::string(text) : std::string(text) + ": " + schritt;
@@ -67,7 +57,7 @@ void Rueckgaengig::ruhe() {
     if (bei_der_arbeit_) {
         return;
     }
-    const Arbeit hier(bei_der_arbeit_);
+    const Gesetzt hier(bei_der_arbeit_);
     if (!begonnen_) {
         if (form1_.loaded()) {
             beginnen();
